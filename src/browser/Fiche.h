@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QtGlobal>
+
+namespace browser {
+
+class Frmmain;
+
+/// Shows the recipe of that number in the detail; the controls keep what they held when there is none. Throws
+/// DatabaseError, and std::out_of_range for a cost or difficulty outside its vocabulary.
+void ChargerRecette(Frmmain &frm, qint64 numero);
+
+/// Shows the ingredient lines of a recipe, a row of three buttons for each and a dotted one behind them. A line that
+/// cannot be read leaves a gap.
+void AfficherIngredients(Frmmain &frm, qint64 numero);
+
+/// Stacks the controls of the detail in Scroll(0).
+void PlacerFiche(Frmmain &frm);
+
+/// Refills the drop lists of the detail from their tables.
+void ChargerLesListesCombo(Frmmain &frm);
+
+/// Hides the drop lists of the detail.
+void CacherListeModif(Frmmain &frm);
+
+} // namespace browser

@@ -1,0 +1,337 @@
+#include "Frmmain.h"
+
+#include "Fiche.h"
+#include "Vues.h"
+
+#include "platform/controls/Fonts.h"
+#include "store/Vocabulaires.h"
+
+#include <array>
+
+namespace browser {
+
+namespace {
+
+using namespace platform::controls;
+
+constexpr std::u16string_view kChangerImage = u"Cliquer ICI pour modifier l'image";
+
+// Places in twips; those of the detail (from CadrePhoto on) are inside Scroll(0), and PlacerFiche stacks them.
+constexpr std::array kControles{
+    ControlRow{"Embleme", 150, 60, 480, 480},
+    ControlRow{"Enseigne", 6180, 15, 3000, 540},
+    ControlRow{"Btn_Min", 14190, 120, 360, 360, u"", u"Minimiser"},
+    ControlRow{"Btn_Quit", 14760, 120, 360, 360, u"", u"Fermer"},
+
+    ControlRow{"Outils(0)", 150, 660, 1350, 570, u"", u"Ajouter manuellement une recette"},
+    ControlRow{"Outils(1)", 1521, 660, 1350, 570, u"", u"Ajouter une recette avec le partenaire"},
+    ControlRow{"Outils(2)", 2892, 660, 1350, 570, u"", u"Consulter les fiches"},
+    ControlRow{"Outils(3)", 4263, 660, 1350, 570, u"", u"Acquérir une image"},
+    ControlRow{"Outils(4)", 5634, 660, 1350, 570, u"", u"Rechercher une recette"},
+    ControlRow{"Outils(5)", 7005, 660, 1350, 570, u"", u"Sauvegarder la base"},
+    ControlRow{"Outils(6)", 8376, 660, 1350, 570, u"", u"Restaurer une base"},
+    ControlRow{"Outils(7)", 9747, 660, 1350, 570, u"", u"Visiter le site de notre partenaire"},
+    ControlRow{"Outils(8)", 11118, 660, 1350, 570, u"", u"Visiter le site de l'auteur"},
+    ControlRow{"Outils(9)", 12489, 660, 1350, 570, u"", u"A Propos"},
+    ControlRow{"Outils(10)", 13860, 660, 1350, 570, u"", u"Aide"},
+    ControlRow{"LBtn(0)", 150, 1230, 1350, 435, u"Création manuelle"},
+    ControlRow{"LBtn(1)", 1521, 1230, 1350, 435, u"Création facile"},
+    ControlRow{"LBtn(2)", 2892, 1230, 1350, 435, u"Fiches de recettes"},
+    ControlRow{"LBtn(3)", 4263, 1230, 1350, 435, u"Acquisition des images"},
+    ControlRow{"LBtn(4)", 5634, 1230, 1350, 435, u"Recherche multicritères"},
+    ControlRow{"LBtn(5)", 7005, 1230, 1350, 435, u"Sauvegarde"},
+    ControlRow{"LBtn(6)", 8376, 1230, 1350, 435, u"Restauration"},
+    ControlRow{"LBtn(7)", 9747, 1230, 1350, 435, u"Site du          partenaire"},
+    ControlRow{"LBtn(8)", 11118, 1230, 1350, 435, u"Site de l'auteur"},
+    ControlRow{"LBtn(9)", 12489, 1230, 1350, 435, u"A Propos"},
+    ControlRow{"LBtn(10)", 13860, 1230, 1350, 435, u"Aide"},
+    ControlRow{"LBtn(11)", 13860, 1230, 1350, 435, u"Restauration"},
+
+    ControlRow{"Bouton(0)", 150, 1770, 1800, 1065, u"Alphabétique"},
+    ControlRow{"Bouton(1)", 150, 2898, 1800, 1065, u"Durée Cuisson"},
+    ControlRow{"Bouton(2)", 150, 4026, 1800, 1065, u"Nbre Personnes"},
+    ControlRow{"Bouton(3)", 150, 5154, 1800, 1065, u"Coût"},
+    ControlRow{"Bouton(4)", 150, 6282, 1800, 1065, u"Difficultés"},
+    ControlRow{"Bouton(5)", 150, 7410, 1800, 1065, u"Types de plats"},
+    ControlRow{"Bouton(6)", 150, 8538, 1800, 1065, u"Ingrédients"},
+    ControlRow{"Bouton(7)", 150, 9666, 1800, 1065, u"Durée de Réalisation"},
+
+    ControlRow{"LTGauche", 2100, 1770, 4950, 335},
+    ControlRow{"Liste", 2100, 2105, 4950, 8300, u"", u"", u"Liste"},
+    ControlRow{"LTCentre2", 2100, 6025, 4950, 380, u"Recettes"},
+    ControlRow{"LFilms", 2100, 6405, 4950, 4000, u"", u"", u"Recettes du groupe"},
+    ControlRow{"LBGauche", 2100, 10435, 4950, 300},
+
+    ControlRow{"Icone_DEco", 7230, 1755, 420, 420},
+    ControlRow{"LTDroit", 7740, 1755, 7470, 420},
+    ControlRow{"Scroll(0)", 7200, 2250, 8010, 8485},
+    ControlRow{"Scroll(1)", 7200, 2250, 8010, 8485},
+    ControlRow{"Cadre(1)", 105, 60, 7770, 8368},
+
+    ControlRow{"CadrePhoto", 200, 200, 7360, 4416, u"Pas de photo"},
+    ControlRow{"Photo", 200, 200, 6960, 4016, u"", kChangerImage},
+    ControlRow{"ImageTemp", 0, 0, 15, 15},
+    ControlRow{"Libelle(0)", 200, 0, 3600, 270, u"Ingrédients"},
+    ControlRow{"Libelle(1)", 200, 0, 3600, 270, u"Nombre de Personnes"},
+    ControlRow{"Libelle(2)", 4000, 0, 3600, 270, u"Type de Plat"},
+    ControlRow{"Libelle(3)", 200, 0, 3600, 270, u"Préparation"},
+    ControlRow{"Libelle(4)", 200, 0, 3600, 270, u"Compléments"},
+    ControlRow{"Libelle(5)", 4000, 0, 3600, 270, u"Durée Réalisation"},
+    ControlRow{"Libelle(7)", 200, 0, 3400, 270, u"Durée Cuisson"},
+    ControlRow{"Libelle(8)", 200, 0, 1700, 270, u"Coût"},
+    ControlRow{"Libelle(9)", 2105, 0, 1700, 270, u"Difficulté"},
+    ControlRow{"Libelle(10)", 4005, 0, 3600, 270, u"Conseil Vin"},
+    ControlRow{"Data(0)", 200, 0, 3400, 345, u"", u"", u"Nombre de Personnes"},
+    ControlRow{"Data(1)", 4005, 0, 3600, 345, u"", u"", u"Type de Plat"},
+    ControlRow{"Data(2)", 200, 0, 1700, 345, u"", u"", u"Coût"},
+    ControlRow{"Data(3)", 2105, 0, 1700, 345, u"", u"", u"Difficulté"},
+    ControlRow{"Data(4)", 4005, 0, 3600, 345, u"", u"", u"Conseil Vin"},
+    ControlRow{"Data(5)", 4005, 0, 3600, 345, u"", u"", u"Durée Réalisation"},
+    ControlRow{"Data(6)", 200, 0, 3400, 345, u"", u"", u"Durée Cuisson"},
+    ControlRow{"Quantite(0)", 200, 0, 1200, 345, u"", u"", u"Quantité"},
+    ControlRow{"Mesure(0)", 1500, 0, 2100, 345, u"", u"", u"Mesure"},
+    ControlRow{"Ingre(0)", 3700, 0, 3900, 345, u"", u"", u"Ingrédient"},
+    ControlRow{"Saisie(0)", 200, 0, 7410, 4500, u"", u"", u"Préparation"},
+    ControlRow{"Saisie(1)", 200, 0, 7410, 2250, u"", u"", u"Compléments"},
+    ControlRow{"LCategorie", 200, 0, 3400, 345, u"", u"", u"Durée Cuisson"},
+    ControlRow{"LDureeReal", 4005, 0, 3600, 345, u"", u"", u"Durée Réalisation"},
+    ControlRow{"LVerre", 200, 0, 3400, 345, u"", u"", u"Nombre de Personnes"},
+    ControlRow{"LMateriel", 4005, 0, 3600, 345, u"", u"", u"Type de Plat"},
+    ControlRow{"LCout", 200, 0, 1700, 345, u"", u"", u"Coût"},
+    ControlRow{"LDiff", 2105, 0, 1700, 345, u"", u"", u"Difficulté"},
+    ControlRow{"LTeneur", 4005, 0, 3600, 345, u"", u"", u"Conseil Vin"},
+    ControlRow{"LQuantite", 200, 0, 1200, 345, u"", u"", u"Quantité"},
+    ControlRow{"LMesure", 1500, 0, 2100, 345, u"", u"", u"Mesure"},
+    ControlRow{"LIngre", 3700, 0, 3900, 345, u"", u"", u"Ingrédient"},
+
+    ControlRow{"Chargement", 2700, 5400, 3750, 900},
+    ControlRow{"Label1", 150, 120, 3450, 270, u"Chargement ..."},
+    ControlRow{"Pb", 150, 450, 3450, 300},
+};
+
+constexpr Rectangle kBarreOutils{Twips(90), Twips(645), Twips(15180), Twips(1050)};
+
+QString nomme(const char *dossier, int numero) {
+    return QStringLiteral(":/%1-%2.png").arg(QLatin1String(dossier)).arg(numero);
+}
+
+std::vector<QPixmap> imagesDesVues() {
+    std::vector<QPixmap> images;
+    for (int vue = 0; vue < kNombreDeVues; ++vue) {
+        images.push_back(resourcePicture(nomme("icones/vue", vue)));
+    }
+    return images;
+}
+
+const QColor kEncre(22, 33, 58);
+const QColor kFondPhoto(190, 206, 232);
+const QColor kCouleurPreparation(160, 250, 255);
+constexpr QPoint kBoutDuDoigt(10, 4);
+
+void PeindreValeur(Ribbon &bouton) {
+    bouton.SetLook(Look::Value);
+    bouton.setFont(interfaceFont(Face::Verdana, 8.25));
+    bouton.SetForeColor(kEncre);
+}
+
+// Black marks the button of the current view, and the pointer leaves it black.
+void Survoler(Ribbon &bouton, const QColor &couleur) {
+    if (bouton.ForeColor() != Qt::black) {
+        bouton.SetForeColor(couleur);
+    }
+}
+
+} // namespace
+
+Frmmain::Frmmain()
+    : SkinnedWindow(QStringLiteral("Frmmain"), kWindowSize), m_img(imagesDesVues()),
+      m_main(resourcePicture(QStringLiteral(":/curseurs/main.png")), kBoutDuDoigt.x(), kBoutDuDoigt.y()),
+      Embleme(this, rowNamed(kControles, "Embleme")), Enseigne(this, rowNamed(kControles, "Enseigne")),
+      Outils(this, kControles, "Outils"), LBtn(this, kControles, "LBtn"),
+      Btn_Min(this, rowNamed(kControles, "Btn_Min")), Btn_Quit(this, rowNamed(kControles, "Btn_Quit")),
+      Bouton(this, kControles, "Bouton"), LTGauche(this, rowNamed(kControles, "LTGauche")),
+      Liste(this, rowNamed(kControles, "Liste")), LTCentre2(this, rowNamed(kControles, "LTCentre2")),
+      LFilms(this, rowNamed(kControles, "LFilms")), LBGauche(this, rowNamed(kControles, "LBGauche")),
+      Icone_DEco(this, rowNamed(kControles, "Icone_DEco")), LTDroit(this, rowNamed(kControles, "LTDroit")),
+      Scroll(this, kControles, "Scroll"), Cadre(Scroll(1).Content(), kControles, "Cadre"),
+      CadrePhoto(Scroll(0).Content(), rowNamed(kControles, "CadrePhoto")),
+      Photo(&CadrePhoto, rowNamed(kControles, "Photo")), ImageTemp(this, rowNamed(kControles, "ImageTemp")),
+      Libelle(Scroll(0).Content(), kControles, "Libelle"), Data(Scroll(0).Content(), kControles, "Data"),
+      Quantite(Scroll(0).Content(), kControles, "Quantite"), Mesure(Scroll(0).Content(), kControles, "Mesure"),
+      Ingre(Scroll(0).Content(), kControles, "Ingre"), Saisie(Scroll(0).Content(), kControles, "Saisie"),
+      LCategorie(Scroll(0).Content(), rowNamed(kControles, "LCategorie")),
+      LDureeReal(Scroll(0).Content(), rowNamed(kControles, "LDureeReal")),
+      LVerre(Scroll(0).Content(), rowNamed(kControles, "LVerre")),
+      LMateriel(Scroll(0).Content(), rowNamed(kControles, "LMateriel")),
+      LCout(Scroll(0).Content(), rowNamed(kControles, "LCout")),
+      LDiff(Scroll(0).Content(), rowNamed(kControles, "LDiff")),
+      LTeneur(Scroll(0).Content(), rowNamed(kControles, "LTeneur")),
+      LQuantite(Scroll(0).Content(), rowNamed(kControles, "LQuantite")),
+      LMesure(Scroll(0).Content(), rowNamed(kControles, "LMesure")),
+      LIngre(Scroll(0).Content(), rowNamed(kControles, "LIngre")),
+      Chargement(this, rowNamed(kControles, "Chargement")),
+      Label1(&Chargement, rowNamed(kControles, "Label1")), Pb(&Chargement, rowNamed(kControles, "Pb")) {
+    Peindre();
+    PeindreOutils();
+    PeindreFiche();
+    BrancherBoutons();
+    BrancherListes();
+}
+
+void Frmmain::Peindre() {
+    SetStrips({kBarreOutils});
+    Embleme.SetPicture(resourcePicture(QStringLiteral(":/icones/savorel.png")).toImage());
+    Enseigne.SetPicture(resourcePicture(QStringLiteral(":/themes/enseigne.png")).toImage());
+
+    const QFont titre = interfaceFont(Face::Verdana, 9, true);
+    for (Label *label : {&LTGauche, &LTCentre2, &LBGauche}) {
+        label->setFont(titre);
+        label->SetForeColor(Qt::white);
+    }
+    LBGauche.setFont(interfaceFont(Face::Verdana, 8.25));
+    LTDroit.setFont(interfaceFont(Face::Verdana, 13, true));
+    LTDroit.SetForeColor(Qt::white);
+    LTCentre2.hide();
+    Scroll(1).SetBackColor(QColor(kListGround));
+    // A recipe covers the theme of its group.
+    Scroll(0).raise();
+
+    Chargement.SetBackColor(skin().strip);
+    Pb.SetBackColor(Qt::white);
+    Label1.setFont(titre);
+    Label1.SetForeColor(kEncre);
+    Label1.setAlignment(Qt::AlignCenter);
+    Chargement.hide();
+}
+
+void Frmmain::PeindreOutils() {
+    for (int index = 0; index < Outils.Count(); ++index) {
+        Ribbon &outil = Outils(index);
+        outil.SetLook(Look::Tool);
+        outil.SetPicture(resourcePicture(nomme("icones/outil", index)));
+    }
+    LBtn.ForEach([](Panel &panneau) {
+        panneau.setFont(interfaceFont(Face::SansSerif, 8.25));
+        panneau.SetForeColor(Qt::blue);
+    });
+    // The toolbar has a panel too many, which stands for no tool.
+    LBtn(Outils.Count()).hide();
+
+    for (int vue = 0; vue < Bouton.Count(); ++vue) {
+        Ribbon &bouton = Bouton(vue);
+        bouton.SetLook(Look::Sort);
+        bouton.setFont(interfaceFont(Face::Comic, 10, true));
+        bouton.SetForeColor(Qt::white);
+        bouton.SetPicture(m_img[static_cast<std::size_t>(vue)]);
+    }
+    for (auto [bouton, nom] : {std::pair(&Btn_Min, "reduire"), std::pair(&Btn_Quit, "fermer")}) {
+        const QPixmap repos = resourcePicture(QStringLiteral(":/icones/%1.png").arg(QLatin1String(nom)));
+        bouton->SetPicture(repos);
+        bouton->SetRestingPicture(repos);
+        bouton->SetHoverPicture(resourcePicture(QStringLiteral(":/icones/%1-survol.png").arg(QLatin1String(nom))));
+    }
+}
+
+void Frmmain::PeindreFiche() {
+    const QFont titre = interfaceFont(Face::Verdana, 8.25, true);
+    Libelle.ForEach([&titre](Label &libelle) {
+        libelle.setFont(titre);
+        libelle.SetForeColor(kEncre);
+    });
+    Data.ForEach(PeindreValeur);
+    for (Array<Ribbon> *colonne : {&Quantite, &Mesure, &Ingre}) {
+        PeindreValeur((*colonne)(0));
+    }
+    CadrePhoto.setFont(titre);
+    CadrePhoto.SetForeColor(kEncre);
+    CadrePhoto.SetBackColor(kFondPhoto);
+    Photo.hide();
+    ImageTemp.hide();
+    Saisie(0).SetDefaultColor(kCouleurPreparation);
+    Saisie(1).SetDefaultColor(Qt::white);
+    for (DropList *liste : {&LCategorie, &LDureeReal, &LVerre, &LMateriel, &LCout, &LDiff, &LTeneur, &LQuantite,
+                            &LMesure, &LIngre}) {
+        liste->hide();
+    }
+}
+
+void Frmmain::PreparerListes() {
+    for (List *liste : {&Liste, &LFilms}) {
+        liste->SetColumn(QStringLiteral("Titre"), liste->Width() - Twips(300));
+        liste->SetImageList(m_img);
+    }
+}
+
+void Frmmain::RemplirVocabulaires() {
+    // The sixth class of cost is empty and not offered.
+    for (std::size_t code = 0; code + 1 < store::Cout.size(); ++code) {
+        LCout.AddItem(store::Cout[code].toString());
+    }
+    for (const QStringView classe : store::Difficulte) {
+        LDiff.AddItem(classe.toString());
+    }
+    LCout.SetListIndex(0);
+    LDiff.SetListIndex(0);
+}
+
+void Frmmain::MontrerTheme(int vue) {
+    Cadre(1).SetPicture(resourcePicture(nomme("themes/vue", vue)).toImage());
+    Cadre(1).show();
+}
+
+void Frmmain::SetCouleurSelection(const QColor &couleur) {
+    CouleurSelection = couleur;
+    Liste.SetSelectionColour(couleur);
+}
+
+void Frmmain::ChargerLigne() {
+    PeindreValeur(Quantite.Load(rowNamed(kControles, "Quantite(0)")));
+    PeindreValeur(Mesure.Load(rowNamed(kControles, "Mesure(0)")));
+    PeindreValeur(Ingre.Load(rowNamed(kControles, "Ingre(0)")));
+}
+
+void Frmmain::BrancherBoutons() {
+    for (int vue = 0; vue < Bouton.Count(); ++vue) {
+        Ribbon &bouton = Bouton(vue);
+        connect(&bouton, &Ribbon::toggled, this, [this, vue] { PresserBouton(*this, vue); });
+        connect(&bouton, &Ribbon::Entered, this, [&bouton] { Survoler(bouton, Qt::yellow); });
+        connect(&bouton, &Ribbon::Exited, this, [&bouton] { Survoler(bouton, Qt::white); });
+    }
+    for (int index = 0; index < Outils.Count(); ++index) {
+        connect(&Outils(index), &Ribbon::toggled, this, [this, index](bool presse) {
+            if (presse) {
+                Q_EMIT OutilPresse(index);
+            }
+        });
+    }
+    connect(&Btn_Quit, &Ribbon::toggled, this, [this](bool presse) {
+        if (presse) {
+            Q_EMIT FermetureDemandee();
+        }
+    });
+    connect(&Btn_Min, &Ribbon::toggled, this, [this](bool presse) {
+        if (presse) {
+            Q_EMIT ReductionDemandee();
+        }
+    });
+}
+
+void Frmmain::BrancherListes() {
+    connect(&Liste, &List::ItemClicked, this, [this] { ClicListe(*this); });
+    connect(&Liste, &List::ArrowReleased, this, [this] { FlecheListe(*this); });
+    connect(&Liste, &List::AfterLabelEdit, this,
+            [this](int index, const QString &texte) { RenommerListe(*this, index, texte); });
+    connect(&Liste, &List::RightClicked, this, [this] { Outils(2).SetTag(VueCourante() == 0 ? kHaut : QString()); });
+    connect(&LFilms, &List::ItemClicked, this, [this] { ClicFilms(*this); });
+    connect(&LFilms, &List::ArrowReleased, this, [this] { ClicFilms(*this); });
+    connect(&LFilms, &List::AfterLabelEdit, this,
+            [this](int index, const QString &texte) { RenommerFilms(*this, index, texte); });
+    connect(&LFilms, &List::RightClicked, this, [this] { Outils(2).SetTag(kBas); });
+    for (List *liste : {&Liste, &LFilms}) {
+        connect(liste, &List::Focused, this, [liste] { liste->SetLabelEdit(List::LabelEditMode::Manual); });
+    }
+    connect(&Scroll(0), &ScrollPanel::Clicked, this, [this] { CacherListeModif(*this); });
+    connect(&Saisie(0), &RichTextBox::Clicked, this, [this] { Scroll(0).update(); });
+}
+
+} // namespace browser

@@ -1,0 +1,117 @@
+#pragma once
+
+#include "platform/controls/ControlArray.h"
+#include "platform/controls/DropList.h"
+#include "platform/controls/Labels.h"
+#include "platform/controls/ListView.h"
+#include "platform/controls/Picture.h"
+#include "platform/controls/RibbonButton.h"
+#include "platform/controls/RichTextBox.h"
+#include "platform/controls/ScrollPanel.h"
+#include "platform/controls/SkinnedWindow.h"
+
+#include <vector>
+
+namespace browser {
+
+/// The main window: the recipes in eight sort views at the left, the recipe chosen at the right. It holds controls
+/// and what they cannot hold; what it does is in Vues.h (lists) and Fiche.h (recipe).
+class Frmmain : public platform::controls::SkinnedWindow {
+    Q_OBJECT
+
+public:
+    Frmmain();
+
+    /// Column headed "Titre" of both lists.
+    void PreparerListes();
+    /// Fills the lists that offer the fixed vocabularies; a row's place is its code.
+    void RemplirVocabulaires();
+    /// The pictures of the views, number view + 1.
+    const std::vector<QPixmap> &Img() const { return m_img; }
+    /// The hand that points at a row.
+    const QCursor &CurseurMain() const { return m_main; }
+    /// Shows the theme picture of a view in Cadre(1).
+    void MontrerTheme(int vue);
+
+private:
+    std::vector<QPixmap> m_img;
+    QCursor m_main;
+
+public:
+    using Label = platform::controls::Label;
+    using List = platform::controls::List;
+    using Image = platform::controls::Image;
+    using Panel = platform::controls::Panel;
+    using Ribbon = platform::controls::Ribbon;
+    using DropList = platform::controls::DropList;
+    using ScrollPanel = platform::controls::ScrollPanel;
+    using RichTextBox = platform::controls::RichTextBox;
+    template <class Control>
+    using Array = platform::controls::ControlArray<Control>;
+
+    // Title band and toolbar.
+    Image Embleme, Enseigne;
+    Array<Ribbon> Outils;
+    Array<Panel> LBtn;
+    Ribbon Btn_Min, Btn_Quit;
+
+    // The views.
+    Array<Ribbon> Bouton;
+    Label LTGauche;
+    List Liste;
+    Label LTCentre2;
+    List LFilms;
+    Label LBGauche;
+
+    // The place of the recipe: its name, the theme of a group, the scrolling detail above it.
+    Image Icone_DEco;
+    Label LTDroit;
+    Array<ScrollPanel> Scroll;
+    Array<Image> Cadre;
+
+    // The detail, in Scroll(0).
+    Panel CadrePhoto;
+    Image Photo;
+    Image ImageTemp;
+    Array<Label> Libelle;
+    Array<Ribbon> Data;
+    Array<Ribbon> Quantite, Mesure, Ingre;
+    Array<RichTextBox> Saisie;
+    DropList LCategorie, LDureeReal, LVerre, LMateriel, LCout, LDiff, LTeneur;
+    DropList LQuantite, LMesure, LIngre;
+
+    // The loading panel.
+    Panel Chargement;
+    Label Label1;
+    Panel Pb;
+
+    /// Key of the row of Liste that ListeHaute last acted on; empty after a sort button.
+    QString CleCourante;
+    /// Text and number of the selected row of Liste.
+    QString TitreCourant;
+    qint64 NumeroCourant = 0;
+    /// Colour of the highlighted row of Liste.
+    QColor CouleurSelection;
+
+    void SetCouleurSelection(const QColor &couleur);
+
+    /// One further row of the ingredient buttons, as the window's design has them, hidden.
+    void ChargerLigne();
+
+Q_SIGNALS:
+    /// The close button was pressed; Value is still true.
+    void FermetureDemandee();
+    /// The minimise button was pressed; Value is still true.
+    void ReductionDemandee();
+    /// A tool of the toolbar was pressed; Value is still true.
+    void OutilPresse(int index);
+
+private:
+    void Peindre();
+    void PeindreOutils();
+    void PeindreFiche();
+    void BrancherBoutons();
+    void BrancherListes();
+};
+
+} // namespace browser

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QString>
+
+namespace browser {
+
+class Frmmain;
+
+/// Number of sort views.
+inline constexpr int kNombreDeVues = 8;
+
+/// What Outils(2).Tag holds: which list names the current recipe.
+inline const QString kHaut = QStringLiteral("H");
+inline const QString kBas = QStringLiteral("B");
+
+/// Stored instead of a view while a first view is being loaded.
+inline constexpr int kVueAucune = 99;
+
+/// The view stored in the settings: 0 to 7, or kVueAucune.
+/// Throws platform::settings::ConversionError for a stored text that is no number.
+int VueCourante();
+void EnregistrerVue(int vue);
+
+/// The event of Bouton(vue): makes the view current, if the button went down and the view is another one.
+void PresserBouton(Frmmain &frm, int vue);
+
+/// Makes a view current: loads its rows into Liste and shows the first one. Throws DatabaseError.
+void TrierListe(Frmmain &frm, int vue);
+
+/// What ChargerListe loads: the table and its text column, the header above the list and the text after the count.
+struct Rubrique {
+    QString table, champ, entete, suffixe;
+};
+
+/// Fills Liste with the rows of a view, selects and highlights the first one. Throws DatabaseError.
+void ChargerListe(Frmmain &frm, const Rubrique &rubrique, int vue);
+
+/// Acts on the selected row of Liste: shows the recipe, or the recipes of the group in LFilms. The same row is not
+/// acted on twice. Throws DatabaseError.
+void ListeHaute(Frmmain &frm);
+
+/// Loads LFilms with the recipes of the group selected in Liste.
+void ChargerRecettesVue(Frmmain &frm, int vue);
+/// Those whose column holds the number of the selected row.
+void ChargerRecettesCritere(Frmmain &frm, const QString &table, const QString &champ);
+/// Those with a line of the selected ingredient.
+void ChargerRecettesIngredient(Frmmain &frm);
+
+/// The user's actions in the two lists.
+void ClicListe(Frmmain &frm);
+void FlecheListe(Frmmain &frm);
+void ClicFilms(Frmmain &frm);
+/// Stores the new text of a row edited in place, if it differs.
+void RenommerListe(Frmmain &frm, int index, const QString &texte);
+void RenommerFilms(Frmmain &frm, int index, const QString &texte);
+
+} // namespace browser

@@ -1,0 +1,60 @@
+// The start of the process, and the guard at its end: whatever no window has caught ends here, in a message box.
+
+#include "browser/Frmmain.h"
+#include "platform/desktop/SingleInstance.h"
+#include "platform/dialogs/French.h"
+#include "platform/dialogs/MessageBox.h"
+#include "shell/Demarrage.h"
+#include "shell/FinDuProgramme.h"
+#include "store/Livre.h"
+#include "store/Programme.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <cstdlib>
+#include <exception>
+
+namespace {
+
+/// Runs an action of the program. An exception ends the process there and then, without unwinding the event loops
+/// below, which are not made for it.
+template <class Action>
+auto guarded(Action action) {
+    try {
+        return action();
+    } catch (const shell::FinDuProgramme &fin) {
+        std::_Exit(fin.code);
+    } catch (const std::exception &failure) {
+        QGuiApplication::restoreOverrideCursor();
+        platform::dialogs::Message(nullptr, store::TitreProgramme.toString(), QString::fromUtf8(failure.what()),
+                                   platform::dialogs::Icon::Critical);
+        std::_Exit(EXIT_FAILURE);
+    }
+}
+
+class Application : public QApplication {
+public:
+    using QApplication::QApplication;
+
+    bool notify(QObject *receiver, QEvent *event) override {
+        return guarded([&] { return QApplication::notify(receiver, event); });
+    }
+};
+
+} // namespace
+
+int main(int argc, char *argv[]) {
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    Application application(argc, argv);
+    QApplication::setApplicationName(store::TitreProgramme.toString());
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icones/savorel.png")));
+    store::PreparerLivre();
+    platform::dialogs::SpeakFrench(store::DossierProgramme() + QStringLiteral("/translations"));
+    return guarded([] {
+        const platform::desktop::SingleInstance instance(store::TitreProgramme.toString());
+        browser::Frmmain frmmain;
+        shell::ChargerFrmmain(frmmain, instance);
+        return QApplication::exec();
+    });
+}

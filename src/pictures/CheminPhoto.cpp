@@ -1,0 +1,33 @@
+#include "CheminPhoto.h"
+
+#include "store/Programme.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace pictures {
+
+namespace {
+
+QString cheminNomme(const QString &nom) {
+    // Nothing is ever found from the working directory, so a relative path is no path.
+    if (nom.contains(QLatin1Char('\\')) || QDir::isAbsolutePath(nom)) {
+        return QDir::isAbsolutePath(nom) ? nom : QString();
+    }
+    const QString dossier = QDir::cleanPath(store::DossierProgramme() + QStringLiteral("/photos")) + QLatin1Char('/');
+    const QString chemin = QDir::cleanPath(dossier + nom);
+    return chemin.startsWith(dossier) ? chemin : QString();
+}
+
+} // namespace
+
+QString CheminPhoto(const QString &valeur) {
+    const QString nom = valeur.trimmed().remove(QStringLiteral("<BR>"));
+    if (nom.isEmpty()) {
+        return {};
+    }
+    const QString chemin = cheminNomme(nom);
+    return QFileInfo(chemin).isFile() ? chemin : QString();
+}
+
+} // namespace pictures

@@ -1,0 +1,87 @@
+#include "Labels.h"
+
+#include "SkinnedWindow.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace platform::controls {
+
+TextLabel::TextLabel(QWidget *parent) : QLabel(parent) { setTextFormat(Qt::PlainText); }
+
+void TextLabel::SetForeColor(const QColor &colour) {
+    QPalette colours = palette();
+    colours.setColor(foregroundRole(), colour);
+    setPalette(colours);
+}
+
+void TextLabel::paintEvent(QPaintEvent * /*event*/) {
+    QPainter painter(this);
+    painter.setPen(palette().color(foregroundRole()));
+    painter.drawText(rect(), static_cast<int>(alignment()) | Qt::TextSingleLine, text());
+}
+
+void TextLabel::mouseDoubleClickEvent(QMouseEvent * /*event*/) { Q_EMIT DoubleClicked(); }
+
+CaptionPanel::CaptionPanel(QWidget *parent) : QWidget(parent) {}
+
+void CaptionPanel::SetCaption(const QString &caption) {
+    m_caption = caption;
+    update();
+}
+
+void CaptionPanel::SetForeColor(const QColor &colour) {
+    QPalette colours = palette();
+    colours.setColor(foregroundRole(), colour);
+    setPalette(colours);
+}
+
+void CaptionPanel::SetBackColor(const QColor &colour) {
+    m_ground = colour;
+    update();
+}
+
+void CaptionPanel::SetFloodPercent(double percent) {
+    const int whole = qBound(0, static_cast<int>(percent), 100);
+    if (whole != m_flood) {
+        m_flood = whole;
+        repaint();
+    }
+}
+
+void CaptionPanel::paintEvent(QPaintEvent * /*event*/) {
+    QPainter painter(this);
+    if (m_ground.alpha() > 0) {
+        paintBlock(painter, rect(), 4, m_ground, m_ground.darker(106), skinAround(*this).edge);
+    }
+    if (m_flood > 0) {
+        const QRectF filled(2, 2, (width() - 4) * m_flood / 100.0, height() - 4.0);
+        const QColor accent = skinAround(*this).accent;
+        paintBlock(painter, filled, 3, accent.lighter(120), accent, QColor());
+    }
+    painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, foregroundRole()));
+    painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, m_caption);
+}
+
+void CaptionPanel::mouseReleaseEvent(QMouseEvent *event) {
+    if (!rect().contains(event->position().toPoint())) {
+        return;
+    }
+    if (event->button() == Qt::LeftButton) {
+        Q_EMIT Clicked();
+    } else if (event->button() == Qt::RightButton) {
+        Q_EMIT RightClicked();
+    }
+}
+
+void CaptionPanel::enterEvent(QEnterEvent *event) {
+    QWidget::enterEvent(event);
+    Q_EMIT Entered();
+}
+
+void CaptionPanel::leaveEvent(QEvent *event) {
+    QWidget::leaveEvent(event);
+    Q_EMIT Exited();
+}
+
+} // namespace platform::controls

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "Placed.h"
+
+#include <QLabel>
+
+namespace platform::controls {
+
+/// A line of plain text, cut at its edge.
+class TextLabel : public QLabel {
+    Q_OBJECT
+
+public:
+    explicit TextLabel(QWidget *parent);
+
+    QString Caption() const { return text(); }
+    void SetCaption(const QString &caption) { setText(caption); }
+    void SetForeColor(const QColor &colour);
+
+Q_SIGNALS:
+    void DoubleClicked();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+};
+
+/// A block with a caption in its middle that can be pressed and can fill up as a progress bar.
+class CaptionPanel : public QWidget {
+    Q_OBJECT
+    Q_PROPERTY(QString text READ Caption WRITE SetCaption)
+
+public:
+    explicit CaptionPanel(QWidget *parent);
+
+    QString Caption() const { return m_caption; }
+    void SetCaption(const QString &caption);
+    void SetForeColor(const QColor &colour);
+
+    /// Ground of the panel; transparent by default.
+    void SetBackColor(const QColor &colour);
+
+    /// Shows a flood over this part of the panel, 0 to 100 percent, at once; painted only when the whole
+    /// percentage changes.
+    void SetFloodPercent(double percent);
+    int FloodPercent() const { return m_flood; }
+
+Q_SIGNALS:
+    void Clicked();
+    void RightClicked();
+    void Entered();
+    void Exited();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void enterEvent(QEnterEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+
+private:
+    QString m_caption;
+    QColor m_ground = Qt::transparent;
+    int m_flood = 0;
+};
+
+using Label = Placed<TextLabel>;
+using Panel = Placed<CaptionPanel>;
+
+} // namespace platform::controls

@@ -1,0 +1,98 @@
+#include "ListModel.h"
+
+#include <QFont>
+
+namespace platform::controls {
+
+void ListModel::beginLoading() {
+    beginResetModel();
+    m_rows.clear();
+    m_rowOfKey.clear();
+}
+
+void ListModel::endLoading() { endResetModel(); }
+
+void ListModel::append(const QString &key, const QString &text, int picture) {
+    const auto row = static_cast<int>(m_rows.size());
+    const qsizetype before = m_rowOfKey.size();
+    m_rowOfKey[key] = row;
+    if (m_rowOfKey.size() == before) {
+        throw DuplicateKeyError("La clé « " + key.toStdString() + " » n'est pas unique dans la liste.");
+    }
+    m_rows.push_back({key, text, picture});
+}
+
+void ListModel::remove(int row) {
+    beginRemoveRows({}, row, row);
+    m_rows.erase(m_rows.begin() + row);
+    m_rowOfKey.clear();
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        m_rowOfKey.insert(m_rows[i].key, static_cast<int>(i));
+    }
+    endRemoveRows();
+}
+
+void ListModel::setText(int row, const QString &text) {
+    m_rows.at(static_cast<std::size_t>(row)).text = text;
+    Q_EMIT dataChanged(index(row), index(row), {Qt::DisplayRole});
+}
+
+void ListModel::setHighlight(int row, bool highlighted) {
+    m_rows.at(static_cast<std::size_t>(row)).highlighted = highlighted;
+    Q_EMIT dataChanged(index(row), index(row), {Qt::FontRole, Qt::ForegroundRole});
+}
+
+int ListModel::find(const QString &key) const { return m_rowOfKey.value(key, -1); }
+
+int ListModel::rowCount(const QModelIndex &parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+QVariant ListModel::data(const QModelIndex &index, int role) const {
+    if (!index.isValid() || index.row() >= rowCount()) {
+        return {};
+    }
+    const Row &row = m_rows[static_cast<std::size_t>(index.row())];
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::EditRole:
+        return row.text;
+    case Qt::UserRole:
+        return row.key;
+    case Qt::DecorationRole: {
+        const auto number = static_cast<std::size_t>(row.picture);
+        return number >= 1 && number <= m_pictures.size() ? QVariant(m_pictures[number - 1]) : QVariant();
+    }
+    case Qt::FontRole:
+        if (row.highlighted) {
+            QFont bold;
+            bold.setBold(true);
+            return bold;
+        }
+        return {};
+    case Qt::ForegroundRole:
+        return row.highlighted ? QVariant(m_highlight) : QVariant();
+    default:
+        return {};
+    }
+}
+
+QVariant ListModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    const bool isHeading = section == 0 && orientation == Qt::Horizontal && role == Qt::DisplayRole;
+    return isHeading ? QVariant(m_heading) : QVariant();
+}
+
+bool ListModel::setData(const QModelIndex &index, const QVariant &value, int role) {
+    if (role != Qt::EditRole || !index.isValid()) {
+        return false;
+    }
+    Q_EMIT labelEdited(index.row(), value.toString());
+    setText(index.row(), value.toString());
+    return true;
+}
+
+Qt::ItemFlags ListModel::flags(const QModelIndex &index) const {
+    return QAbstractListModel::flags(index) | Qt::ItemIsEditable;
+}
+
+} // namespace platform::controls

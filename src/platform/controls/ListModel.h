@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QAbstractListModel>
+#include <QColor>
+#include <QHash>
+#include <QPixmap>
+#include <stdexcept>
+#include <vector>
+
+namespace platform::controls {
+
+/// A key that the list has already; what() is a French text in UTF-8.
+class DuplicateKeyError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// The rows of a list view: text, key (Qt::UserRole), number of a picture, highlight. Rows count from 0 here.
+class ListModel : public QAbstractListModel {
+    Q_OBJECT
+
+public:
+    using QAbstractListModel::QAbstractListModel;
+
+    /// Appends rows between these two calls; views are told once, at the end.
+    void beginLoading();
+    void endLoading();
+    /// Throws DuplicateKeyError for a key that is present. Only while loading.
+    void append(const QString &key, const QString &text, int picture);
+
+    void remove(int row);
+    void setText(int row, const QString &text);
+    void setHighlight(int row, bool highlighted);
+    const QString &key(int row) const { return m_rows.at(static_cast<std::size_t>(row)).key; }
+    const QString &text(int row) const { return m_rows.at(static_cast<std::size_t>(row)).text; }
+    int picture(int row) const { return m_rows.at(static_cast<std::size_t>(row)).picture; }
+    /// Row of a key, -1 if absent.
+    int find(const QString &key) const;
+
+    void setPictures(std::vector<QPixmap> pictures) { m_pictures = std::move(pictures); }
+    void setHighlightColour(const QColor &colour) { m_highlight = colour; }
+    void setHeading(const QString &heading) { m_heading = heading; }
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    bool setData(const QModelIndex &index, const QVariant &value, int role) override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+
+Q_SIGNALS:
+    /// The user ended a label edit with this text; the row still holds its former one.
+    void labelEdited(int row, const QString &text);
+
+private:
+    struct Row {
+        QString key, text;
+        int picture;
+        bool highlighted = false;
+    };
+
+    std::vector<Row> m_rows;
+    QHash<QString, int> m_rowOfKey;
+    std::vector<QPixmap> m_pictures; // number 1 is the first
+    QColor m_highlight;
+    QString m_heading;
+};
+
+} // namespace platform::controls

@@ -1,0 +1,122 @@
+#include "ListView.h"
+
+#include "Fonts.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QStyledItemDelegate>
+
+namespace platform::controls {
+
+namespace {
+
+constexpr Twips kRowHeight{330};
+constexpr Twips kPictureSide{270};
+
+/// Rows of one height, so that a list of thousands needs no measuring, with the width of the column.
+class RowDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void setWidth(int width) { m_width = width; }
+    QSize sizeHint(const QStyleOptionViewItem & /*option*/, const QModelIndex & /*index*/) const override {
+        return {m_width, kRowHeight.pixels()};
+    }
+
+private:
+    int m_width = 0;
+};
+
+constexpr bool movesInList(int key) {
+    return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown ||
+           key == Qt::Key_Home || key == Qt::Key_End;
+}
+
+} // namespace
+
+ListBox::ListBox(QWidget *parent) : QListView(parent), m_model(this) {
+    setModel(&m_model);
+    setItemDelegate(new RowDelegate(this));
+    setUniformItemSizes(true);
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setIconSize({kPictureSide.pixels(), kPictureSide.pixels()});
+    setFont(interfaceFont(Face::Verdana, 8.25));
+    SetLabelEdit(LabelEditMode::Manual);
+    connect(&m_model, &ListModel::labelEdited, this,
+            [this](int row, const QString &text) { Q_EMIT AfterLabelEdit(row + 1, text); });
+    connect(this, &QListView::doubleClicked, this, &ListBox::RowActivated);
+}
+
+void ListBox::SetColumn(const QString &heading, Twips width) {
+    m_model.setHeading(heading);
+    static_cast<RowDelegate *>(itemDelegate())->setWidth(width.pixels());
+}
+
+void ListBox::SetImageList(const std::vector<QPixmap> &pictures) {
+    std::vector<QPixmap> small;
+    small.reserve(pictures.size());
+    const double ratio = devicePixelRatio();
+    for (const QPixmap &picture : pictures) {
+        small.push_back(picture.scaled(iconSize() * ratio, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+        small.back().setDevicePixelRatio(ratio);
+    }
+    m_model.setPictures(std::move(small));
+}
+
+void ListBox::SetBackColor(const QColor &colour) {
+    QPalette colours = palette();
+    colours.setColor(QPalette::Base, colour);
+    // The row that the keyboard stands on is shown by a light ground; its writing keeps the row's own colour.
+    colours.setColor(QPalette::Highlight, colour.lighter(118));
+    colours.setColor(QPalette::HighlightedText, colours.color(QPalette::Text));
+    setPalette(colours);
+}
+
+void ListBox::Select(int index) {
+    const QModelIndex row = m_model.index(checked(index));
+    setCurrentIndex(row);
+    scrollTo(row);
+}
+
+void ListBox::SetLabelEdit(LabelEditMode mode) {
+    setEditTriggers(mode == LabelEditMode::Automatic ? QAbstractItemView::SelectedClicked
+                                                     : QAbstractItemView::NoEditTriggers);
+}
+
+void ListBox::StartLabelEdit() {
+    if (currentIndex().isValid()) {
+        edit(currentIndex());
+    }
+}
+
+void ListBox::keyReleaseEvent(QKeyEvent *event) {
+    QListView::keyReleaseEvent(event);
+    // A key held down repeats its release; only the last one means that the cook has arrived.
+    if (movesInList(event->key()) && !event->isAutoRepeat()) {
+        Q_EMIT ArrowReleased();
+    }
+}
+
+void ListBox::mouseReleaseEvent(QMouseEvent *event) {
+    QListView::mouseReleaseEvent(event);
+    if (event->button() == Qt::RightButton) {
+        Q_EMIT RightClicked(event->globalPosition().toPoint());
+    } else if (event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid()) {
+        Q_EMIT ItemClicked();
+    }
+}
+
+void ListBox::focusInEvent(QFocusEvent *event) {
+    QListView::focusInEvent(event);
+    Q_EMIT Focused();
+}
+
+int ListBox::checked(int index) const {
+    if (index < 1 || index > Count()) {
+        throw std::out_of_range("L'élément " + std::to_string(index) + " n'est pas dans la liste.");
+    }
+    return index - 1;
+}
+
+} // namespace platform::controls

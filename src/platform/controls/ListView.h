@@ -1,0 +1,89 @@
+#pragma once
+
+#include "ListModel.h"
+#include "Placed.h"
+
+#include <QListView>
+#include <optional>
+
+namespace platform::controls {
+
+/// A list view of one column. Rows have a key, count from 1 as their Index, and can be highlighted; 0 stands for no
+/// row. Adding happens inside a Loading.
+class ListBox : public QListView {
+    Q_OBJECT
+
+public:
+    enum class LabelEditMode { Manual, Automatic };
+
+    /// Empties the list and takes new rows while it lives; the list shows them when it ends.
+    class Loading {
+    public:
+        explicit Loading(ListBox &list) : m_list(list) { m_list.m_model.beginLoading(); }
+        ~Loading() { m_list.m_model.endLoading(); }
+        Loading(const Loading &) = delete;
+        Loading &operator=(const Loading &) = delete;
+
+        /// Throws DuplicateKeyError for a key that is present.
+        void Add(const QString &key, const QString &text, int picture) { m_list.m_model.append(key, text, picture); }
+        int Count() const { return m_list.Count(); }
+
+    private:
+        ListBox &m_list;
+    };
+
+    explicit ListBox(QWidget *parent);
+
+    /// Heading and width of the one column.
+    void SetColumn(const QString &heading, Twips width);
+    /// Pictures of the rows; a row's picture number 1 is the first.
+    void SetImageList(const std::vector<QPixmap> &pictures);
+    void SetBackColor(const QColor &colour);
+    /// Colour of highlighted rows.
+    void SetSelectionColour(const QColor &colour) { m_model.setHighlightColour(colour); }
+
+    void Clear() { const Loading none(*this); }
+    int Count() const { return m_model.rowCount(); }
+
+    /// Index of the selected row, 0 if none.
+    int SelectedIndex() const { return currentIndex().row() + 1; }
+    /// Selects the row and makes it visible. Raises no event.
+    void Select(int index);
+    /// Index of the row of that key, 0 if there is none.
+    int IndexOfKey(const QString &key) const { return m_model.find(key) + 1; }
+
+    QString Key(int index) const { return m_model.key(checked(index)); }
+    QString Text(int index) const { return m_model.text(checked(index)); }
+    int SmallIcon(int index) const { return m_model.picture(checked(index)); }
+    void Highlight(int index, bool highlighted) { m_model.setHighlight(checked(index), highlighted); }
+    void Remove(int index) { m_model.remove(checked(index)); }
+
+    /// Automatic: a click on the selected row edits its text in place. Manual: only StartLabelEdit does.
+    void SetLabelEdit(LabelEditMode mode);
+    void StartLabelEdit();
+
+Q_SIGNALS:
+    /// The user clicked a row.
+    void ItemClicked();
+    /// The user chose a row by the keyboard; raised when the key is let go.
+    void ArrowReleased();
+    /// The user ended a label edit; the row still holds its former text and takes the new one afterwards.
+    void AfterLabelEdit(int index, const QString &text);
+    void Focused();
+    void RightClicked(const QPoint &globalPosition);
+    void RowActivated();
+
+protected:
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+
+private:
+    int checked(int index) const;
+
+    ListModel m_model;
+};
+
+using List = Placed<ListBox>;
+
+} // namespace platform::controls

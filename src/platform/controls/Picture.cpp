@@ -1,0 +1,81 @@
+#include "Picture.h"
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QImageReader>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace platform::controls {
+
+namespace {
+
+constexpr qint64 kLargestPicture = 200'000'000; // pixels
+// 200 megapixels of four bytes, in the unit of QImageReader's own limit (MiB), which is 128 by default.
+constexpr int kAllocationLimit = 1024;
+
+} // namespace
+
+QImage LoadPicture(const QString &path) {
+    QImageReader::setAllocationLimit(kAllocationLimit);
+    QImageReader reader(path);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    const QSize size = reader.size();
+    if (qint64{size.width()} * size.height() > kLargestPicture) {
+        throw PictureError("Cette image est trop grande : " + path.toStdString());
+    }
+    QImage picture = reader.read();
+    if (picture.isNull()) {
+        throw PictureError("Ce fichier n'est pas une image : " + path.toStdString());
+    }
+    return picture;
+}
+
+QPixmap resourcePicture(const QString &path) {
+    if (qGuiApp->devicePixelRatio() > 1) {
+        QString large = path;
+        large.replace(QStringLiteral(".png"), QStringLiteral("@2x.png"));
+        if (QFile::exists(large)) {
+            return QPixmap(large);
+        }
+    }
+    return QPixmap(path);
+}
+
+PictureBox::PictureBox(QWidget *parent) : QWidget(parent) {}
+
+void PictureBox::SetPicture(const QImage &picture) {
+    m_picture = picture;
+    m_scaled = {};
+    update();
+}
+
+Extent PictureBox::NaturalSize() const {
+    return {Twips(m_picture.width() * kTwipsPerPixel), Twips(m_picture.height() * kTwipsPerPixel)};
+}
+
+void PictureBox::paintEvent(QPaintEvent * /*event*/) {
+    if (m_picture.isNull() || size().isEmpty()) {
+        return;
+    }
+    const QSize wanted = size() * devicePixelRatio();
+    if (m_scaled.size() != wanted) {
+        m_scaled = QPixmap::fromImage(m_picture.scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        m_scaled.setDevicePixelRatio(devicePixelRatio());
+    }
+    QPainter(this).drawPixmap(0, 0, m_scaled);
+}
+
+void PictureBox::mouseReleaseEvent(QMouseEvent *event) {
+    if (!rect().contains(event->position().toPoint())) {
+        return;
+    }
+    if (event->button() == Qt::LeftButton) {
+        Q_EMIT Clicked();
+    } else if (event->button() == Qt::RightButton) {
+        Q_EMIT RightClicked();
+    }
+}
+
+} // namespace platform::controls

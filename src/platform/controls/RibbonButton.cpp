@@ -1,0 +1,162 @@
+#include "RibbonButton.h"
+
+#include "SkinnedWindow.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace platform::controls {
+
+namespace {
+
+constexpr Twips kTextMargin{75};
+constexpr Twips kSortPicture{480};
+constexpr Twips kSortTop{60};
+const QColor kValueGround(214, 225, 242);
+const QColor kValueHover(251, 243, 226);
+
+} // namespace
+
+RibbonButton::RibbonButton(QWidget *parent) : QAbstractButton(parent) {
+    setCheckable(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_Hover);
+}
+
+void RibbonButton::SetCaption(const QString &caption) {
+    // "&" is a plain character of a recipe's words, never a mnemonic, so no shortcut must come of it.
+    if (caption != text()) {
+        setText(caption);
+        setShortcut({});
+    }
+}
+
+void RibbonButton::SetForeColor(const QColor &colour) {
+    QPalette colours = palette();
+    colours.setColor(foregroundRole(), colour);
+    setPalette(colours);
+}
+
+void RibbonButton::SetUnderline(bool underline) {
+    QFont face = font();
+    if (face.underline() != underline) {
+        face.setUnderline(underline);
+        setFont(face);
+    }
+}
+
+void RibbonButton::SetLook(Look look) {
+    m_look = look;
+    update();
+}
+
+void RibbonButton::SetPicture(const QPixmap &picture) {
+    m_picture = picture;
+    update();
+}
+
+void RibbonButton::Release() {
+    SetValue(false);
+    if (!m_resting.isNull()) {
+        SetPicture(m_resting);
+    }
+}
+
+void RibbonButton::enterEvent(QEnterEvent *event) {
+    QAbstractButton::enterEvent(event);
+    if (!m_hover.isNull()) {
+        SetPicture(m_hover);
+    }
+    Q_EMIT Entered();
+}
+
+void RibbonButton::leaveEvent(QEvent *event) {
+    QAbstractButton::leaveEvent(event);
+    if (!m_resting.isNull()) {
+        SetPicture(m_resting);
+    }
+    Q_EMIT Exited();
+}
+
+void RibbonButton::keyPressEvent(QKeyEvent *event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        click();
+    } else {
+        QAbstractButton::keyPressEvent(event);
+    }
+}
+
+void RibbonButton::paintEvent(QPaintEvent * /*event*/) {
+    QPainter painter(this);
+    paintGround(painter);
+    paintPicture(painter);
+    paintCaption(painter);
+    if (hasFocus()) {
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(skinAround(*this).accent, 2));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
+    }
+}
+
+void RibbonButton::paintGround(QPainter &painter) const {
+    const Skin &skin = skinAround(*this);
+    const bool hovered = underMouse() && isEnabled();
+    switch (m_look) {
+    case Look::Picture:
+        break;
+    case Look::Tool:
+        if (hovered) {
+            paintBlock(painter, rect(), 6, skin.buttonCurrent.lighter(108), skin.buttonCurrent, skin.edge);
+        }
+        break;
+    case Look::Sort: {
+        // The ground follows the writing, so that white, yellow and black all read well on it.
+        const bool dark = ForeColor().lightness() > 100;
+        const QColor ground = !dark ? skin.buttonCurrent : hovered ? skin.buttonHover : skin.button;
+        paintBlock(painter, rect(), 8, ground.lighter(112), ground, skin.edge);
+        break;
+    }
+    case Look::Value:
+        painter.fillRect(rect(), hovered ? kValueHover : kValueGround);
+        painter.fillRect(QRect(0, height() - 1, width(), 1), skin.button);
+        break;
+    }
+}
+
+QRectF RibbonButton::pictureArea() const {
+    if (m_look == Look::Sort) {
+        const double side = kSortPicture.pixels();
+        return {(width() - side) / 2.0, static_cast<double>(kSortTop.pixels()), side, side};
+    }
+    const double side = m_look == Look::Tool ? 0.86 * qMin(width(), height()) : qMin(width(), height());
+    return {(width() - side) / 2.0, (height() - side) / 2.0, side, side};
+}
+
+void RibbonButton::paintPicture(QPainter &painter) const {
+    const QPixmap &shown = isDown() && !m_pressed.isNull() ? m_pressed : m_picture;
+    if (shown.isNull()) {
+        return;
+    }
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.setOpacity(isEnabled() ? 1.0 : 0.35);
+    painter.drawPixmap(pictureArea(), shown, shown.rect());
+    painter.setOpacity(1.0);
+}
+
+void RibbonButton::paintCaption(QPainter &painter) const {
+    if (text().isEmpty()) {
+        return;
+    }
+    painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, foregroundRole()));
+    painter.setFont(font());
+    QRect area = rect();
+    if (m_look == Look::Sort) {
+        area.setTop(pictureArea().toRect().bottom());
+        painter.drawText(area, Qt::AlignCenter | Qt::TextWordWrap, text());
+        return;
+    }
+    area.adjust(kTextMargin.pixels(), 0, 0, 0);
+    painter.drawText(area, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text());
+}
+
+} // namespace platform::controls

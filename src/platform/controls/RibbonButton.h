@@ -1,0 +1,73 @@
+#pragma once
+
+#include "Placed.h"
+
+#include <QAbstractButton>
+#include <QPixmap>
+
+namespace platform::controls {
+
+/// The look of a ribbon button; the behaviour is the same for all.
+enum class Look {
+    Picture, ///< a picture alone
+    Tool,    ///< a picture on a ground that lights up under the pointer
+    Sort,    ///< a picture over a caption, on a block of its own
+    Value,   ///< a flat line of text, cut at the edge, that shows under the pointer that it can be pressed
+};
+
+/// A flat skinned button that is a toggle: pressed by the user or by code, its Value becomes true and its event
+/// is raised; a handler acts when Value is true and ends by setting it false, which raises the event again.
+/// The event is the signal toggled(bool) of QAbstractButton.
+class RibbonButton : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    explicit RibbonButton(QWidget *parent);
+
+    bool Value() const { return isChecked(); }
+    void SetValue(bool value) { setChecked(value); }
+
+    QString Caption() const { return text(); }
+    void SetCaption(const QString &caption);
+
+    QColor ForeColor() const { return palette().color(foregroundRole()); }
+    void SetForeColor(const QColor &colour);
+
+    /// Underlines the caption.
+    void SetUnderline(bool underline);
+
+    void SetLook(Look look);
+
+    /// The picture shown now; the three others take its place while pressed, on leaving and on entering.
+    void SetPicture(const QPixmap &picture);
+    const QPixmap &Picture() const { return m_picture; }
+    void SetPressedPicture(const QPixmap &picture) { m_pressed = picture; }
+    void SetRestingPicture(const QPixmap &picture) { m_resting = picture; }
+    void SetHoverPicture(const QPixmap &picture) { m_hover = picture; }
+
+    /// Sets Value false and shows the resting picture again, also while the pointer is still over the button.
+    void Release();
+
+Q_SIGNALS:
+    void Entered();
+    void Exited();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void enterEvent(QEnterEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void paintGround(QPainter &painter) const;
+    void paintPicture(QPainter &painter) const;
+    void paintCaption(QPainter &painter) const;
+    QRectF pictureArea() const;
+
+    Look m_look = Look::Picture;
+    QPixmap m_picture, m_pressed, m_resting, m_hover;
+};
+
+using Ribbon = Placed<RibbonButton>;
+
+} // namespace platform::controls

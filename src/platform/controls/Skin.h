@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QColor>
+
+class QPainter;
+class QRectF;
+
+namespace platform::controls {
+
+/// The colours of one display mode.
+struct Skin {
+    QColor bandTop, bandBottom;     ///< title band
+    QColor groundTop, groundBottom; ///< body of the window
+    QColor edge;                    ///< outline of the window and of its panels
+    QColor strip;                   ///< light strip that carries the toolbar
+    QColor button, buttonHover;     ///< sort buttons at rest and under the pointer
+    QColor buttonCurrent;           ///< the sort button of the current view
+    QColor accent;                  ///< ornaments, focus ring, progress
+    QColor title;                   ///< writing on the title band
+};
+
+/// The skin of display mode 0, 1 or 2; any other mode gives the first.
+const Skin &skinOf(int mode);
+
+/// Paper-like grounds that do not change with the display mode.
+inline constexpr QRgb kListGround = qRgb(148, 173, 214);
+
+/// Fills a rounded rectangle with a vertical gradient and outlines it; no outline with an invalid edge colour.
+void paintBlock(QPainter &painter, const QRectF &block, double radius, const QColor &top, const QColor &bottom,
+                const QColor &edge);
+
+} // namespace platform::controls

@@ -1,0 +1,95 @@
+#include "SkinnedWindow.h"
+
+#include "Fonts.h"
+
+#include <QBitmap>
+#include <QCloseEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWindow>
+
+namespace platform::controls {
+
+namespace {
+
+constexpr Twips kCorner{180};
+constexpr Twips kTitleLeft{720};
+
+} // namespace
+
+SkinnedWindow::SkinnedWindow(const QString &name, Extent size)
+    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), m_size(size) {
+    setObjectName(name);
+    setFixedSize(size.width.pixels(), size.height.pixels());
+    // Every point is painted by the skin: no need to clear the ground first.
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void SkinnedWindow::SetMode(int mode) {
+    m_mode = mode;
+    update();
+    for (QWidget *control : findChildren<QWidget *>()) {
+        control->update();
+    }
+}
+
+Twips SkinnedWindow::Left() const { return Twips::fromPixels(x(), kTwipsPerPixel); }
+
+Twips SkinnedWindow::Top() const { return Twips::fromPixels(y(), kTwipsPerPixel); }
+
+void SkinnedWindow::Move(Twips left, Twips top) {
+    // Places on the screen are in plain pixels, also where the windows themselves are shrunk to fit.
+    move(qRound(left.value() / kTwipsPerPixel), qRound(top.value() / kTwipsPerPixel));
+}
+
+void SkinnedWindow::paintEvent(QPaintEvent * /*event*/) {
+    QPainter painter(this);
+    const Skin &colours = skin();
+    const QRectF whole(rect());
+    const QRectF band(0, 0, whole.width(), kBand.pixels());
+    paintBlock(painter, whole, 0, colours.groundTop, colours.groundBottom, colours.edge);
+    paintBlock(painter, band, 0, colours.bandTop, colours.bandBottom, QColor());
+    painter.fillRect(QRectF(0, band.bottom() - 2, whole.width(), 2), colours.accent);
+    for (const Rectangle &strip : m_strips) {
+        paintBlock(painter, strip.pixels(), Twips(120).pixels(), colours.strip, colours.strip.darker(108),
+                   colours.edge);
+    }
+    painter.setPen(colours.title);
+    painter.setFont(interfaceFont(Face::Verdana, 13, true));
+    painter.drawText(band.adjusted(kTitleLeft.pixels(), 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft, windowTitle());
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(colours.edge, 2));
+    painter.drawRoundedRect(whole.adjusted(1, 1, -1, -1), kCorner.pixels(), kCorner.pixels());
+}
+
+void SkinnedWindow::mousePressEvent(QMouseEvent *event) {
+    if (event->button() == Qt::LeftButton && windowHandle() != nullptr) {
+        windowHandle()->startSystemMove();
+    }
+}
+
+void SkinnedWindow::closeEvent(QCloseEvent *event) {
+    if (event->spontaneous()) {
+        event->ignore();
+        Q_EMIT CloseRequested();
+    }
+}
+
+void SkinnedWindow::resizeEvent(QResizeEvent *event) {
+    QWidget::resizeEvent(event);
+    QBitmap shape(size());
+    shape.clear();
+    QPainter painter(&shape);
+    painter.setBrush(Qt::color1);
+    painter.setPen(Qt::color1);
+    painter.drawRoundedRect(rect().adjusted(0, 0, -1, -1), kCorner.pixels(), kCorner.pixels());
+    painter.end();
+    setMask(shape);
+}
+
+const Skin &skinAround(const QWidget &control) {
+    const auto *window = qobject_cast<const SkinnedWindow *>(control.window());
+    return window != nullptr ? window->skin() : skinOf(0);
+}
+
+} // namespace platform::controls

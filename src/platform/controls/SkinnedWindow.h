@@ -1,0 +1,58 @@
+#pragma once
+
+#include "Skin.h"
+#include "Twips.h"
+
+#include <QString>
+#include <QWidget>
+#include <vector>
+
+namespace platform::controls {
+
+/// A borderless window of fixed size that paints itself in a skin, chosen by a display mode, and is moved by
+/// dragging any free part of it. Its name is its class name, through which it is found.
+class SkinnedWindow : public QWidget {
+    Q_OBJECT
+
+public:
+    SkinnedWindow(const QString &name, Extent size);
+
+    /// Display mode 0, 1 or 2.
+    int Mode() const { return m_mode; }
+    void SetMode(int mode);
+    const Skin &skin() const { return skinOf(m_mode); }
+
+    Twips Width() const { return m_size.width; }
+    Twips Height() const { return m_size.height; }
+
+    /// Place of the window on the screen; on platforms that place windows themselves it is only a wish.
+    Twips Left() const;
+    Twips Top() const;
+    void Move(Twips left, Twips top);
+
+    /// Height of the title band, in twips from the top.
+    static constexpr Twips kBand{600};
+
+Q_SIGNALS:
+    /// The user asked to close the window by the platform's own means (window menu, key combination).
+    void CloseRequested();
+
+protected:
+    /// Light blocks painted under the controls, in window twips: the strip of a toolbar, grounds of groups.
+    void SetStrips(std::vector<Rectangle> strips) { m_strips = std::move(strips); }
+
+    void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    Extent m_size;
+    int m_mode = 0;
+    std::vector<Rectangle> m_strips;
+};
+
+/// Skin of the window that holds the control; the first one for a control outside a skinned window.
+const Skin &skinAround(const QWidget &control);
+
+} // namespace platform::controls

@@ -1,0 +1,53 @@
+#include "MessageBox.h"
+
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace platform::dialogs {
+
+namespace {
+
+QMessageBox::Icon toolkitIcon(Icon icon) {
+    switch (icon) {
+    case Icon::Information:
+        return QMessageBox::Information;
+    case Icon::Question:
+        return QMessageBox::Question;
+    case Icon::Exclamation:
+        return QMessageBox::Warning;
+    case Icon::Critical:
+        return QMessageBox::Critical;
+    }
+    return QMessageBox::NoIcon;
+}
+
+void prepare(QMessageBox &box, const QString &title, const QString &text, Icon icon) {
+    box.setObjectName(QStringLiteral("Message"));
+    box.setWindowTitle(title);
+    // The texts come from rows and files: shown as they are, never as markup.
+    box.setTextFormat(Qt::PlainText);
+    box.setText(text);
+    box.setIcon(toolkitIcon(icon));
+}
+
+} // namespace
+
+void Message(QWidget *parent, const QString &title, const QString &text, Icon icon) {
+    QMessageBox box(parent);
+    prepare(box, title, text, icon);
+    box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
+    box.exec();
+}
+
+bool Ask(QWidget *parent, const QString &title, const QString &question) {
+    QMessageBox box(parent);
+    prepare(box, title, question, Icon::Question);
+    QPushButton *yes = box.addButton(QStringLiteral("&Oui"), QMessageBox::YesRole);
+    QPushButton *no = box.addButton(QStringLiteral("&Non"), QMessageBox::NoRole);
+    box.setDefaultButton(yes);
+    box.setEscapeButton(no);
+    box.exec();
+    return box.clickedButton() == yes;
+}
+
+} // namespace platform::dialogs

@@ -1,0 +1,40 @@
+#include "Conversion.h"
+
+#include <QLocale>
+#include <cmath>
+#include <limits>
+
+namespace platform::settings {
+
+namespace {
+
+double toDouble(const QString &text) {
+    QString plain = text.trimmed();
+    plain.replace(QLatin1Char(','), QLatin1Char('.'));
+    bool isNumber = false;
+    const double number = QLocale::c().toDouble(plain, &isNumber);
+    if (!isNumber || !std::isfinite(number)) {
+        throw ConversionError("Incompatibilité de type : « " + text.toStdString() + " » n'est pas un nombre.");
+    }
+    return number;
+}
+
+template <class Number>
+Number inRange(double number) {
+    if (number < std::numeric_limits<Number>::lowest() || number > std::numeric_limits<Number>::max()) {
+        throw ConversionError("Dépassement de capacité");
+    }
+    return static_cast<Number>(number);
+}
+
+} // namespace
+
+qint16 ToInteger(const QString &text) { return inRange<qint16>(std::nearbyint(toDouble(text))); }
+
+qint32 ToLong(const QString &text) { return inRange<qint32>(std::nearbyint(toDouble(text))); }
+
+float ToSingle(const QString &text) { return inRange<float>(toDouble(text)); }
+
+QString ToText(float number) { return QString::number(number, 'g', std::numeric_limits<float>::max_digits10); }
+
+} // namespace platform::settings

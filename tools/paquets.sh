@@ -1,0 +1,21 @@
+# The Debian packages of the project, and their installation; sourced by ./run and ./test.
+
+PAQUETS_CONSTRUCTION=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-base-dev-tools libqt6svg6-dev
+    libsqlcipher-dev libssl-dev qt6-translations-l10n)
+PAQUETS_EXECUTION=(qt6-qpa-plugins fonts-dejavu-core fonts-liberation fonts-comic-neue)
+PAQUETS_ECRAN_VIRTUEL=(xvfb xauth x11-utils imagemagick)
+PAQUETS_TESTS=(sqlcipher)
+
+# installer_paquets NAME...: installs those that are missing, through sudo when not root.
+installer_paquets() {
+    local missing=() package
+    for package in "$@"; do
+        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return
+    echo "installing: ${missing[*]}"
+    local root=()
+    [ "$(id -u)" -eq 0 ] || root=(sudo)
+    "${root[@]}" apt-get update -qq
+    "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
