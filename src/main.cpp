@@ -1,4 +1,5 @@
-// The start of the process, and the guard at its end: whatever no window has caught ends here, in a message box.
+// The start of the process, and the guard at its end: whatever no window has caught ends here, in a message
+// box.
 
 #include "browser/Frmmain.h"
 #include "platform/desktop/SingleInstance.h"
@@ -16,8 +17,8 @@
 
 namespace {
 
-/// Runs an action of the program. An exception ends the process there and then, without unwinding the event loops
-/// below, which are not made for it.
+/// Runs an action of the program. An exception ends the process there and then, without unwinding the event
+/// loops below, which are not made for it.
 template <class Action>
 auto guarded(Action action) {
     try {
@@ -26,8 +27,8 @@ auto guarded(Action action) {
         std::_Exit(fin.code);
     } catch (const std::exception &failure) {
         QGuiApplication::restoreOverrideCursor();
-        platform::dialogs::Message(nullptr, store::TitreProgramme.toString(), QString::fromUtf8(failure.what()),
-                                   platform::dialogs::Icon::Critical);
+        platform::dialogs::Message(nullptr, store::TitreProgramme.toString(),
+                                   QString::fromUtf8(failure.what()), platform::dialogs::Icon::Critical);
         std::_Exit(EXIT_FAILURE);
     }
 }

@@ -22,8 +22,8 @@ using platform::database::Database;
 using platform::database::DatabaseError;
 using platform::database::Recordset;
 
-/// A value of a recipe that stands in a lookup table: the query up to the number, its tail, the recipe's column and
-/// the button.
+/// A value of a recipe that stands in a lookup table: the query up to the number, its tail, the recipe's
+/// column and the button.
 struct Valeur {
     QStringView requete, fin, colonne;
     int data;
@@ -39,7 +39,9 @@ constexpr Valeur kVin{u"SELECT * From VIN where NVIN = ", u" order by VIN asc", 
 
 constexpr Twips kMarge{400};
 
-QString pointilles() { return store::LignePointillee.toString(); }
+QString pointilles() {
+    return store::LignePointillee.toString();
+}
 
 /// The stored text of the row that a query gives, empty when there is none.
 QString TexteDe(Database &base, QStringView requete, const QString &numero, QStringView fin) {
@@ -47,7 +49,9 @@ QString TexteDe(Database &base, QStringView requete, const QString &numero, QStr
     return fiche.RecordCount() > 0 ? fiche.Fields(1).Text() : QString();
 }
 
-QString OuPointilles(const QString &texte) { return texte.trimmed().isEmpty() ? pointilles() : texte; }
+QString OuPointilles(const QString &texte) {
+    return texte.trimmed().isEmpty() ? pointilles() : texte;
+}
 
 void AfficherValeur(Frmmain &frm, Database &base, Recordset &recette, const Valeur &valeur) {
     const auto reference = recette.Fields(valeur.colonne);
@@ -64,7 +68,8 @@ void AfficherClasse(Frmmain &frm, int data, std::span<const QStringView> vocabul
     frm.Data(data).SetCaption(vocabulaire[static_cast<std::size_t>(code)].toString());
 }
 
-/// The picture in a file; a null one where the file holds none that can be shown, so that the recipe still opens.
+/// The picture in a file; a null one where the file holds none that can be shown, so that the recipe still
+/// opens.
 QImage PhotoLisible(const QString &chemin) {
     try {
         return chemin.isEmpty() ? QImage() : LoadPicture(chemin);
@@ -107,7 +112,9 @@ void AfficherComplements(Frmmain &frm, const QString &texte) {
 }
 
 // The markup that an import leaves in the texts of ingredients.
-QString SansGras(QString texte) { return texte.remove(QStringLiteral("<B>")).remove(QStringLiteral("</B>")); }
+QString SansGras(QString texte) {
+    return texte.remove(QStringLiteral("<B>")).remove(QStringLiteral("</B>"));
+}
 
 void AfficherIngredient(Ribbon &bouton, const QString &texte, bool trouve) {
     const QString sansGras = SansGras(trouve ? OuPointilles(texte) : pointilles());
@@ -129,8 +136,8 @@ void AfficherLigne(Frmmain &frm, Database &base, Recordset &lignes, int i) {
     const QString ingredient = lignes.Fields(u"NIngre").Text();
     const QString quantite = lignes.Fields(u"NQuantite").Text();
     const QString mesure = lignes.Fields(u"NMesure").Text();
-    auto fiche = base.OpenRecordset(QStringLiteral("SELECT * From Ingredient where NIngredient = ") + ingredient +
-                                    QStringLiteral(" order by Ingredient desc"));
+    auto fiche = base.OpenRecordset(QStringLiteral("SELECT * From Ingredient where NIngredient = ") +
+                                    ingredient + QStringLiteral(" order by Ingredient desc"));
     const bool trouve = fiche.RecordCount() > 0;
     AfficherIngredient(frm.Ingre(i), trouve ? fiche.Fields(1).Text() : QString(), trouve);
     AfficherPartie(frm.Quantite(i), TexteDe(base, u"SELECT * From Quantite where NQuantite = ", quantite,
@@ -153,8 +160,8 @@ void ViderLignes(Frmmain &frm) {
 /// Reads the lines of a recipe into rows of buttons; gives their number.
 int RemplirLignes(Frmmain &frm, qint64 numero) {
     auto base = store::OuvrirLivre();
-    auto lignes = base.OpenRecordset(QStringLiteral("SELECT * From Ingre where Numero = ") + QString::number(numero) +
-                                     QStringLiteral(" order by Numero desc"));
+    auto lignes = base.OpenRecordset(QStringLiteral("SELECT * From Ingre where Numero = ") +
+                                     QString::number(numero) + QStringLiteral(" order by Numero desc"));
     int i = 0;
     for (; !lignes.AtEnd(); lignes.MoveNext(), ++i) {
         if (i > 0) {
@@ -185,8 +192,8 @@ void ChargerRecette(Frmmain &frm, qint64 numero) {
     frm.Scroll(0).SetScrollableHeight(kMarge);
     PlacerFiche(frm);
     auto base = store::OuvrirLivre();
-    auto recette = base.OpenRecordset(QStringLiteral("SELECT * From Cocktails where Numero = ") + QString::number(numero) +
-                                      QStringLiteral(" order by Recette asc"));
+    auto recette = base.OpenRecordset(QStringLiteral("SELECT * From Cocktails where Numero = ") +
+                                      QString::number(numero) + QStringLiteral(" order by Recette asc"));
     if (recette.RecordCount() == 0) {
         return;
     }
@@ -231,8 +238,8 @@ void ChargerLesListesCombo(Frmmain &frm) {
 }
 
 void CacherListeModif(Frmmain &frm) {
-    for (DropList *liste : {&frm.LCategorie, &frm.LDureeReal, &frm.LVerre, &frm.LMateriel, &frm.LCout, &frm.LDiff,
-                            &frm.LTeneur, &frm.LQuantite, &frm.LMesure, &frm.LIngre}) {
+    for (DropList *liste : {&frm.LCategorie, &frm.LDureeReal, &frm.LVerre, &frm.LMateriel, &frm.LCout,
+                            &frm.LDiff, &frm.LTeneur, &frm.LQuantite, &frm.LMesure, &frm.LIngre}) {
         liste->hide();
     }
 }

@@ -10,8 +10,8 @@ class Frmmain;
 /// DatabaseError, and std::out_of_range for a cost or difficulty outside its vocabulary.
 void ChargerRecette(Frmmain &frm, qint64 numero);
 
-/// Shows the ingredient lines of a recipe, a row of three buttons for each and a dotted one behind them. A line that
-/// cannot be read leaves a gap.
+/// Shows the ingredient lines of a recipe, a row of three buttons for each and a dotted one behind them. A
+/// line that cannot be read leaves a gap.
 void AfficherIngredients(Frmmain &frm, qint64 numero);
 
 /// Stacks the controls of the detail in Scroll(0).

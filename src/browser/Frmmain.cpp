@@ -16,7 +16,8 @@ using namespace platform::controls;
 
 constexpr std::u16string_view kChangerImage = u"Cliquer ICI pour modifier l'image";
 
-// Places in twips; those of the detail (from CadrePhoto on) are inside Scroll(0), and PlacerFiche stacks them.
+// Places in twips; those of the detail (from CadrePhoto on) are inside Scroll(0), and PlacerFiche stacks
+// them.
 constexpr std::array kControles{
     ControlRow{"Embleme", 150, 60, 480, 480},
     ControlRow{"Enseigne", 6180, 15, 3000, 540},
@@ -144,21 +145,34 @@ void Survoler(Ribbon &bouton, const QColor &couleur) {
 } // namespace
 
 Frmmain::Frmmain()
-    : SkinnedWindow(QStringLiteral("Frmmain"), kWindowSize), m_img(imagesDesVues()),
+    : SkinnedWindow(QStringLiteral("Frmmain"), kWindowSize),
+      m_img(imagesDesVues()),
       m_main(resourcePicture(QStringLiteral(":/curseurs/main.png")), kBoutDuDoigt.x(), kBoutDuDoigt.y()),
-      Embleme(this, rowNamed(kControles, "Embleme")), Enseigne(this, rowNamed(kControles, "Enseigne")),
-      Outils(this, kControles, "Outils"), LBtn(this, kControles, "LBtn"),
-      Btn_Min(this, rowNamed(kControles, "Btn_Min")), Btn_Quit(this, rowNamed(kControles, "Btn_Quit")),
-      Bouton(this, kControles, "Bouton"), LTGauche(this, rowNamed(kControles, "LTGauche")),
-      Liste(this, rowNamed(kControles, "Liste")), LTCentre2(this, rowNamed(kControles, "LTCentre2")),
-      LFilms(this, rowNamed(kControles, "LFilms")), LBGauche(this, rowNamed(kControles, "LBGauche")),
-      Icone_DEco(this, rowNamed(kControles, "Icone_DEco")), LTDroit(this, rowNamed(kControles, "LTDroit")),
-      Scroll(this, kControles, "Scroll"), Cadre(Scroll(1).Content(), kControles, "Cadre"),
+      Embleme(this, rowNamed(kControles, "Embleme")),
+      Enseigne(this, rowNamed(kControles, "Enseigne")),
+      Outils(this, kControles, "Outils"),
+      LBtn(this, kControles, "LBtn"),
+      Btn_Min(this, rowNamed(kControles, "Btn_Min")),
+      Btn_Quit(this, rowNamed(kControles, "Btn_Quit")),
+      Bouton(this, kControles, "Bouton"),
+      LTGauche(this, rowNamed(kControles, "LTGauche")),
+      Liste(this, rowNamed(kControles, "Liste")),
+      LTCentre2(this, rowNamed(kControles, "LTCentre2")),
+      LFilms(this, rowNamed(kControles, "LFilms")),
+      LBGauche(this, rowNamed(kControles, "LBGauche")),
+      Icone_DEco(this, rowNamed(kControles, "Icone_DEco")),
+      LTDroit(this, rowNamed(kControles, "LTDroit")),
+      Scroll(this, kControles, "Scroll"),
+      Cadre(Scroll(1).Content(), kControles, "Cadre"),
       CadrePhoto(Scroll(0).Content(), rowNamed(kControles, "CadrePhoto")),
-      Photo(&CadrePhoto, rowNamed(kControles, "Photo")), ImageTemp(this, rowNamed(kControles, "ImageTemp")),
-      Libelle(Scroll(0).Content(), kControles, "Libelle"), Data(Scroll(0).Content(), kControles, "Data"),
-      Quantite(Scroll(0).Content(), kControles, "Quantite"), Mesure(Scroll(0).Content(), kControles, "Mesure"),
-      Ingre(Scroll(0).Content(), kControles, "Ingre"), Saisie(Scroll(0).Content(), kControles, "Saisie"),
+      Photo(&CadrePhoto, rowNamed(kControles, "Photo")),
+      ImageTemp(this, rowNamed(kControles, "ImageTemp")),
+      Libelle(Scroll(0).Content(), kControles, "Libelle"),
+      Data(Scroll(0).Content(), kControles, "Data"),
+      Quantite(Scroll(0).Content(), kControles, "Quantite"),
+      Mesure(Scroll(0).Content(), kControles, "Mesure"),
+      Ingre(Scroll(0).Content(), kControles, "Ingre"),
+      Saisie(Scroll(0).Content(), kControles, "Saisie"),
       LCategorie(Scroll(0).Content(), rowNamed(kControles, "LCategorie")),
       LDureeReal(Scroll(0).Content(), rowNamed(kControles, "LDureeReal")),
       LVerre(Scroll(0).Content(), rowNamed(kControles, "LVerre")),
@@ -170,7 +184,8 @@ Frmmain::Frmmain()
       LMesure(Scroll(0).Content(), rowNamed(kControles, "LMesure")),
       LIngre(Scroll(0).Content(), rowNamed(kControles, "LIngre")),
       Chargement(this, rowNamed(kControles, "Chargement")),
-      Label1(&Chargement, rowNamed(kControles, "Label1")), Pb(&Chargement, rowNamed(kControles, "Pb")) {
+      Label1(&Chargement, rowNamed(kControles, "Label1")),
+      Pb(&Chargement, rowNamed(kControles, "Pb")) {
     Peindre();
     PeindreOutils();
     PeindreFiche();
@@ -228,7 +243,8 @@ void Frmmain::PeindreOutils() {
         const QPixmap repos = resourcePicture(QStringLiteral(":/icones/%1.png").arg(QLatin1String(nom)));
         bouton->SetPicture(repos);
         bouton->SetRestingPicture(repos);
-        bouton->SetHoverPicture(resourcePicture(QStringLiteral(":/icones/%1-survol.png").arg(QLatin1String(nom))));
+        bouton->SetHoverPicture(
+            resourcePicture(QStringLiteral(":/icones/%1-survol.png").arg(QLatin1String(nom))));
     }
 }
 
@@ -249,8 +265,8 @@ void Frmmain::PeindreFiche() {
     ImageTemp.hide();
     Saisie(0).SetDefaultColor(kCouleurPreparation);
     Saisie(1).SetDefaultColor(Qt::white);
-    for (DropList *liste : {&LCategorie, &LDureeReal, &LVerre, &LMateriel, &LCout, &LDiff, &LTeneur, &LQuantite,
-                            &LMesure, &LIngre}) {
+    for (DropList *liste : {&LCategorie, &LDureeReal, &LVerre, &LMateriel, &LCout, &LDiff, &LTeneur,
+                            &LQuantite, &LMesure, &LIngre}) {
         liste->hide();
     }
 }
@@ -321,7 +337,8 @@ void Frmmain::BrancherListes() {
     connect(&Liste, &List::ArrowReleased, this, [this] { FlecheListe(*this); });
     connect(&Liste, &List::AfterLabelEdit, this,
             [this](int index, const QString &texte) { RenommerListe(*this, index, texte); });
-    connect(&Liste, &List::RightClicked, this, [this] { Outils(2).SetTag(VueCourante() == 0 ? kHaut : QString()); });
+    connect(&Liste, &List::RightClicked, this,
+            [this] { Outils(2).SetTag(VueCourante() == 0 ? kHaut : QString()); });
     connect(&LFilms, &List::ItemClicked, this, [this] { ClicFilms(*this); });
     connect(&LFilms, &List::ArrowReleased, this, [this] { ClicFilms(*this); });
     connect(&LFilms, &List::AfterLabelEdit, this,

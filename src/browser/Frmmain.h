@@ -14,8 +14,8 @@
 
 namespace browser {
 
-/// The main window: the recipes in eight sort views at the left, the recipe chosen at the right. It holds controls
-/// and what they cannot hold; what it does is in Vues.h (lists) and Fiche.h (recipe).
+/// The main window: the recipes in eight sort views at the left, the recipe chosen at the right. It holds
+/// controls and what they cannot hold; what it does is in Vues.h (lists) and Fiche.h (recipe).
 class Frmmain : public platform::controls::SkinnedWindow {
     Q_OBJECT
 
@@ -26,10 +26,13 @@ public:
     void PreparerListes();
     /// Fills the lists that offer the fixed vocabularies; a row's place is its code.
     void RemplirVocabulaires();
+
     /// The pictures of the views, number view + 1.
     const std::vector<QPixmap> &Img() const { return m_img; }
+
     /// The hand that points at a row.
     const QCursor &CurseurMain() const { return m_main; }
+
     /// Shows the theme picture of a view in Cadre(1).
     void MontrerTheme(int vue);
 

@@ -16,15 +16,17 @@ using platform::controls::List;
 using platform::database::DatabaseError;
 
 /// The column of Cocktails that refers to the rows of a view; none for the recipes and the ingredients.
-constexpr std::array<QStringView, kNombreDeVues> kColonnes{u"",          u"NCategorie", u"NVerre", u"Cout",
-                                                           u"Difficulte", u"NReal",     u"",       u"NDureeReal"};
+constexpr std::array<QStringView, kNombreDeVues> kColonnes{
+    u"", u"NCategorie", u"NVerre", u"Cout", u"Difficulte", u"NReal", u"", u"NDureeReal"};
 constexpr int kVueIngredients = 6;
 
 // In LFilms every row is a recipe.
 constexpr int kIconeRecette = 1;
 
 // The key with its blank behind the letter goes into the query as it is.
-QString numeroChoisi(const Frmmain &frm) { return frm.Liste.Key(frm.Liste.SelectedIndex()).mid(1); }
+QString numeroChoisi(const Frmmain &frm) {
+    return frm.Liste.Key(frm.Liste.SelectedIndex()).mid(1);
+}
 
 void AjouterRecette(List::Loading &lignes, platform::database::Recordset &recette) {
     lignes.Add(store::CleDeListe(recette.Fields(0).Number()), recette.Fields(1).Text(), kIconeRecette);
@@ -44,9 +46,9 @@ void ChargerRecettesVue(Frmmain &frm, int vue) {
 void ChargerRecettesCritere(Frmmain &frm, const QString &table, const QString &champ) {
     List::Loading lignes(frm.LFilms);
     auto base = store::OuvrirLivre();
-    auto recettes = base.OpenRecordset(QStringLiteral("SELECT * From ") + table + QStringLiteral(" where ") + champ +
-                                       QStringLiteral(" = ") + numeroChoisi(frm) + QStringLiteral(" order by ") +
-                                       champ + QStringLiteral(" desc"));
+    auto recettes = base.OpenRecordset(QStringLiteral("SELECT * From ") + table + QStringLiteral(" where ") +
+                                       champ + QStringLiteral(" = ") + numeroChoisi(frm) +
+                                       QStringLiteral(" order by ") + champ + QStringLiteral(" desc"));
     for (; !recettes.AtEnd(); recettes.MoveNext()) {
         AjouterRecette(lignes, recettes);
     }
@@ -59,11 +61,12 @@ void ChargerRecettesIngredient(Frmmain &frm) {
     List::Loading lignes(frm.LFilms);
     try {
         auto base = store::OuvrirLivre();
-        auto ingre = base.OpenRecordset(QStringLiteral("SELECT * From Ingre where NIngre = ") + numeroChoisi(frm) +
-                                        QStringLiteral(" order by NIngre desc"));
+        auto ingre = base.OpenRecordset(QStringLiteral("SELECT * From Ingre where NIngre = ") +
+                                        numeroChoisi(frm) + QStringLiteral(" order by NIngre desc"));
         for (; !ingre.AtEnd(); ingre.MoveNext()) {
-            auto recette = base.OpenRecordset(QStringLiteral("SELECT * From Cocktails where Numero = ") +
-                                              ingre.Fields(0).Text() + QStringLiteral(" order by Numero desc"));
+            auto recette =
+                base.OpenRecordset(QStringLiteral("SELECT * From Cocktails where Numero = ") +
+                                   ingre.Fields(0).Text() + QStringLiteral(" order by Numero desc"));
             try {
                 if (recette.RecordCount() > 0) {
                     AjouterRecette(lignes, recette);

@@ -51,7 +51,9 @@ const Vue *vueNumero(int vue) {
 }
 
 // In every lookup table the text column has the name of the table.
-QString champTexte(int vue, const QString &table) { return vue == 0 ? QStringLiteral("Recette") : table; }
+QString champTexte(int vue, const QString &table) {
+    return vue == 0 ? QStringLiteral("Recette") : table;
+}
 
 constexpr Twips kHauteurSeule{8300};
 constexpr Twips kHauteurHaute{3920};
@@ -159,8 +161,8 @@ void Renommer(const List &liste, int index, const QString &texte, const QString 
 } // namespace
 
 int VueCourante() {
-    return settings::ToInteger(settings::GetSetting(store::TitreProgramme.toString(), kSection, kTris,
-                                                    QStringLiteral("0")));
+    return settings::ToInteger(
+        settings::GetSetting(store::TitreProgramme.toString(), kSection, kTris, QStringLiteral("0")));
 }
 
 void EnregistrerVue(int vue) {
@@ -191,7 +193,8 @@ void TrierListe(Frmmain &frm, int vue) {
     if (const Vue *choisie = vueNumero(vue)) {
         const QString table = choisie->table.toString();
         ChargerListe(frm,
-                     {table, champTexte(vue, table), choisie->entete.toString(), choisie->suffixe.toString()}, vue);
+                     {table, champTexte(vue, table), choisie->entete.toString(), choisie->suffixe.toString()},
+                     vue);
         ListeHaute(frm);
         if (vue == 0) {
             frm.Scroll(0).setVisible(frm.Liste.Count() > 0);
@@ -236,7 +239,8 @@ void ListeHaute(Frmmain &frm) {
     frm.Scroll(0).hide();
     frm.CleCourante = frm.Liste.Key(choisie);
     frm.LTDroit.SetCaption(frm.Liste.Text(choisie));
-    frm.Icone_DEco.SetPicture(frm.Img().at(static_cast<std::size_t>(frm.Liste.SmallIcon(choisie) - 1)).toImage());
+    frm.Icone_DEco.SetPicture(
+        frm.Img().at(static_cast<std::size_t>(frm.Liste.SmallIcon(choisie) - 1)).toImage());
     DeplacerSurlignage(frm);
     frm.TitreCourant = frm.Liste.Text(choisie);
     frm.NumeroCourant = store::NumeroDeCle(frm.CleCourante);

@@ -27,7 +27,8 @@ void PresserBouton(Frmmain &frm, int vue);
 /// Makes a view current: loads its rows into Liste and shows the first one. Throws DatabaseError.
 void TrierListe(Frmmain &frm, int vue);
 
-/// What ChargerListe loads: the table and its text column, the header above the list and the text after the count.
+/// What ChargerListe loads: the table and its text column, the header above the list and the text after the
+/// count.
 struct Rubrique {
     QString table, champ, entete, suffixe;
 };
@@ -35,8 +36,8 @@ struct Rubrique {
 /// Fills Liste with the rows of a view, selects and highlights the first one. Throws DatabaseError.
 void ChargerListe(Frmmain &frm, const Rubrique &rubrique, int vue);
 
-/// Acts on the selected row of Liste: shows the recipe, or the recipes of the group in LFilms. The same row is not
-/// acted on twice. Throws DatabaseError.
+/// Acts on the selected row of Liste: shows the recipe, or the recipes of the group in LFilms. The same row
+/// is not acted on twice. Throws DatabaseError.
 void ListeHaute(Frmmain &frm);
 
 /// Loads LFilms with the recipes of the group selected in Liste.

@@ -13,7 +13,9 @@ namespace {
 
 constexpr Twips kMarge{400};
 
-double quotient(Twips a, Twips b) { return static_cast<double>(a.value()) / static_cast<double>(b.value()); }
+double quotient(Twips a, Twips b) {
+    return static_cast<double>(a.value()) / static_cast<double>(b.value());
+}
 
 } // namespace
 
@@ -35,7 +37,8 @@ Rectangle PlaceDansCadre(Extent cadre, Extent naturelle) {
     return place;
 }
 
-void AjusterPhoto(Extent cadre, platform::controls::Image &photo, const platform::controls::PictureBox &imageTemp) {
+void AjusterPhoto(Extent cadre, platform::controls::Image &photo,
+                  const platform::controls::PictureBox &imageTemp) {
     photo.SetPlace(PlaceDansCadre(cadre, imageTemp.NaturalSize()));
 }
 

@@ -4,12 +4,14 @@
 
 namespace pictures {
 
-/// Where a picture of a natural size stands in a frame, relative to the frame, in twips: as large as the frame
-/// allows with a margin of 400 in the direction that decides. Throws std::domain_error for a picture without size.
-platform::controls::Rectangle PlaceDansCadre(platform::controls::Extent cadre, platform::controls::Extent naturelle);
+/// Where a picture of a natural size stands in a frame, relative to the frame, in twips: as large as the
+/// frame allows with a margin of 400 in the direction that decides. Throws std::domain_error for a picture
+/// without size.
+platform::controls::Rectangle PlaceDansCadre(platform::controls::Extent cadre,
+                                             platform::controls::Extent naturelle);
 
-/// Fits a picture control into its frame. The picture has been given to imageTemp before, whose unstretched size is
-/// its natural size.
+/// Fits a picture control into its frame. The picture has been given to imageTemp before, whose unstretched
+/// size is its natural size.
 void AjusterPhoto(platform::controls::Extent cadre, platform::controls::Image &photo,
                   const platform::controls::PictureBox &imageTemp);
 

@@ -14,7 +14,8 @@ QString cheminNomme(const QString &nom) {
     if (nom.contains(QLatin1Char('\\')) || QDir::isAbsolutePath(nom)) {
         return QDir::isAbsolutePath(nom) ? nom : QString();
     }
-    const QString dossier = QDir::cleanPath(store::DossierProgramme() + QStringLiteral("/photos")) + QLatin1Char('/');
+    const QString dossier =
+        QDir::cleanPath(store::DossierProgramme() + QStringLiteral("/photos")) + QLatin1Char('/');
     const QString chemin = QDir::cleanPath(dossier + nom);
     return chemin.startsWith(dossier) ? chemin : QString();
 }

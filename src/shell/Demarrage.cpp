@@ -24,7 +24,9 @@ namespace settings = platform::settings;
 
 const QString kReglages = QStringLiteral("Settings");
 
-QString titre() { return store::TitreProgramme.toString(); }
+QString titre() {
+    return store::TitreProgramme.toString();
+}
 
 QString lire(const QString &section, const QString &cle, const QString &defaut) {
     return settings::GetSetting(titre(), section, cle, defaut);
@@ -44,16 +46,18 @@ Extent ecran() {
 void VerifierEcran() {
     constexpr Twips kLargeurMinimum{12000};
     if (ecran().width < kLargeurMinimum) {
-        refuser(QStringLiteral("La configuration minimum de 800*600 est nécessaire pour le fonctionnement de ") +
-                titre() + QStringLiteral(" !"));
+        refuser(
+            QStringLiteral("La configuration minimum de 800*600 est nécessaire pour le fonctionnement de ") +
+            titre() + QStringLiteral(" !"));
     }
 }
 
 void VerifierInstance(const platform::desktop::SingleInstance &instance) {
     if (instance.IsRunningElsewhere()) {
         refuser(QStringLiteral("  ") + titre() +
-                QStringLiteral(" est en cours d'utilsation sur votre machine\r\rPour pouvoir l'utiliser de nouveau, "
-                               "veuillez fermer la version ouverte !"));
+                QStringLiteral(
+                    " est en cours d'utilsation sur votre machine\r\rPour pouvoir l'utiliser de nouveau, "
+                    "veuillez fermer la version ouverte !"));
     }
 }
 
@@ -67,8 +71,8 @@ void Placer(browser::Frmmain &frm) {
     frm.Move(left, top);
 }
 
-// Storing that no view is loaded is what makes the press take effect: a sort button ignores a press of the view that
-// the settings already name.
+// Storing that no view is loaded is what makes the press take effect: a sort button ignores a press of the
+// view that the settings already name.
 void ChargerPremiereListe(browser::Frmmain &frm) {
     const int vue = browser::VueCourante();
     browser::EnregistrerVue(browser::kVueAucune);
@@ -81,7 +85,8 @@ void Fermer(browser::Frmmain &frm) {
     Quitter(frm);
     frm.Btn_Quit.Release();
     settings::SaveSetting(titre(), kReglages, QStringLiteral("MainTop"), settings::ToText(frm.Top().value()));
-    settings::SaveSetting(titre(), kReglages, QStringLiteral("MainLeft"), settings::ToText(frm.Left().value()));
+    settings::SaveSetting(titre(), kReglages, QStringLiteral("MainLeft"),
+                          settings::ToText(frm.Left().value()));
 }
 
 void Reduire(browser::Frmmain &frm) {
@@ -104,7 +109,8 @@ void Brancher(browser::Frmmain &frm) {
 
 void ChargerFrmmain(browser::Frmmain &frm, const platform::desktop::SingleInstance &instance) {
     frm.setWindowTitle(titre());
-    frm.SetMode(settings::ToInteger(lire(QStringLiteral("Patch"), QStringLiteral("Mode"), QStringLiteral("0"))));
+    frm.SetMode(
+        settings::ToInteger(lire(QStringLiteral("Patch"), QStringLiteral("Mode"), QStringLiteral("0"))));
     for (auto *groupe : {&frm.Outils, &frm.Bouton}) {
         groupe->ForEach([](Ribbon &bouton) { bouton.SetPressedPicture(bouton.Picture()); });
     }
@@ -127,7 +133,8 @@ void ChargerFrmmain(browser::Frmmain &frm, const platform::desktop::SingleInstan
 }
 
 void Quitter(browser::Frmmain &frm) {
-    if (!dialogs::Ask(&frm, titre(), QStringLiteral("Voulez vous quitter ") + titre() + QStringLiteral(" ?"))) {
+    if (!dialogs::Ask(&frm, titre(),
+                      QStringLiteral("Voulez vous quitter ") + titre() + QStringLiteral(" ?"))) {
         return;
     }
     const QString brouillon = store::DossierProgramme() + QStringLiteral("/temp.bmp");

@@ -1,5 +1,6 @@
-// rendu DRAWING.svg PICTURE WIDTHxHEIGHT: renders a vector drawing into a picture file (PNG with a transparent
-// ground, or JPEG of quality 90, by the ending of its name), stretched to exactly that many pixels.
+// rendu DRAWING.svg PICTURE WIDTHxHEIGHT: renders a vector drawing into a picture file (PNG with a
+// transparent ground, or JPEG of quality 90, by the ending of its name), stretched to exactly that many
+// pixels.
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
@@ -40,6 +41,7 @@ int main(int argc, char *argv[]) {
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     drawing.render(&painter, QRectF(QPointF(), QSizeF(size)));
     painter.end();
-    return picture.save(arguments[2], nullptr, opaque ? 90 : -1) ? EXIT_SUCCESS
-                                                                 : fail(arguments[2] + QStringLiteral(": not written"));
+    return picture.save(arguments[2], nullptr, opaque ? 90 : -1)
+               ? EXIT_SUCCESS
+               : fail(arguments[2] + QStringLiteral(": not written"));
 }

@@ -12,8 +12,9 @@
 
 namespace platform::controls {
 
-/// Like controls under one name with an index from 0, named "Name(index)". Elements of the table exist from the
-/// start, gaps between their indices allowed; further ones are loaded and unloaded while the window lives.
+/// Like controls under one name with an index from 0, named "Name(index)". Elements of the table exist from
+/// the start, gaps between their indices allowed; further ones are loaded and unloaded while the window
+/// lives.
 template <class Control>
 class ControlArray {
 public:
@@ -35,6 +36,7 @@ public:
 
     /// Throws std::out_of_range when there is no such element.
     Control &operator()(int index) { return *m_elements.at(checked(index)); }
+
     const Control &operator()(int index) const { return *m_elements.at(checked(index)); }
 
     /// Adds the element of the next index, placed as the row says, hidden as long as nobody shows it.
@@ -70,8 +72,8 @@ private:
 
     QWidget *m_parent;
     std::string m_name;
-    // The parent would delete its children too; owning them here makes UnloadLast immediate, and a widget that
-    // dies before its parent takes itself out of the parent's list.
+    // The parent would delete its children too; owning them here makes UnloadLast immediate, and a widget
+    // that dies before its parent takes itself out of the parent's list.
     std::vector<std::unique_ptr<Control>> m_elements;
 };
 

@@ -9,8 +9,9 @@
 
 namespace platform::controls {
 
-/// One row of a window's table of controls: its name ("Outils(2)" for an element of an array), its place in its
-/// parent in twips, and its texts. accessible is what a screen reader says of a control without visible text.
+/// One row of a window's table of controls: its name ("Outils(2)" for an element of an array), its place in
+/// its parent in twips, and its texts. accessible is what a screen reader says of a control without visible
+/// text.
 struct ControlRow {
     std::string_view name;
     int left, top, width, height;

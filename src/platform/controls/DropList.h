@@ -7,8 +7,8 @@
 
 namespace platform::controls {
 
-/// An edit box with a drop list. Texts set by code raise no event; a row chosen by the user does, also the row that
-/// was chosen already.
+/// An edit box with a drop list. Texts set by code raise no event; a row chosen by the user does, also the
+/// row that was chosen already.
 class DropBox : public QComboBox {
     Q_OBJECT
 
@@ -19,12 +19,16 @@ public:
     void AddItem(const QString &text);
     /// Appends many rows at once.
     void AddItems(const QStringList &texts);
+
     int Count() const { return count(); }
 
     QString Text() const { return currentText(); }
+
     void SetText(const QString &text) { setEditText(text); }
+
     /// Row chosen, from 0; -1 if none.
     int ListIndex() const { return currentIndex(); }
+
     void SetListIndex(int index) { setCurrentIndex(index); }
 
 Q_SIGNALS:

@@ -7,7 +7,9 @@
 
 namespace platform::controls {
 
-TextLabel::TextLabel(QWidget *parent) : QLabel(parent) { setTextFormat(Qt::PlainText); }
+TextLabel::TextLabel(QWidget *parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+}
 
 void TextLabel::SetForeColor(const QColor &colour) {
     QPalette colours = palette();
@@ -21,7 +23,9 @@ void TextLabel::paintEvent(QPaintEvent * /*event*/) {
     painter.drawText(rect(), static_cast<int>(alignment()) | Qt::TextSingleLine, text());
 }
 
-void TextLabel::mouseDoubleClickEvent(QMouseEvent * /*event*/) { Q_EMIT DoubleClicked(); }
+void TextLabel::mouseDoubleClickEvent(QMouseEvent * /*event*/) {
+    Q_EMIT DoubleClicked();
+}
 
 CaptionPanel::CaptionPanel(QWidget *parent) : QWidget(parent) {}
 
@@ -60,6 +64,7 @@ void CaptionPanel::paintEvent(QPaintEvent * /*event*/) {
         paintBlock(painter, filled, 3, accent.lighter(120), accent, QColor());
     }
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, foregroundRole()));
+    painter.setOpacity(isEnabled() ? 1.0 : 0.45);
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, m_caption);
 }
 

@@ -14,7 +14,9 @@ public:
     explicit TextLabel(QWidget *parent);
 
     QString Caption() const { return text(); }
+
     void SetCaption(const QString &caption) { setText(caption); }
+
     void SetForeColor(const QColor &colour);
 
 Q_SIGNALS:
@@ -34,6 +36,7 @@ public:
     explicit CaptionPanel(QWidget *parent);
 
     QString Caption() const { return m_caption; }
+
     void SetCaption(const QString &caption);
     void SetForeColor(const QColor &colour);
 
@@ -43,6 +46,7 @@ public:
     /// Shows a flood over this part of the panel, 0 to 100 percent, at once; painted only when the whole
     /// percentage changes.
     void SetFloodPercent(double percent);
+
     int FloodPercent() const { return m_flood; }
 
 Q_SIGNALS:

@@ -10,7 +10,9 @@ void ListModel::beginLoading() {
     m_rowOfKey.clear();
 }
 
-void ListModel::endLoading() { endResetModel(); }
+void ListModel::endLoading() {
+    endResetModel();
+}
 
 void ListModel::append(const QString &key, const QString &text, int picture) {
     const auto row = static_cast<int>(m_rows.size());
@@ -42,7 +44,9 @@ void ListModel::setHighlight(int row, bool highlighted) {
     Q_EMIT dataChanged(index(row), index(row), {Qt::FontRole, Qt::ForegroundRole});
 }
 
-int ListModel::find(const QString &key) const { return m_rowOfKey.value(key, -1); }
+int ListModel::find(const QString &key) const {
+    return m_rowOfKey.value(key, -1);
+}
 
 int ListModel::rowCount(const QModelIndex &parent) const {
     return parent.isValid() ? 0 : static_cast<int>(m_rows.size());

@@ -3,7 +3,7 @@
 #include <QAbstractListModel>
 #include <QColor>
 #include <QHash>
-#include <QPixmap>
+#include <QIcon>
 #include <stdexcept>
 #include <vector>
 
@@ -31,14 +31,20 @@ public:
     void remove(int row);
     void setText(int row, const QString &text);
     void setHighlight(int row, bool highlighted);
+
     const QString &key(int row) const { return m_rows.at(static_cast<std::size_t>(row)).key; }
+
     const QString &text(int row) const { return m_rows.at(static_cast<std::size_t>(row)).text; }
+
     int picture(int row) const { return m_rows.at(static_cast<std::size_t>(row)).picture; }
+
     /// Row of a key, -1 if absent.
     int find(const QString &key) const;
 
-    void setPictures(std::vector<QPixmap> pictures) { m_pictures = std::move(pictures); }
+    void setPictures(std::vector<QIcon> pictures) { m_pictures = std::move(pictures); }
+
     void setHighlightColour(const QColor &colour) { m_highlight = colour; }
+
     void setHeading(const QString &heading) { m_heading = heading; }
 
     int rowCount(const QModelIndex &parent = {}) const override;
@@ -60,7 +66,7 @@ private:
 
     std::vector<Row> m_rows;
     QHash<QString, int> m_rowOfKey;
-    std::vector<QPixmap> m_pictures; // number 1 is the first
+    std::vector<QIcon> m_pictures; // number 1 is the first
     QColor m_highlight;
     QString m_heading;
 };

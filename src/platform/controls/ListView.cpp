@@ -19,8 +19,16 @@ public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
     void setWidth(int width) { m_width = width; }
+
     QSize sizeHint(const QStyleOptionViewItem & /*option*/, const QModelIndex & /*index*/) const override {
         return {m_width, kRowHeight.pixels()};
+    }
+
+protected:
+    // The row that the keyboard stands on keeps the writing and the picture of its own.
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->palette.setColor(QPalette::HighlightedText, option->palette.color(QPalette::Text));
     }
 
 private:
@@ -54,22 +62,24 @@ void ListBox::SetColumn(const QString &heading, Twips width) {
 }
 
 void ListBox::SetImageList(const std::vector<QPixmap> &pictures) {
-    std::vector<QPixmap> small;
-    small.reserve(pictures.size());
+    std::vector<QIcon> icons;
+    icons.reserve(pictures.size());
     const double ratio = devicePixelRatio();
     for (const QPixmap &picture : pictures) {
-        small.push_back(picture.scaled(iconSize() * ratio, Qt::KeepAspectRatio, Qt::SmoothTransformation));
-        small.back().setDevicePixelRatio(ratio);
+        QPixmap small = picture.scaled(iconSize() * ratio, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        small.setDevicePixelRatio(ratio);
+        QIcon icon(small);
+        // Without a picture of its own for it, a selected row would get a tinted one.
+        icon.addPixmap(small, QIcon::Selected);
+        icons.push_back(icon);
     }
-    m_model.setPictures(std::move(small));
+    m_model.setPictures(std::move(icons));
 }
 
 void ListBox::SetBackColor(const QColor &colour) {
     QPalette colours = palette();
     colours.setColor(QPalette::Base, colour);
-    // The row that the keyboard stands on is shown by a light ground; its writing keeps the row's own colour.
     colours.setColor(QPalette::Highlight, colour.lighter(118));
-    colours.setColor(QPalette::HighlightedText, colours.color(QPalette::Text));
     setPalette(colours);
 }
 

@@ -8,8 +8,8 @@
 
 namespace platform::controls {
 
-/// A list view of one column. Rows have a key, count from 1 as their Index, and can be highlighted; 0 stands for no
-/// row. Adding happens inside a Loading.
+/// A list view of one column. Rows have a key, count from 1 as their Index, and can be highlighted; 0 stands
+/// for no row. Adding happens inside a Loading.
 class ListBox : public QListView {
     Q_OBJECT
 
@@ -20,12 +20,17 @@ public:
     class Loading {
     public:
         explicit Loading(ListBox &list) : m_list(list) { m_list.m_model.beginLoading(); }
+
         ~Loading() { m_list.m_model.endLoading(); }
+
         Loading(const Loading &) = delete;
         Loading &operator=(const Loading &) = delete;
 
         /// Throws DuplicateKeyError for a key that is present.
-        void Add(const QString &key, const QString &text, int picture) { m_list.m_model.append(key, text, picture); }
+        void Add(const QString &key, const QString &text, int picture) {
+            m_list.m_model.append(key, text, picture);
+        }
+
         int Count() const { return m_list.Count(); }
 
     private:
@@ -39,23 +44,31 @@ public:
     /// Pictures of the rows; a row's picture number 1 is the first.
     void SetImageList(const std::vector<QPixmap> &pictures);
     void SetBackColor(const QColor &colour);
+
     /// Colour of highlighted rows.
     void SetSelectionColour(const QColor &colour) { m_model.setHighlightColour(colour); }
 
     void Clear() { const Loading none(*this); }
+
     int Count() const { return m_model.rowCount(); }
 
     /// Index of the selected row, 0 if none.
     int SelectedIndex() const { return currentIndex().row() + 1; }
+
     /// Selects the row and makes it visible. Raises no event.
     void Select(int index);
+
     /// Index of the row of that key, 0 if there is none.
     int IndexOfKey(const QString &key) const { return m_model.find(key) + 1; }
 
     QString Key(int index) const { return m_model.key(checked(index)); }
+
     QString Text(int index) const { return m_model.text(checked(index)); }
+
     int SmallIcon(int index) const { return m_model.picture(checked(index)); }
+
     void Highlight(int index, bool highlighted) { m_model.setHighlight(checked(index), highlighted); }
+
     void Remove(int index) { m_model.remove(checked(index)); }
 
     /// Automatic: a click on the selected row edits its text in place. Manual: only StartLabelEdit does.

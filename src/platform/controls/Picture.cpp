@@ -61,7 +61,8 @@ void PictureBox::paintEvent(QPaintEvent * /*event*/) {
     }
     const QSize wanted = size() * devicePixelRatio();
     if (m_scaled.size() != wanted) {
-        m_scaled = QPixmap::fromImage(m_picture.scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        m_scaled =
+            QPixmap::fromImage(m_picture.scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
         m_scaled.setDevicePixelRatio(devicePixelRatio());
     }
     QPainter(this).drawPixmap(0, 0, m_scaled);

@@ -14,11 +14,12 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// Reads a picture by the content of the file, not by the ending of its name, turned as its EXIF orientation says.
-/// Throws PictureError for a file that is no picture, or one of more than 200 megapixels.
+/// Reads a picture by the content of the file, not by the ending of its name, turned as its EXIF orientation
+/// says. Throws PictureError for a file that is no picture, or one of more than 200 megapixels.
 QImage LoadPicture(const QString &path);
 
-/// A picture of the program's own resources, in the resolution of the screen: ":/icones/vue-0.png", or its double
+/// A picture of the program's own resources, in the resolution of the screen: ":/icones/vue-0.png", or its
+/// double
 /// ":/icones/vue-0@2x.png" where pixels are small. Null when there is none.
 QPixmap resourcePicture(const QString &path);
 
@@ -31,6 +32,7 @@ public:
 
     /// A null image clears the picture.
     void SetPicture(const QImage &picture);
+
     const QImage &Picture() const { return m_picture; }
 
     /// Width and height of the unstretched picture, in twips.

@@ -4,7 +4,9 @@ namespace platform::controls {
 
 namespace {
 
-QString text(std::u16string_view view) { return QStringView(view).toString(); }
+QString text(std::u16string_view view) {
+    return QStringView(view).toString();
+}
 
 } // namespace
 

@@ -15,9 +15,9 @@ enum class Look {
     Value,   ///< a flat line of text, cut at the edge, that shows under the pointer that it can be pressed
 };
 
-/// A flat skinned button that is a toggle: pressed by the user or by code, its Value becomes true and its event
-/// is raised; a handler acts when Value is true and ends by setting it false, which raises the event again.
-/// The event is the signal toggled(bool) of QAbstractButton.
+/// A flat skinned button that is a toggle: pressed by the user or by code, its Value becomes true and its
+/// event is raised; a handler acts when Value is true and ends by setting it false, which raises the event
+/// again. The event is the signal toggled(bool) of QAbstractButton.
 class RibbonButton : public QAbstractButton {
     Q_OBJECT
 
@@ -25,12 +25,15 @@ public:
     explicit RibbonButton(QWidget *parent);
 
     bool Value() const { return isChecked(); }
+
     void SetValue(bool value) { setChecked(value); }
 
     QString Caption() const { return text(); }
+
     void SetCaption(const QString &caption);
 
     QColor ForeColor() const { return palette().color(foregroundRole()); }
+
     void SetForeColor(const QColor &colour);
 
     /// Underlines the caption.
@@ -40,9 +43,13 @@ public:
 
     /// The picture shown now; the three others take its place while pressed, on leaving and on entering.
     void SetPicture(const QPixmap &picture);
+
     const QPixmap &Picture() const { return m_picture; }
+
     void SetPressedPicture(const QPixmap &picture) { m_pressed = picture; }
+
     void SetRestingPicture(const QPixmap &picture) { m_resting = picture; }
+
     void SetHoverPicture(const QPixmap &picture) { m_hover = picture; }
 
     /// Sets Value false and shows the resting picture again, also while the pointer is still over the button.

@@ -33,7 +33,9 @@ void RichTextEdit::SetDefaultColor(const QColor &colour) {
     setPalette(colours);
 }
 
-QString RichTextEdit::TextRTF() const { return richtext::toRtf(*document()); }
+QString RichTextEdit::TextRTF() const {
+    return richtext::toRtf(*document());
+}
 
 void RichTextEdit::SetTextRTF(const QString &text) {
     const QSignalBlocker quiet(this);
@@ -49,9 +51,13 @@ void RichTextEdit::Select(int start, int length) {
     setTextCursor(cursor);
 }
 
-void RichTextEdit::SetSelColor(const QColor &colour) { setTextColor(colour); }
+void RichTextEdit::SetSelColor(const QColor &colour) {
+    setTextColor(colour);
+}
 
-void RichTextEdit::SetSelBold(bool bold) { setFontWeight(bold ? QFont::Bold : QFont::Normal); }
+void RichTextEdit::SetSelBold(bool bold) {
+    setFontWeight(bold ? QFont::Bold : QFont::Normal);
+}
 
 void RichTextEdit::mouseReleaseEvent(QMouseEvent *event) {
     QTextEdit::mouseReleaseEvent(event);

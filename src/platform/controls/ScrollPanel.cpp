@@ -26,14 +26,18 @@ void ScrollArea::SetBackColor(const QColor &colour) {
     m_content->setAutoFillBackground(true);
 }
 
-void ScrollArea::ScrollToTop() { verticalScrollBar()->setValue(0); }
+void ScrollArea::ScrollToTop() {
+    verticalScrollBar()->setValue(0);
+}
 
 void ScrollArea::resizeEvent(QResizeEvent *event) {
     QScrollArea::resizeEvent(event);
     fitContent();
 }
 
-void ScrollArea::mousePressEvent(QMouseEvent * /*event*/) { Q_EMIT Clicked(); }
+void ScrollArea::mousePressEvent(QMouseEvent * /*event*/) {
+    Q_EMIT Clicked();
+}
 
 void ScrollArea::fitContent() {
     m_content->resize(viewport()->width(), qMax(m_height.pixels(), viewport()->height()));

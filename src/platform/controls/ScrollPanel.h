@@ -6,8 +6,8 @@
 
 namespace platform::controls {
 
-/// A panel that scrolls up and down over a content of a height of its own. Controls that scroll are children of
-/// Content().
+/// A panel that scrolls up and down over a content of a height of its own. Controls that scroll are children
+/// of Content().
 class ScrollArea : public QScrollArea {
     Q_OBJECT
 
@@ -15,9 +15,12 @@ public:
     explicit ScrollArea(QWidget *parent);
 
     QWidget *Content() const { return m_content; }
+
     /// Height of the content.
     void SetScrollableHeight(Twips height);
+
     Twips ScrollableHeight() const { return m_height; }
+
     void SetBackColor(const QColor &colour);
     /// Scrolls back to the top.
     void ScrollToTop();

@@ -9,19 +9,39 @@ namespace platform::controls {
 namespace {
 
 const std::array<Skin, 3> &skins() {
-    static const std::array<Skin, 3> all{
-        Skin{.bandTop = QColor(0x3b5078), .bandBottom = QColor(0x1f2b47), .groundTop = QColor(0x5a76a8),
-             .groundBottom = QColor(0x2f4268), .edge = QColor(0x18213a), .strip = QColor(0xe9eef7),
-             .button = QColor(0x3f5a8c), .buttonHover = QColor(0x4d6ca6), .buttonCurrent = QColor(0xf3dcae),
-             .accent = QColor(0xd98a45), .title = QColor(0xfbf3e2)},
-        Skin{.bandTop = QColor(0x8a4f2a), .bandBottom = QColor(0x4a2716), .groundTop = QColor(0xb9855a),
-             .groundBottom = QColor(0x6d4328), .edge = QColor(0x35190c), .strip = QColor(0xf8efe2),
-             .button = QColor(0x7d4a2b), .buttonHover = QColor(0x99603a), .buttonCurrent = QColor(0xf6dfb0),
-             .accent = QColor(0x5f8a3a), .title = QColor(0xfff4e0)},
-        Skin{.bandTop = QColor(0x4f7a45), .bandBottom = QColor(0x24401f), .groundTop = QColor(0x86a876),
-             .groundBottom = QColor(0x46663b), .edge = QColor(0x182c14), .strip = QColor(0xf0f5ea),
-             .button = QColor(0x3f6a38), .buttonHover = QColor(0x528547), .buttonCurrent = QColor(0xf4e2a4),
-             .accent = QColor(0xc8432f), .title = QColor(0xf8f7e4)}};
+    static const std::array<Skin, 3> all{Skin{.bandTop = QColor(0x3b5078),
+                                              .bandBottom = QColor(0x1f2b47),
+                                              .groundTop = QColor(0x5a76a8),
+                                              .groundBottom = QColor(0x2f4268),
+                                              .edge = QColor(0x18213a),
+                                              .strip = QColor(0xe9eef7),
+                                              .button = QColor(0x3f5a8c),
+                                              .buttonHover = QColor(0x4d6ca6),
+                                              .buttonCurrent = QColor(0xf3dcae),
+                                              .accent = QColor(0xd98a45),
+                                              .title = QColor(0xfbf3e2)},
+                                         Skin{.bandTop = QColor(0x8a4f2a),
+                                              .bandBottom = QColor(0x4a2716),
+                                              .groundTop = QColor(0xb9855a),
+                                              .groundBottom = QColor(0x6d4328),
+                                              .edge = QColor(0x35190c),
+                                              .strip = QColor(0xf8efe2),
+                                              .button = QColor(0x7d4a2b),
+                                              .buttonHover = QColor(0x99603a),
+                                              .buttonCurrent = QColor(0xf6dfb0),
+                                              .accent = QColor(0x5f8a3a),
+                                              .title = QColor(0xfff4e0)},
+                                         Skin{.bandTop = QColor(0x4f7a45),
+                                              .bandBottom = QColor(0x24401f),
+                                              .groundTop = QColor(0x86a876),
+                                              .groundBottom = QColor(0x46663b),
+                                              .edge = QColor(0x182c14),
+                                              .strip = QColor(0xf0f5ea),
+                                              .button = QColor(0x3f6a38),
+                                              .buttonHover = QColor(0x528547),
+                                              .buttonCurrent = QColor(0xf4e2a4),
+                                              .accent = QColor(0xc8432f),
+                                              .title = QColor(0xf8f7e4)}};
     return all;
 }
 
@@ -32,8 +52,8 @@ const Skin &skinOf(int mode) {
     return index < skins().size() ? skins()[index] : skins().front();
 }
 
-void paintBlock(QPainter &painter, const QRectF &block, double radius, const QColor &top, const QColor &bottom,
-                const QColor &edge) {
+void paintBlock(QPainter &painter, const QRectF &block, double radius, const QColor &top,
+                const QColor &bottom, const QColor &edge) {
     QLinearGradient gradient(block.topLeft(), block.bottomLeft());
     gradient.setColorAt(0, top);
     gradient.setColorAt(1, bottom);

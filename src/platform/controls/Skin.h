@@ -25,8 +25,9 @@ const Skin &skinOf(int mode);
 /// Paper-like grounds that do not change with the display mode.
 inline constexpr QRgb kListGround = qRgb(148, 173, 214);
 
-/// Fills a rounded rectangle with a vertical gradient and outlines it; no outline with an invalid edge colour.
-void paintBlock(QPainter &painter, const QRectF &block, double radius, const QColor &top, const QColor &bottom,
-                const QColor &edge);
+/// Fills a rounded rectangle with a vertical gradient and outlines it; no outline with an invalid edge
+/// colour.
+void paintBlock(QPainter &painter, const QRectF &block, double radius, const QColor &top,
+                const QColor &bottom, const QColor &edge);
 
 } // namespace platform::controls

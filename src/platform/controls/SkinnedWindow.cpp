@@ -33,9 +33,13 @@ void SkinnedWindow::SetMode(int mode) {
     }
 }
 
-Twips SkinnedWindow::Left() const { return Twips::fromPixels(x(), kTwipsPerPixel); }
+Twips SkinnedWindow::Left() const {
+    return Twips::fromPixels(x(), kTwipsPerPixel);
+}
 
-Twips SkinnedWindow::Top() const { return Twips::fromPixels(y(), kTwipsPerPixel); }
+Twips SkinnedWindow::Top() const {
+    return Twips::fromPixels(y(), kTwipsPerPixel);
+}
 
 void SkinnedWindow::Move(Twips left, Twips top) {
     // Places on the screen are in plain pixels, also where the windows themselves are shrunk to fit.
@@ -56,7 +60,8 @@ void SkinnedWindow::paintEvent(QPaintEvent * /*event*/) {
     }
     painter.setPen(colours.title);
     painter.setFont(interfaceFont(Face::Verdana, 13, true));
-    painter.drawText(band.adjusted(kTitleLeft.pixels(), 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft, windowTitle());
+    painter.drawText(band.adjusted(kTitleLeft.pixels(), 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft,
+                     windowTitle());
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(colours.edge, 2));
     painter.drawRoundedRect(whole.adjusted(1, 1, -1, -1), kCorner.pixels(), kCorner.pixels());

@@ -19,10 +19,13 @@ public:
 
     /// Display mode 0, 1 or 2.
     int Mode() const { return m_mode; }
+
     void SetMode(int mode);
+
     const Skin &skin() const { return skinOf(m_mode); }
 
     Twips Width() const { return m_size.width; }
+
     Twips Height() const { return m_size.height; }
 
     /// Place of the window on the screen; on platforms that place windows themselves it is only a wish.

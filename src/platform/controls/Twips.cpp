@@ -8,7 +8,9 @@
 
 namespace platform::controls {
 
-int Twips::pixels() const { return qRound(m_value / twipsPerPixel()); }
+int Twips::pixels() const {
+    return qRound(m_value / twipsPerPixel());
+}
 
 Twips IntegerHalf(Twips length) {
     return Twips(static_cast<int>(std::nearbyint(static_cast<double>(length.value()))) / 2);

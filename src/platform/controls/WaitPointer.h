@@ -9,7 +9,9 @@ namespace platform::controls {
 class WaitPointer {
 public:
     WaitPointer() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+
     ~WaitPointer() { QGuiApplication::restoreOverrideCursor(); }
+
     WaitPointer(const WaitPointer &) = delete;
     WaitPointer &operator=(const WaitPointer &) = delete;
 };

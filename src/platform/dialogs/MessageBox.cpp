@@ -26,7 +26,8 @@ void prepare(QMessageBox &box, const QString &title, const QString &text, Icon i
     box.setWindowTitle(title);
     // The texts come from rows and files: shown as they are, never as markup.
     box.setTextFormat(Qt::PlainText);
-    box.setText(text);
+    // Carriage returns alone end lines in the texts; the toolkit breaks at line feeds only.
+    box.setText(QString(text).replace(QLatin1Char('\r'), QLatin1Char('\n')));
     box.setIcon(toolkitIcon(icon));
 }
 

@@ -14,7 +14,8 @@ double toDouble(const QString &text) {
     bool isNumber = false;
     const double number = QLocale::c().toDouble(plain, &isNumber);
     if (!isNumber || !std::isfinite(number)) {
-        throw ConversionError("Incompatibilité de type : « " + text.toStdString() + " » n'est pas un nombre.");
+        throw ConversionError("Incompatibilité de type : « " + text.toStdString() +
+                              " » n'est pas un nombre.");
     }
     return number;
 }
@@ -29,12 +30,20 @@ Number inRange(double number) {
 
 } // namespace
 
-qint16 ToInteger(const QString &text) { return inRange<qint16>(std::nearbyint(toDouble(text))); }
+qint16 ToInteger(const QString &text) {
+    return inRange<qint16>(std::nearbyint(toDouble(text)));
+}
 
-qint32 ToLong(const QString &text) { return inRange<qint32>(std::nearbyint(toDouble(text))); }
+qint32 ToLong(const QString &text) {
+    return inRange<qint32>(std::nearbyint(toDouble(text)));
+}
 
-float ToSingle(const QString &text) { return inRange<float>(toDouble(text)); }
+float ToSingle(const QString &text) {
+    return inRange<float>(toDouble(text));
+}
 
-QString ToText(float number) { return QString::number(number, 'g', std::numeric_limits<float>::max_digits10); }
+QString ToText(float number) {
+    return QString::number(number, 'g', std::numeric_limits<float>::max_digits10);
+}
 
 } // namespace platform::settings

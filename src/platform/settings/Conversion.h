@@ -11,8 +11,9 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// The number that a text holds, blanks around it allowed; decimal point or comma; fractions are rounded to the
-/// nearest integer, ties to even. Throws ConversionError for a text that is no number or is out of the range.
+/// The number that a text holds, blanks around it allowed; decimal point or comma; fractions are rounded to
+/// the nearest integer, ties to even. Throws ConversionError for a text that is no number or is out of the
+/// range.
 qint16 ToInteger(const QString &text);
 
 /// As ToInteger, for 32 bits.

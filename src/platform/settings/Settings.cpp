@@ -6,7 +6,9 @@ namespace platform::settings {
 
 namespace {
 
-QString path(const QString &section, const QString &key) { return section + QLatin1Char('/') + key; }
+QString path(const QString &section, const QString &key) {
+    return section + QLatin1Char('/') + key;
+}
 
 } // namespace
 
@@ -15,10 +17,12 @@ QString GetSetting(const QString &application, const QString &section, const QSt
     const QSettings store(QSettings::IniFormat, QSettings::UserScope, application, application);
     const QVariant value = store.value(path(section, key), defaultText);
     // An unquoted comma in a file changed by hand makes a list of the value.
-    return value.typeId() == QMetaType::QStringList ? value.toStringList().join(QLatin1Char(',')) : value.toString();
+    return value.typeId() == QMetaType::QStringList ? value.toStringList().join(QLatin1Char(','))
+                                                    : value.toString();
 }
 
-void SaveSetting(const QString &application, const QString &section, const QString &key, const QString &text) {
+void SaveSetting(const QString &application, const QString &section, const QString &key,
+                 const QString &text) {
     QSettings store(QSettings::IniFormat, QSettings::UserScope, application, application);
     store.setValue(path(section, key), text);
     store.sync();
