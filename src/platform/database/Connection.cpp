@@ -1,0 +1,108 @@
+#include "Connection.h"
+
+#include "DatabaseError.h"
+#include "KeyDerivation.h"
+
+#include <sqlite3.h>
+
+namespace platform::database {
+
+namespace {
+
+int compareTexts(void *compare, int leftSize, const void *left, int rightSize, const void *right) {
+    const auto *collation = static_cast<const Collation *>(compare);
+    return collation->compare({static_cast<const char *>(left), size_t(leftSize)},
+                              {static_cast<const char *>(right), size_t(rightSize)});
+}
+
+} // namespace
+
+void SqliteCloser::operator()(sqlite3 *db) const {
+    sqlite3_close(db);
+}
+
+QByteArray passphraseOf(const QString &connect) {
+    for (const QString &part : connect.split(u';')) {
+        const qsizetype equals = part.indexOf(u'=');
+        if (QStringView(part).first(qMax(equals, 0)).trimmed().compare(u"pwd", Qt::CaseInsensitive) == 0)
+            return part.mid(equals + 1).toUtf8();
+    }
+    return {};
+}
+
+SqliteHandle openFile(const QString &name, int flags) {
+    sqlite3 *db = nullptr;
+    const int result = sqlite3_open_v2(name.toUtf8().constData(), &db, flags | SQLITE_OPEN_NOMUTEX, nullptr);
+    SqliteHandle handle(db);
+    if (result != SQLITE_OK)
+        throw DatabaseError(db ? sqlite3_errmsg(db) : sqlite3_errstr(result));
+    return handle;
+}
+
+QByteArray readSalt(sqlite3 *db) {
+    // Through the engine's own handle: opening and closing the file aside would drop the locks that another
+    // connection of this process holds.
+    sqlite3_file *file = nullptr;
+    sqlite3_file_control(db, "main", SQLITE_FCNTL_FILE_POINTER, static_cast<void *>(&file));
+    QByteArray salt(kSaltSize, Qt::Uninitialized);
+    if (file->pMethods->xRead(file, salt.data(), kSaltSize, 0) != SQLITE_OK)
+        throw DatabaseError(sqlite3_errstr(SQLITE_NOTADB));
+    return salt;
+}
+
+void useKey(sqlite3 *db, const QByteArray &passphrase, const QByteArray &salt) {
+    const QByteArray key = "x'" + KeyCache::instance().key(passphrase, salt).toHex() + salt.toHex() + "'";
+    sqlite3_key(db, key.constData(), int(key.size()));
+    runScript(db, "PRAGMA cipher_page_size = 4096");
+}
+
+void runScript(sqlite3 *db, const char *sql) {
+    if (sqlite3_exec(db, sql, nullptr, nullptr, nullptr) != SQLITE_OK)
+        throw DatabaseError(sqlite3_errmsg(db));
+}
+
+Connection::Connection(const QString &name, const Options &options)
+    : m_db(openFile(name, SQLITE_OPEN_READWRITE)),
+      m_collation(options.collation),
+      m_exclusive(options.exclusive) {
+    sqlite3 *db = m_db.get();
+    if (const QByteArray salt = readSalt(db); !options.passphrase.isEmpty())
+        useKey(db, options.passphrase, salt);
+    sqlite3_create_collation(db, "NOCASE", SQLITE_UTF8, &m_collation, compareTexts);
+    if (m_exclusive) {
+        // The journal is cut short by each commit and goes at the close, since a lasting lock keeps it.
+        runScript(db, "PRAGMA locking_mode = EXCLUSIVE; PRAGMA journal_mode = TRUNCATE;"
+                      "BEGIN EXCLUSIVE; COMMIT");
+    } else {
+        runScript(db, "PRAGMA schema_version");
+    }
+    if (options.readOnly)
+        runScript(db, "PRAGMA query_only = 1");
+}
+
+Connection::~Connection() {
+    close();
+}
+
+void Connection::close() {
+    if (!m_db)
+        return;
+    while (sqlite3_stmt *statement = sqlite3_next_stmt(m_db.get(), nullptr))
+        sqlite3_finalize(statement);
+    if (m_exclusive)
+        sqlite3_exec(m_db.get(), "PRAGMA locking_mode = NORMAL; PRAGMA journal_mode = DELETE", nullptr,
+                     nullptr, nullptr);
+    m_db.reset();
+}
+
+sqlite3 *Connection::handle() const {
+    if (!m_db)
+        throw DatabaseError("La base de données est fermée.");
+    return m_db.get();
+}
+
+void Connection::fail() const {
+    throw DatabaseError(sqlite3_errmsg(handle()));
+}
+
+} // namespace platform::database

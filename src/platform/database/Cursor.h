@@ -1,0 +1,71 @@
+#pragma once
+
+#include "Query.h"
+#include "Recordset.h"
+#include "RowCache.h"
+#include "Statement.h"
+
+#include <map>
+#include <optional>
+
+namespace platform::database {
+
+/// What stands behind a Recordset and its fields.
+class Cursor {
+public:
+    Cursor(const std::shared_ptr<Connection> &connection, const QString &sql);
+
+    qsizetype count() const { return m_rows.count(); }
+
+    bool atEnd() const { return m_row >= m_rows.count(); }
+
+    void moveNext();
+
+    /// The place of a column. @throws DatabaseError when there is none
+    int column(int position) const;
+    int column(QStringView name) const;
+    QVariant value(int column);
+    void setValue(int column, const QVariant &value);
+
+    void addNew();
+    void edit();
+    void update();
+    void remove();
+
+    RowMark lastModified() const { return RowMark{m_lastModified}; }
+
+    RowMark bookmark() const;
+    void setBookmark(RowMark mark);
+
+private:
+    enum class Change { None, Edit, Add };
+
+    void readTable();
+    void readSnapshot();
+    bool hasCollation(const QByteArray &name) const;
+    void requireRow() const;
+    void requireTable() const;
+    void dropRow();
+    void dropChange();
+    void insertRow();
+    void updateRow();
+    bool readRow(qint64 rowid);
+    bool isRowNumber(int column) const;
+    QByteArray columnName(int column) const;
+
+    std::shared_ptr<Connection> m_connection;
+    /// Nothing for a query that can only be read.
+    std::optional<TableQuery> m_table;
+    /// Gives one row of the table by its number, and the names of the columns; for any other query, itself.
+    Statement m_source;
+    bool m_sourceOnRow = false;
+    RowCache m_rows;
+    qsizetype m_row = 0;
+    /// The current row was deleted: m_row is the one after it already.
+    bool m_deleted = false;
+    Change m_change = Change::None;
+    std::map<int, QVariant> m_changes;
+    qint64 m_lastModified = 0;
+};
+
+} // namespace platform::database

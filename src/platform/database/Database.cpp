@@ -1,0 +1,64 @@
+#include "Database.h"
+
+#include "Connection.h"
+#include "Cursor.h"
+#include "DatabaseError.h"
+#include "KeyDerivation.h"
+#include "Query.h"
+#include "Statement.h"
+
+#include <sqlite3.h>
+
+namespace platform::database {
+
+Database::Database(std::shared_ptr<Connection> connection) : m_connection(std::move(connection)) {}
+
+Database::Database(Database &&) noexcept = default;
+
+Database &Database::operator=(Database &&other) noexcept {
+    Close();
+    m_connection = std::move(other.m_connection);
+    return *this;
+}
+
+Database::~Database() {
+    Close();
+}
+
+Recordset Database::OpenRecordset(const QString &sql) {
+    return Recordset(std::make_unique<Cursor>(open(), sql));
+}
+
+void Database::Execute(const QString &sql) {
+    Statement(open(), withoutDeleteStar(sql).toUtf8()).step();
+}
+
+void Database::Close() {
+    if (m_connection)
+        m_connection->close();
+    m_connection.reset();
+}
+
+const std::shared_ptr<Connection> &Database::open() const {
+    if (!m_connection)
+        throw DatabaseError("La base de données est fermée.");
+    return m_connection;
+}
+
+Database OpenDatabase(const QString &name, bool exclusive, bool readOnly, const QString &connect,
+                      const Collation &collation) {
+    return Database(std::make_shared<Connection>(
+        name, Connection::Options{exclusive, readOnly, passphraseOf(connect), collation}));
+}
+
+void PrepareKey(const QString &name, const QString &connect) {
+    KeyCache::instance().prepare(passphraseOf(connect), [name]() -> QByteArray {
+        try {
+            return readSalt(openFile(name, SQLITE_OPEN_READONLY).get());
+        } catch (const DatabaseError &) {
+            return {}; // the failure shows at OpenDatabase
+        }
+    });
+}
+
+} // namespace platform::database

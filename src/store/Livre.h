@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/database/Database.h"
+
+#include <QString>
+
+namespace store {
+
+/// Opens the book of the program folder, exclusively and for writing, with the French collation.
+///
+/// It is opened for one operation and closed before the operation returns; a second open meanwhile fails.
+/// @throws platform::database::DatabaseError
+platform::database::Database OuvrirLivre();
+
+/// Starts the derivation of the book's key beside the start of the program. Never fails.
+void PreparerLivre();
+
+/// Makes an empty book: the ten tables without rows.
+/// @throws platform::database::DatabaseError when the file exists
+void CreerLivre(const QString &chemin);
+
+} // namespace store

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+namespace store {
+
+/// A text as it goes between the quotes of a query: every ' doubled.
+QString DoublerApostrophes(const QString &texte);
+
+/// The key of a row in a list: "N 12" for 12.
+QString CleDeListe(qint64 numero);
+
+/// The number in the key of a row: all from the second character on, trimmed. 0 for a key without a number.
+qint64 NumeroDeCle(QStringView cle);
+
+} // namespace store

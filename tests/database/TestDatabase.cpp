@@ -1,0 +1,445 @@
+#include "platform/database/CreateDatabase.h"
+#include "platform/database/Database.h"
+#include "platform/database/DatabaseError.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <sqlite3.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <csignal>
+#include <functional>
+#include <memory>
+
+using namespace platform::database;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString connectString() {
+    return u";pwd =sésame"_s;
+}
+
+/// A collation by which every vowel is the same, so that its use shows.
+std::string withoutVowels(std::string_view text) {
+    std::string key(text);
+    std::replace_if(
+        key.begin(), key.end(),
+        [](char c) { return std::string_view("aeiou").find(c) != std::string_view::npos; }, '*');
+    return key;
+}
+
+constexpr Collation kVowelBlind{
+    [](std::string_view left, std::string_view right) {
+        return withoutVowels(left).compare(withoutVowels(right));
+    },
+    withoutVowels,
+};
+
+/// The end of a child process that runs a function.
+int exitCodeOf(const std::function<int()> &function) {
+    const pid_t child = fork();
+    if (child == 0)
+        _exit(function());
+    int status = 0;
+    waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+} // namespace
+
+class TestDatabase : public QObject {
+    Q_OBJECT
+
+private:
+    QString path() const { return m_folder->filePath(u"livre.mdb"_s); }
+
+    Database open(const Collation &collation = kBinaryCollation) const {
+        return OpenDatabase(path(), true, false, connectString(), collation);
+    }
+
+    QByteArray bytes() const {
+        QFile file(path());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    QStringList files() const { return QDir(m_folder->path()).entryList(QDir::Files); }
+
+    static QString texts(Recordset rows, int column) {
+        QStringList list;
+        for (; !rows.AtEnd(); rows.MoveNext())
+            list.append(rows.Fields(column).Text());
+        return list.join(u' ');
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+
+private Q_SLOTS:
+
+    void init() {
+        m_folder = std::make_unique<QTemporaryDir>();
+        CreateDatabase(
+            path(), connectString(),
+            u"CREATE TABLE Plat (N INTEGER PRIMARY KEY, Nom TEXT COLLATE NOCASE, Note TEXT, Prix REAL);"
+            "CREATE TABLE Ligne (Numero INTEGER, Quoi INTEGER)"_s);
+    }
+
+    void faultyFilesGiveTheEnginesTextAndStayAsTheyAre_data() {
+        QTest::addColumn<int>("size");
+        QTest::addColumn<int>("damagedByte");
+        QTest::addColumn<QString>("connect");
+        QTest::addColumn<QString>("text");
+
+        const QString foreign = u"file is encrypted or is not a database"_s;
+        QTest::newRow("wrong password") << 8192 << -1 << u";pwd =Sésame"_s << foreign;
+        QTest::newRow("no password") << 8192 << -1 << QString() << foreign;
+        QTest::newRow("empty, taken for a new book") << 0 << -1 << connectString() << foreign;
+        QTest::newRow("shorter than the salt") << 15 << -1 << connectString() << foreign;
+        QTest::newRow("shorter than a page") << 2000 << -1 << connectString() << foreign;
+        QTest::newRow("cut between pages")
+            << 4096 << -1 << connectString() << u"database disk image is malformed"_s;
+        QTest::newRow("another salt") << 8192 << 3 << connectString() << foreign;
+        QTest::newRow("a damaged first page") << 8192 << 100 << connectString() << foreign;
+    }
+
+    void faultyFilesGiveTheEnginesTextAndStayAsTheyAre() {
+        QFETCH(const int, size);
+        QFETCH(const int, damagedByte);
+        QFETCH(const QString, connect);
+        QFETCH(const QString, text);
+        QByteArray content = bytes().first(size);
+        if (damagedByte >= 0)
+            content[damagedByte] = char(~content[damagedByte]);
+        QFile file(path());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        file.close();
+
+        try {
+            OpenDatabase(path(), true, false, connect);
+            QFAIL("opened");
+        } catch (const DatabaseError &error) {
+            QCOMPARE(QString::fromUtf8(error.what()), text);
+        }
+        QCOMPARE(bytes(), content);
+        QCOMPARE(files(), QStringList{u"livre.mdb"_s});
+    }
+
+    void missingFileIsNotCreated() {
+        QVERIFY(QFile::remove(path()));
+        PrepareKey(path(), connectString());
+        QVERIFY_EXCEPTION_THROWN(open(), DatabaseError);
+        QVERIFY(files().isEmpty());
+    }
+
+    void createDoesNotOverwriteAndLeavesNothingOnFailure() {
+        const QByteArray before = bytes();
+        QVERIFY_EXCEPTION_THROWN(CreateDatabase(path(), connectString(), u"CREATE TABLE X (N)"_s),
+                                 DatabaseError);
+        QCOMPARE(bytes(), before);
+        QVERIFY_EXCEPTION_THROWN(
+            CreateDatabase(m_folder->filePath(u"autre"_s), connectString(), u"CREATE X"_s), DatabaseError);
+        QCOMPARE(files(), QStringList{u"livre.mdb"_s});
+    }
+
+    void exclusiveFromOpenToClose() {
+        const auto openFails = [this] {
+            try {
+                open();
+                return 0;
+            } catch (const DatabaseError &error) {
+                return std::string_view(error.what()) == "database is locked" ? 1 : 2;
+            }
+        };
+        Database database = open();
+        QCOMPARE(exitCodeOf(openFails), 1);
+        QCOMPARE(openFails(), 1);
+        // The failed attempts, and reading the salt for the key, must not have dropped the lock.
+        PrepareKey(path(), connectString());
+        database.Execute(u"INSERT INTO Plat (Nom) VALUES ('a')"_s);
+        QCOMPARE(exitCodeOf(openFails), 1);
+        database.Close();
+        QCOMPARE(openFails(), 0);
+    }
+
+    void closedDatabaseTakesItsRecordsetsAlong() {
+        Database database = open();
+        database.Execute(u"INSERT INTO Plat (Nom, Note) VALUES ('a', 'b')"_s);
+        Recordset rows = database.OpenRecordset(u"SELECT * From Plat"_s);
+        QCOMPARE(rows.Fields(u"Note").Text(), u"b"_s);
+        database.Close();
+        QVERIFY_EXCEPTION_THROWN(rows.Fields(u"Note").Text(), DatabaseError);
+        QVERIFY_EXCEPTION_THROWN(database.Execute(u"DELETE * FROM Plat"_s), DatabaseError);
+        open();
+    }
+
+    void noOtherFileIsLeftBeside() {
+        for (int round = 0; round < 2; ++round) {
+            Database database = open();
+            Recordset rows = database.OpenRecordset(u"SELECT * From Plat"_s);
+            rows.AddNew();
+            rows.Fields(u"Nom") = u"a"_s;
+            rows.Update();
+            database.Close();
+            QCOMPARE(files(), QStringList{u"livre.mdb"_s});
+        }
+    }
+
+    void committedRowsSurviveAKill() {
+        std::array<int, 2> ends{};
+        QCOMPARE(pipe(ends.data()), 0);
+        const pid_t child = fork();
+        if (child == 0) {
+            Database database = open();
+            Recordset rows = database.OpenRecordset(u"SELECT * From Plat"_s);
+            for (qint64 number = 1;; ++number) {
+                rows.AddNew();
+                rows.Fields(0) = number;
+                rows.Fields(2) = QString(9000, u'x');
+                rows.Update();
+                if (write(ends[1], &number, sizeof number) < 0)
+                    _exit(1);
+            }
+        }
+        qint64 committed = 0;
+        while (committed < 40)
+            QCOMPARE(read(ends[0], &committed, sizeof committed), qint64(sizeof committed));
+        kill(child, SIGKILL);
+        waitpid(child, nullptr, 0);
+        ::close(ends[1]);
+        while (read(ends[0], &committed, sizeof committed) > 0) {
+        }
+        ::close(ends[0]);
+
+        Database database = open();
+        const qsizetype count = database.OpenRecordset(u"SELECT * From Plat"_s).RecordCount();
+        QVERIFY2(count == committed || count == committed + 1, qPrintable(QString::number(count)));
+        QCOMPARE(database.OpenRecordset(u"PRAGMA integrity_check"_s).Fields(0).Text(), u"ok"_s);
+        database.Close();
+        QCOMPARE(files(), QStringList{u"livre.mdb"_s});
+    }
+
+    void rowsLeftEqualByTheOrder_data() {
+        QTest::addColumn<QString>("tail");
+        QTest::addColumn<QString>("order");
+        QTest::newRow("none: oldest first") << QString() << u"1 2 3 4 5 6"_s;
+        QTest::newRow("text ascending, Null first, oldest first")
+            << u"order by Nom asc"_s << u"5 6 1 4 2 3"_s;
+        QTest::newRow("text descending, newest first") << u"ORDER BY [nom] DESC"_s << u"3 2 4 1 6 5"_s;
+        QTest::newRow("text without collation, beyond the first columns")
+            << u"order by Note"_s << u"2 3 4 5 6 1"_s;
+        QTest::newRow("number ascending") << u"order by Prix asc"_s << u"1 2 3 6 4 5"_s;
+        QTest::newRow("number descending") << u"where N > 1 order by Prix desc"_s << u"5 4 6 3 2"_s;
+        QTest::newRow("order by in a text")
+            << u"where Nom <> 'x'' order by y' order by N desc"_s << u"6 4 3 2 1"_s;
+        QTest::newRow("order by in parentheses")
+            << u"where N in (select N from Plat order by N limit 2) order by N desc"_s << u"2 1"_s;
+    }
+
+    void rowsLeftEqualByTheOrder() {
+        QFETCH(const QString, tail);
+        QFETCH(const QString, order);
+        Database database = open(kVowelBlind);
+        database.Execute(
+            u"INSERT INTO Plat VALUES (1, 'sal', 'z', 1), (2, 'ton', 'a', 1), (3, 'tin', 'b', 1),"
+            "(4, 'sel', 'c', 2), (5, NULL, 'd', 2), (6, '', 'e', 1.5)"_s);
+        QCOMPARE(texts(database.OpenRecordset(u"SELECT * From Plat "_s + tail), 0), order);
+    }
+
+    void collationRulesWhereToo() {
+        Database database = open(kVowelBlind);
+        database.Execute(u"INSERT INTO Plat (Nom, Note) VALUES ('sel', 'sel'), ('ail', 'ail')"_s);
+        QCOMPARE(texts(database.OpenRecordset(u"select * from PLAT where nom = 'sol'"_s), 1), u"sel"_s);
+        QCOMPARE(database.OpenRecordset(u"SELECT * From Plat where Note = 'sol'"_s).RecordCount(), 0);
+    }
+
+    void valuesComeBackAsTheyWent() {
+        const QString odd = u"l'été 🍓 \"[order by]\" "_s + QChar(u'\0') + u"fin\r\n"_s;
+        const QString large(1 << 20, u'é');
+        Database database = open();
+        Recordset rows = database.OpenRecordset(u"SELECT * From Plat"_s);
+        rows.AddNew();
+        rows.Fields(u"nom") = odd;
+        rows.Fields(u"NOTE") = large;
+        rows.Update();
+        rows.AddNew();
+        rows.Fields(u"Nom") = QString();
+        rows.Fields(u"Prix") = 2.5;
+        rows.Update();
+
+        Recordset again = database.OpenRecordset(u"SELECT * From Plat order by N asc"_s);
+        QCOMPARE(again.RecordCount(), 2);
+        QCOMPARE(again.Fields(1).Text(), odd);
+        QCOMPARE(again.Fields(2).Text(), large);
+        QVERIFY(again.Fields(3).IsNull());
+        QCOMPARE(again.Fields(0).Value().typeId(), int(QMetaType::LongLong));
+        again.MoveNext();
+        QVERIFY(!again.Fields(1).IsNull());
+        QCOMPARE(again.Fields(1).Text(), QString());
+        QVERIFY(again.Fields(2).IsNull());
+        QCOMPARE(again.Fields(3).Value().toDouble(), 2.5);
+    }
+
+    void changesShowInTheRecordset() {
+        Database database = open();
+        database.Execute(u"INSERT INTO Plat VALUES (1, 'a', 'x', 0), (2, 'b', 'y', 0), (3, 'c', 'z', 0)"_s);
+        Recordset rows = database.OpenRecordset(u"SELECT * From Plat order by N asc"_s);
+        QCOMPARE(rows.Fields(2).Text(), u"x"_s);
+        rows.Edit();
+        rows.Fields(1) = u"A"_s;
+        rows.Fields(2) = u"X"_s;
+        QCOMPARE(rows.Fields(2).Text(), u"X"_s);
+        rows.Update();
+        QCOMPARE(rows.Fields(1).Text() + rows.Fields(2).Text(), u"AX"_s);
+
+        database.Execute(u"UPDATE Plat SET Note = 'Y' WHERE N = 2"_s);
+        rows.MoveNext();
+        QCOMPARE(rows.Fields(2).Text(), u"Y"_s);
+    }
+
+    void changedKeysAndRowsGoneOrNewKeepTheirPlace() {
+        Database database = open();
+        database.Execute(u"INSERT INTO Plat VALUES (1, 'a', 'x', 0), (2, 'b', 'y', 0), (3, 'c', 'z', 0)"_s);
+        Recordset rows = database.OpenRecordset(u"SELECT * From Plat order by N asc"_s);
+        rows.MoveNext();
+        rows.Edit();
+        rows.Fields(0) = 20;
+        rows.Update();
+        QCOMPARE(rows.Fields(2).Text(), u"y"_s);
+        QCOMPARE(rows.LastModified(), RowMark{20});
+
+        rows.Delete();
+        QVERIFY_EXCEPTION_THROWN(rows.Fields(1).Text(), DatabaseError);
+        rows.MoveNext();
+        QCOMPARE(rows.Fields(1).Text(), u"c"_s);
+
+        rows.AddNew();
+        rows.Fields(u"Nom") = u"d"_s;
+        rows.Update();
+        QCOMPARE(rows.Fields(1).Text(), u"c"_s);
+        rows.SetBookmark(rows.LastModified());
+        QCOMPARE(rows.Fields(1).Text(), u"d"_s);
+        QCOMPARE(rows.RecordCount(), 3);
+    }
+
+    void changesWithoutUpdateAreGivenUp() {
+        Database database = open();
+        database.Execute(u"INSERT INTO Plat VALUES (1, 'a', 'x', 0), (2, 'b', 'y', 0)"_s);
+        Recordset rows = database.OpenRecordset(u"SELECT * From Plat order by N asc"_s);
+        rows.Edit();
+        rows.Fields(1) = u"A"_s;
+        rows.MoveNext();
+        QVERIFY_EXCEPTION_THROWN(rows.Update(), DatabaseError);
+        rows.AddNew();
+        rows.Fields(1) = u"c"_s;
+        rows.Close();
+        QCOMPARE(texts(database.OpenRecordset(u"SELECT * From Plat order by N asc"_s), 1), u"a b"_s);
+    }
+
+    void misuseThrows_data() {
+        QTest::addColumn<QString>("sql");
+        QTest::addColumn<int>("operation");
+        const QString empty = u"SELECT * From Plat where N = 99"_s;
+        QTest::newRow("read without a row") << empty << 0;
+        QTest::newRow("edit without a row") << empty << 1;
+        QTest::newRow("delete without a row") << empty << 2;
+        QTest::newRow("next without a row") << empty << 3;
+        QTest::newRow("write without edit") << u"SELECT * From Plat"_s << 4;
+        QTest::newRow("unknown name") << u"SELECT * From Plat"_s << 5;
+        QTest::newRow("unknown position") << u"SELECT * From Plat"_s << 6;
+        QTest::newRow("edit of a maximum") << u"SELECT max(+N) From Plat"_s << 1;
+        QTest::newRow("unknown table") << u"SELECT * From Rien"_s << 7;
+        QTest::newRow("unknown order, taken for a text") << u"SELECT * From Plat order by Rien"_s << 7;
+        QTest::newRow("two statements") << u"SELECT max(N) From Plat; DELETE FROM Plat"_s << 7;
+    }
+
+    void misuseThrows() {
+        QFETCH(const QString, sql);
+        QFETCH(const int, operation);
+        Database database = open();
+        database.Execute(u"INSERT INTO Plat (Nom) VALUES ('a')"_s);
+        const auto misuse = [&] {
+            Recordset rows = database.OpenRecordset(sql);
+            switch (operation) {
+            case 0:
+                rows.Fields(0).Number();
+                break;
+            case 1:
+                rows.Edit();
+                break;
+            case 2:
+                rows.Delete();
+                break;
+            case 3:
+                rows.MoveNext();
+                break;
+            case 4:
+                rows.Fields(1) = u"b"_s;
+                break;
+            case 5:
+                rows.Fields(u"Rien").Text();
+                break;
+            case 6:
+                rows.Fields(4).Text();
+                break;
+            default:
+                break;
+            }
+        };
+        QVERIFY_EXCEPTION_THROWN(misuse(), DatabaseError);
+        QCOMPARE(texts(database.OpenRecordset(u"SELECT * From Plat"_s), 1), u"a"_s);
+    }
+
+    void maximumOfNothingIsNull() {
+        Database database = open();
+        QVERIFY(database.OpenRecordset(u"SELECT max(+N) From Plat"_s).Fields(0).IsNull());
+        database.Execute(u"INSERT INTO Plat (N) VALUES (7)"_s);
+        QCOMPARE(database.OpenRecordset(u"SELECT max(+N) From Plat"_s).Fields(0).Number(), 7);
+        database.Execute(u"delete  *  from Plat where N = 7"_s);
+        QCOMPARE(database.OpenRecordset(u"SELECT * From Plat"_s).RecordCount(), 0);
+    }
+
+    void readOnlyRefusesChanges() {
+        Database database = OpenDatabase(path(), false, true, connectString());
+        QVERIFY_EXCEPTION_THROWN(database.Execute(u"INSERT INTO Plat (Nom) VALUES ('a')"_s), DatabaseError);
+        OpenDatabase(path(), false, false, connectString());
+    }
+
+    void stockEngineReadsAndWritesTheFile() {
+        {
+            Database database = open(kVowelBlind);
+            database.Execute(u"CREATE INDEX Noms ON Plat (Nom COLLATE BINARY)"_s);
+            database.Execute(u"INSERT INTO Plat (Nom) VALUES ('sel'), ('sol'), ('Sel')"_s);
+        }
+        sqlite3 *stock = nullptr;
+        QCOMPARE(sqlite3_open(qPrintable(path()), &stock), SQLITE_OK);
+        const auto run = [stock](const char *sql) {
+            QByteArray answer;
+            const auto keep = [](void *rows, int, char **values, char **) {
+                static_cast<QByteArray *>(rows)->append(values[0]);
+                return 0;
+            };
+            sqlite3_exec(stock, sql, keep, &answer, nullptr);
+            return answer;
+        };
+        run("PRAGMA key = 'sésame'; PRAGMA cipher_page_size = 4096");
+        QCOMPARE(run("SELECT count(*) FROM Plat WHERE Nom = 'SEL'"), QByteArray("2"));
+        run("DELETE FROM Plat WHERE Nom = 'SEL'; INSERT INTO Plat (Nom) VALUES ('sal'), ('ail')");
+        QCOMPARE(run("PRAGMA integrity_check"), QByteArray("ok"));
+        sqlite3_close(stock);
+
+        Database database = open(kVowelBlind);
+        QCOMPARE(database.OpenRecordset(u"PRAGMA integrity_check"_s).Fields(0).Text(), u"ok"_s);
+        QCOMPARE(texts(database.OpenRecordset(u"SELECT * From Plat where Nom = 'sel' order by Nom"_s), 1),
+                 u"sol sal"_s);
+    }
+};
+
+QTEST_APPLESS_MAIN(TestDatabase)
+#include "TestDatabase.moc"
