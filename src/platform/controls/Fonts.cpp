@@ -32,4 +32,11 @@ QFont interfaceFont(Face face, double points, bool bold) {
     return font;
 }
 
+void substituteFonts() {
+    for (const Face face : {Face::Verdana, Face::SansSerif, Face::Comic}) {
+        const QStringList names = families(face);
+        QFont::insertSubstitutions(names.first(), names.mid(1));
+    }
+}
+
 } // namespace platform::controls

@@ -1,0 +1,156 @@
+#include "DocumentBuilder.h"
+
+#include "ListKinds.h"
+#include "RichContent.h"
+
+#include <QTextBlockFormat>
+#include <QTextCharFormat>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextList>
+#include <algorithm>
+#include <iterator>
+
+namespace platform::richtext {
+
+namespace {
+
+/// A document looks at every item of a list for each one added: longer ones continue in a list of their own.
+constexpr int kLongestList = 200;
+
+QTextCharFormat characterFormat(const CharacterStyle &style, const QStringList &families) {
+    QTextCharFormat format;
+    if (style.family >= 0) {
+        format.setFontFamilies({families[style.family]});
+    }
+    if (style.halfPoints > 0) {
+        format.setFontPointSize(style.halfPoints / 2.0);
+    }
+    if (style.foreground != 0) {
+        format.setForeground(QColor(style.foreground));
+    }
+    if (style.background != 0) {
+        format.setBackground(QColor(style.background));
+    }
+    if (style.bold) {
+        format.setFontWeight(QFont::Bold);
+    }
+    if (style.italic) {
+        format.setFontItalic(true);
+    }
+    if (style.underline) {
+        format.setFontUnderline(true);
+    }
+    if (style.strike) {
+        format.setFontStrikeOut(true);
+    }
+    return format;
+}
+
+QTextBlockFormat blockFormat(const ParagraphStyle &style) {
+    using Setter = void (QTextBlockFormat::*)(qreal);
+    constexpr std::array<std::pair<int ParagraphStyle::*, Setter>, 5> lengths{{
+        {&ParagraphStyle::left, &QTextBlockFormat::setLeftMargin},
+        {&ParagraphStyle::right, &QTextBlockFormat::setRightMargin},
+        {&ParagraphStyle::firstLine, &QTextBlockFormat::setTextIndent},
+        {&ParagraphStyle::before, &QTextBlockFormat::setTopMargin},
+        {&ParagraphStyle::after, &QTextBlockFormat::setBottomMargin},
+    }};
+    QTextBlockFormat format;
+    if (style.alignment != Qt::AlignLeft) {
+        format.setAlignment(style.alignment);
+    }
+    for (const auto &[length, set] : lengths) {
+        if (style.*length != 0) {
+            (format.*set)(style.*length / kTwipsPerPixel);
+        }
+    }
+    if (!style.tabs.empty()) {
+        QList<QTextOption::Tab> tabs;
+        std::transform(
+            style.tabs.begin(), style.tabs.end(), std::back_inserter(tabs),
+            [](const TabStop &stop) { return QTextOption::Tab(stop.position / kTwipsPerPixel, stop.type); });
+        format.setTabPositions(tabs);
+    }
+    return format;
+}
+
+QTextListFormat listFormat(ListKind kind) {
+    QTextListFormat format;
+    format.setStyle(listForm(kind).style);
+    // The left margin of the paragraph is the whole indent; a list would add one of its own.
+    format.setIndent(0);
+    return format;
+}
+
+/// Puts the content into an empty document, at the cursor.
+class Filler {
+public:
+    Filler(QTextCursor &cursor, const RichContent &content) : m_cursor(cursor), m_content(content) {
+        std::transform(content.characterStyles.begin(), content.characterStyles.end(),
+                       std::back_inserter(m_characterFormats),
+                       [&](const CharacterStyle &style) { return characterFormat(style, content.families); });
+        std::transform(content.paragraphStyles.begin(), content.paragraphStyles.end(),
+                       std::back_inserter(m_blockFormats), blockFormat);
+    }
+
+    void fill() {
+        auto run = m_content.runs.begin();
+        qsizetype start = 0;
+        for (const RichContent::Paragraph &paragraph : m_content.paragraphs) {
+            beginBlock(paragraph, &paragraph == &m_content.paragraphs.front());
+            for (; run != m_content.runs.end() && run->end <= paragraph.end; ++run) {
+                m_cursor.insertText(m_content.text.mid(start, run->end - start),
+                                    m_characterFormats[size_t(run->style)]);
+                start = run->end;
+            }
+        }
+    }
+
+private:
+    void beginBlock(const RichContent::Paragraph &paragraph, bool first) {
+        const QTextBlockFormat &format = m_blockFormats[size_t(paragraph.style)];
+        const QTextCharFormat &mark = m_characterFormats[size_t(paragraph.mark)];
+        if (first) {
+            m_cursor.setBlockFormat(format);
+            m_cursor.setBlockCharFormat(mark);
+        } else {
+            m_cursor.insertBlock(format, mark);
+        }
+        joinList(m_content.paragraphStyles[size_t(paragraph.style)].list);
+    }
+
+    void joinList(ListKind kind) {
+        if (kind == ListKind::None) {
+            m_listKind = kind;
+        } else if (kind == m_listKind && m_list->count() < kLongestList) {
+            m_list->add(m_cursor.block());
+        } else {
+            m_listKind = kind;
+            m_list = m_cursor.createList(listFormat(kind));
+        }
+    }
+
+    QTextCursor &m_cursor;
+    const RichContent &m_content;
+    std::vector<QTextCharFormat> m_characterFormats;
+    std::vector<QTextBlockFormat> m_blockFormats;
+    QTextList *m_list = nullptr; ///< the list of the block before, owned by the document
+    ListKind m_listKind = ListKind::None;
+};
+
+} // namespace
+
+void build(QTextDocument &document, const RichContent &content) {
+    const bool undo = document.isUndoRedoEnabled();
+    document.setUndoRedoEnabled(false);
+    QTextCursor cursor(&document);
+    cursor.beginEditBlock();
+    document.clear();
+    Filler(cursor, content).fill();
+    cursor.endEditBlock();
+    document.setUndoRedoEnabled(undo);
+    document.setModified(false);
+}
+
+} // namespace platform::richtext
