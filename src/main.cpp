@@ -2,6 +2,7 @@
 // box.
 
 #include "browser/Frmmain.h"
+#include "platform/controls/Fonts.h"
 #include "platform/desktop/SingleInstance.h"
 #include "platform/dialogs/French.h"
 #include "platform/dialogs/MessageBox.h"
@@ -51,6 +52,7 @@ int main(int argc, char *argv[]) {
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icones/savorel.png")));
     store::PreparerLivre();
+    platform::controls::substituteFonts();
     platform::dialogs::SpeakFrench(store::DossierProgramme() + QStringLiteral("/translations"));
     return guarded([] {
         const platform::desktop::SingleInstance instance(store::TitreProgramme.toString());

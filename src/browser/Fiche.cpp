@@ -26,7 +26,7 @@ using platform::database::Recordset;
 /// column and the button.
 struct Valeur {
     QStringView requete, fin, colonne;
-    int data;
+    int data = 0;
 };
 
 constexpr std::array kValeurs{

@@ -61,7 +61,7 @@ constexpr std::array kControles{
     ControlRow{"Liste", 2100, 2105, 4950, 8300, u"", u"", u"Liste"},
     ControlRow{"LTCentre2", 2100, 6025, 4950, 380, u"Recettes"},
     ControlRow{"LFilms", 2100, 6405, 4950, 4000, u"", u"", u"Recettes du groupe"},
-    ControlRow{"LBGauche", 2100, 10435, 4950, 300},
+    ControlRow{"LBGauche", 2160, 10435, 4890, 300},
 
     ControlRow{"Icone_DEco", 7230, 1755, 420, 420},
     ControlRow{"LTDroit", 7740, 1755, 7470, 420},
@@ -69,41 +69,41 @@ constexpr std::array kControles{
     ControlRow{"Scroll(1)", 7200, 2250, 8010, 8485},
     ControlRow{"Cadre(1)", 105, 60, 7770, 8368},
 
-    ControlRow{"CadrePhoto", 200, 200, 7360, 4416, u"Pas de photo"},
+    ControlRow{"CadrePhoto", 150, 150, 7460, 4476, u"Pas de photo"},
     ControlRow{"Photo", 200, 200, 6960, 4016, u"", kChangerImage},
     ControlRow{"ImageTemp", 0, 0, 15, 15},
-    ControlRow{"Libelle(0)", 200, 0, 3600, 270, u"Ingrédients"},
-    ControlRow{"Libelle(1)", 200, 0, 3600, 270, u"Nombre de Personnes"},
-    ControlRow{"Libelle(2)", 4000, 0, 3600, 270, u"Type de Plat"},
-    ControlRow{"Libelle(3)", 200, 0, 3600, 270, u"Préparation"},
-    ControlRow{"Libelle(4)", 200, 0, 3600, 270, u"Compléments"},
-    ControlRow{"Libelle(5)", 4000, 0, 3600, 270, u"Durée Réalisation"},
-    ControlRow{"Libelle(7)", 200, 0, 3400, 270, u"Durée Cuisson"},
-    ControlRow{"Libelle(8)", 200, 0, 1700, 270, u"Coût"},
-    ControlRow{"Libelle(9)", 2105, 0, 1700, 270, u"Difficulté"},
-    ControlRow{"Libelle(10)", 4005, 0, 3600, 270, u"Conseil Vin"},
-    ControlRow{"Data(0)", 200, 0, 3400, 345, u"", u"", u"Nombre de Personnes"},
-    ControlRow{"Data(1)", 4005, 0, 3600, 345, u"", u"", u"Type de Plat"},
-    ControlRow{"Data(2)", 200, 0, 1700, 345, u"", u"", u"Coût"},
-    ControlRow{"Data(3)", 2105, 0, 1700, 345, u"", u"", u"Difficulté"},
-    ControlRow{"Data(4)", 4005, 0, 3600, 345, u"", u"", u"Conseil Vin"},
-    ControlRow{"Data(5)", 4005, 0, 3600, 345, u"", u"", u"Durée Réalisation"},
-    ControlRow{"Data(6)", 200, 0, 3400, 345, u"", u"", u"Durée Cuisson"},
-    ControlRow{"Quantite(0)", 200, 0, 1200, 345, u"", u"", u"Quantité"},
-    ControlRow{"Mesure(0)", 1500, 0, 2100, 345, u"", u"", u"Mesure"},
-    ControlRow{"Ingre(0)", 3700, 0, 3900, 345, u"", u"", u"Ingrédient"},
-    ControlRow{"Saisie(0)", 200, 0, 7410, 4500, u"", u"", u"Préparation"},
-    ControlRow{"Saisie(1)", 200, 0, 7410, 2250, u"", u"", u"Compléments"},
-    ControlRow{"LCategorie", 200, 0, 3400, 345, u"", u"", u"Durée Cuisson"},
-    ControlRow{"LDureeReal", 4005, 0, 3600, 345, u"", u"", u"Durée Réalisation"},
-    ControlRow{"LVerre", 200, 0, 3400, 345, u"", u"", u"Nombre de Personnes"},
-    ControlRow{"LMateriel", 4005, 0, 3600, 345, u"", u"", u"Type de Plat"},
-    ControlRow{"LCout", 200, 0, 1700, 345, u"", u"", u"Coût"},
-    ControlRow{"LDiff", 2105, 0, 1700, 345, u"", u"", u"Difficulté"},
-    ControlRow{"LTeneur", 4005, 0, 3600, 345, u"", u"", u"Conseil Vin"},
-    ControlRow{"LQuantite", 200, 0, 1200, 345, u"", u"", u"Quantité"},
-    ControlRow{"LMesure", 1500, 0, 2100, 345, u"", u"", u"Mesure"},
-    ControlRow{"LIngre", 3700, 0, 3900, 345, u"", u"", u"Ingrédient"},
+    ControlRow{"Libelle(0)", 150, 0, 3600, 270, u"Ingrédients"},
+    ControlRow{"Libelle(1)", 150, 0, 3505, 270, u"Nombre de Personnes"},
+    ControlRow{"Libelle(2)", 3955, 0, 3655, 270, u"Type de Plat"},
+    ControlRow{"Libelle(3)", 150, 0, 3600, 270, u"Préparation"},
+    ControlRow{"Libelle(4)", 150, 0, 3600, 270, u"Compléments"},
+    ControlRow{"Libelle(5)", 3955, 0, 3655, 270, u"Durée Réalisation"},
+    ControlRow{"Libelle(7)", 150, 0, 3505, 270, u"Durée Cuisson"},
+    ControlRow{"Libelle(8)", 150, 0, 1600, 270, u"Coût"},
+    ControlRow{"Libelle(9)", 2055, 0, 1600, 270, u"Difficulté"},
+    ControlRow{"Libelle(10)", 3955, 0, 3655, 270, u"Conseil Vin"},
+    ControlRow{"Data(0)", 150, 0, 3505, 345, u"", u"", u"Nombre de Personnes"},
+    ControlRow{"Data(1)", 3955, 0, 3655, 345, u"", u"", u"Type de Plat"},
+    ControlRow{"Data(2)", 150, 0, 1600, 345, u"", u"", u"Coût"},
+    ControlRow{"Data(3)", 2055, 0, 1600, 345, u"", u"", u"Difficulté"},
+    ControlRow{"Data(4)", 3955, 0, 3655, 345, u"", u"", u"Conseil Vin"},
+    ControlRow{"Data(5)", 3955, 0, 3655, 345, u"", u"", u"Durée Réalisation"},
+    ControlRow{"Data(6)", 150, 0, 3505, 345, u"", u"", u"Durée Cuisson"},
+    ControlRow{"Quantite(0)", 150, 0, 1200, 345, u"", u"", u"Quantité"},
+    ControlRow{"Mesure(0)", 1545, 0, 2100, 345, u"", u"", u"Mesure"},
+    ControlRow{"Ingre(0)", 3840, 0, 3770, 345, u"", u"", u"Ingrédient"},
+    ControlRow{"Saisie(0)", 150, 0, 7460, 6000, u"", u"", u"Préparation"},
+    ControlRow{"Saisie(1)", 150, 0, 7460, 3300, u"", u"", u"Compléments"},
+    ControlRow{"LCategorie", 150, 0, 3505, 345, u"", u"", u"Durée Cuisson"},
+    ControlRow{"LDureeReal", 3955, 0, 3655, 345, u"", u"", u"Durée Réalisation"},
+    ControlRow{"LVerre", 150, 0, 3505, 345, u"", u"", u"Nombre de Personnes"},
+    ControlRow{"LMateriel", 3955, 0, 3655, 345, u"", u"", u"Type de Plat"},
+    ControlRow{"LCout", 150, 0, 1600, 345, u"", u"", u"Coût"},
+    ControlRow{"LDiff", 2055, 0, 1600, 345, u"", u"", u"Difficulté"},
+    ControlRow{"LTeneur", 3955, 0, 3655, 345, u"", u"", u"Conseil Vin"},
+    ControlRow{"LQuantite", 150, 0, 1200, 345, u"", u"", u"Quantité"},
+    ControlRow{"LMesure", 1545, 0, 2100, 345, u"", u"", u"Mesure"},
+    ControlRow{"LIngre", 3840, 0, 3770, 345, u"", u"", u"Ingrédient"},
 
     ControlRow{"Chargement", 2700, 5400, 3750, 900},
     ControlRow{"Label1", 150, 120, 3450, 270, u"Chargement ..."},
@@ -118,6 +118,7 @@ QString nomme(const char *dossier, int numero) {
 
 std::vector<QPixmap> imagesDesVues() {
     std::vector<QPixmap> images;
+    images.reserve(kNombreDeVues);
     for (int vue = 0; vue < kNombreDeVues; ++vue) {
         images.push_back(resourcePicture(nomme("icones/vue", vue)));
     }
@@ -235,7 +236,7 @@ void Frmmain::PeindreOutils() {
     for (int vue = 0; vue < Bouton.Count(); ++vue) {
         Ribbon &bouton = Bouton(vue);
         bouton.SetLook(Look::Sort);
-        bouton.setFont(interfaceFont(Face::Comic, 10, true));
+        bouton.setFont(interfaceFont(Face::Comic, 9.5, true));
         bouton.SetForeColor(Qt::white);
         bouton.SetPicture(m_img[static_cast<std::size_t>(vue)]);
     }

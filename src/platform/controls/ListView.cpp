@@ -1,6 +1,7 @@
 #include "ListView.h"
 
 #include "Fonts.h"
+#include "Skin.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -48,6 +49,7 @@ ListBox::ListBox(QWidget *parent) : QListView(parent), m_model(this) {
     setUniformItemSizes(true);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     setIconSize({kPictureSide.pixels(), kPictureSide.pixels()});
     setFont(interfaceFont(Face::Verdana, 8.25));
     SetLabelEdit(LabelEditMode::Manual);
@@ -81,6 +83,7 @@ void ListBox::SetBackColor(const QColor &colour) {
     colours.setColor(QPalette::Base, colour);
     colours.setColor(QPalette::Highlight, colour.lighter(118));
     setPalette(colours);
+    colourScrollBar(*this, colour);
 }
 
 void ListBox::Select(int index) {

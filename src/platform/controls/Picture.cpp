@@ -33,14 +33,13 @@ QImage LoadPicture(const QString &path) {
 }
 
 QPixmap resourcePicture(const QString &path) {
+    QString found = path;
     if (qGuiApp->devicePixelRatio() > 1) {
-        QString large = path;
-        large.replace(QStringLiteral(".png"), QStringLiteral("@2x.png"));
-        if (QFile::exists(large)) {
-            return QPixmap(large);
-        }
+        const QString large = QString(path).replace(QStringLiteral(".png"), QStringLiteral("@2x.png"));
+        found = QFile::exists(large) ? large : path;
     }
-    return QPixmap(path);
+    QPixmap picture(found);
+    return picture;
 }
 
 PictureBox::PictureBox(QWidget *parent) : QWidget(parent) {}

@@ -1,6 +1,7 @@
 #include "RichTextBox.h"
 
 #include "Fonts.h"
+#include "Skin.h"
 
 #include "platform/richtext/RichText.h"
 
@@ -11,6 +12,7 @@ namespace platform::controls {
 
 namespace {
 
+constexpr Twips kMargin{120};
 const QColor kDarkGround(30, 42, 68);
 const QColor kDarkSelection(77, 108, 166);
 
@@ -20,6 +22,8 @@ RichTextEdit::RichTextEdit(QWidget *parent) : QTextEdit(parent) {
     setFrameShape(QFrame::NoFrame);
     setFont(interfaceFont(Face::Verdana, 9));
     setTabChangesFocus(true);
+    document()->setDocumentMargin(kMargin.pixels());
+    colourScrollBar(*this, kDarkGround.lighter(150));
     SetDefaultColor(Qt::white);
     connect(this, &QTextEdit::textChanged, this, &RichTextEdit::Change);
 }

@@ -1,5 +1,7 @@
 #include "ScrollPanel.h"
 
+#include "Skin.h"
+
 #include <QMouseEvent>
 #include <QScrollBar>
 
@@ -24,6 +26,7 @@ void ScrollArea::SetBackColor(const QColor &colour) {
     colours.setColor(QPalette::Window, colour);
     setPalette(colours);
     m_content->setAutoFillBackground(true);
+    colourScrollBar(*this, colour);
 }
 
 void ScrollArea::ScrollToTop() {

@@ -1,7 +1,9 @@
 #include "Skin.h"
 
+#include <QAbstractScrollArea>
 #include <QLinearGradient>
 #include <QPainter>
+#include <QScrollBar>
 #include <array>
 
 namespace platform::controls {
@@ -62,6 +64,14 @@ void paintBlock(QPainter &painter, const QRectF &block, double radius, const QCo
     painter.setPen(edge.isValid() ? QPen(edge, 1) : QPen(Qt::NoPen));
     const double inset = edge.isValid() ? 0.5 : 0;
     painter.drawRoundedRect(block.adjusted(inset, inset, -inset, -inset), radius, radius);
+}
+
+void colourScrollBar(QAbstractScrollArea &area, const QColor &ground) {
+    QPalette colours = area.palette();
+    colours.setColor(QPalette::Window, ground.lighter(108));
+    colours.setColor(QPalette::Base, ground.lighter(108));
+    colours.setColor(QPalette::Button, ground.lighter(125));
+    area.verticalScrollBar()->setPalette(colours);
 }
 
 } // namespace platform::controls

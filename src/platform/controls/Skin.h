@@ -2,6 +2,7 @@
 
 #include <QColor>
 
+class QAbstractScrollArea;
 class QPainter;
 class QRectF;
 
@@ -29,5 +30,8 @@ inline constexpr QRgb kListGround = qRgb(148, 173, 214);
 /// colour.
 void paintBlock(QPainter &painter, const QRectF &block, double radius, const QColor &top,
                 const QColor &bottom, const QColor &edge);
+
+/// Gives the scroll bar of an area the colours of its ground.
+void colourScrollBar(QAbstractScrollArea &area, const QColor &ground);
 
 } // namespace platform::controls
