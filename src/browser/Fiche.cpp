@@ -11,6 +11,7 @@
 
 #include <QSignalBlocker>
 #include <array>
+#include <optional>
 #include <stdexcept>
 
 namespace browser {
@@ -20,6 +21,7 @@ namespace {
 using namespace platform::controls;
 using platform::database::Database;
 using platform::database::DatabaseError;
+using platform::database::Field;
 using platform::database::Recordset;
 
 /// A value of a recipe that stands in a lookup table: the query up to the number, its tail, the recipe's
@@ -43,10 +45,13 @@ QString pointilles() {
     return store::LignePointillee.toString();
 }
 
-/// The stored text of the row that a query gives, empty when there is none.
-QString TexteDe(Database &base, QStringView requete, const QString &numero, QStringView fin) {
-    auto fiche = base.OpenRecordset(requete + numero + fin);
-    return fiche.RecordCount() > 0 ? fiche.Fields(1).Text() : QString();
+/// The stored text of the row that a query and a reference give; nothing when there is no such row.
+std::optional<QString> TexteDe(Database &base, QStringView requete, const Field &reference, QStringView fin) {
+    if (reference.IsNull()) {
+        return {};
+    }
+    auto fiche = base.OpenRecordset(requete + reference.Text() + fin);
+    return fiche.RecordCount() > 0 ? std::optional(fiche.Fields(1).Text()) : std::nullopt;
 }
 
 QString OuPointilles(const QString &texte) {
@@ -54,10 +59,8 @@ QString OuPointilles(const QString &texte) {
 }
 
 void AfficherValeur(Frmmain &frm, Database &base, Recordset &recette, const Valeur &valeur) {
-    const auto reference = recette.Fields(valeur.colonne);
-    const QString texte =
-        reference.IsNull() ? QString() : TexteDe(base, valeur.requete, reference.Text(), valeur.fin);
-    frm.Data(valeur.data).SetCaption(OuPointilles(texte));
+    const auto texte = TexteDe(base, valeur.requete, recette.Fields(valeur.colonne), valeur.fin);
+    frm.Data(valeur.data).SetCaption(OuPointilles(texte.value_or(QString())));
 }
 
 void AfficherClasse(Frmmain &frm, int data, std::span<const QStringView> vocabulaire, qint64 code) {
@@ -116,34 +119,29 @@ QString SansGras(QString texte) {
     return texte.remove(QStringLiteral("<B>")).remove(QStringLiteral("</B>"));
 }
 
-void AfficherIngredient(Ribbon &bouton, const QString &texte, bool trouve) {
-    const QString sansGras = SansGras(trouve ? OuPointilles(texte) : pointilles());
+void AfficherIngredient(Ribbon &bouton, const std::optional<QString> &texte) {
+    const QString sansGras = SansGras(texte ? OuPointilles(*texte) : pointilles());
     bouton.SetCaption(sansGras.trimmed());
-    if (trouve) {
+    if (texte) {
         bouton.setToolTip(sansGras);
         bouton.SetUnderline(bouton.Caption().endsWith(QLatin1Char(':')));
     }
     bouton.show();
 }
 
-void AfficherPartie(Ribbon &bouton, const QString &texte) {
-    bouton.SetCaption(OuPointilles(texte));
-    bouton.setToolTip(texte);
+void AfficherPartie(Ribbon &bouton, const std::optional<QString> &texte) {
+    bouton.SetCaption(OuPointilles(texte.value_or(QString())));
+    bouton.setToolTip(texte.value_or(QString()));
     bouton.show();
 }
 
 void AfficherLigne(Frmmain &frm, Database &base, Recordset &lignes, int i) {
-    const QString ingredient = lignes.Fields(u"NIngre").Text();
-    const QString quantite = lignes.Fields(u"NQuantite").Text();
-    const QString mesure = lignes.Fields(u"NMesure").Text();
-    auto fiche = base.OpenRecordset(QStringLiteral("SELECT * From Ingredient where NIngredient = ") +
-                                    ingredient + QStringLiteral(" order by Ingredient desc"));
-    const bool trouve = fiche.RecordCount() > 0;
-    AfficherIngredient(frm.Ingre(i), trouve ? fiche.Fields(1).Text() : QString(), trouve);
-    AfficherPartie(frm.Quantite(i), TexteDe(base, u"SELECT * From Quantite where NQuantite = ", quantite,
-                                            u" order by Quantite desc"));
-    AfficherPartie(frm.Mesure(i),
-                   TexteDe(base, u"SELECT * From Mesure where NMesure = ", mesure, u" order by Mesure desc"));
+    AfficherIngredient(frm.Ingre(i), TexteDe(base, u"SELECT * From Ingredient where NIngredient = ",
+                                             lignes.Fields(u"NIngre"), u" order by Ingredient desc"));
+    AfficherPartie(frm.Quantite(i), TexteDe(base, u"SELECT * From Quantite where NQuantite = ",
+                                            lignes.Fields(u"NQuantite"), u" order by Quantite desc"));
+    AfficherPartie(frm.Mesure(i), TexteDe(base, u"SELECT * From Mesure where NMesure = ",
+                                          lignes.Fields(u"NMesure"), u" order by Mesure desc"));
 }
 
 void ViderLignes(Frmmain &frm) {

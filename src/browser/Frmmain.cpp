@@ -214,6 +214,9 @@ void Frmmain::Peindre() {
 
     Chargement.SetBackColor(skin().strip);
     Pb.SetBackColor(Qt::white);
+    // Beneath them lies a list that is being filled and must not be painted.
+    Chargement.SetSquare();
+    Pb.SetSquare();
     Label1.setFont(titre);
     Label1.SetForeColor(kEncre);
     Label1.setAlignment(Qt::AlignCenter);

@@ -45,6 +45,11 @@ void CaptionPanel::SetBackColor(const QColor &colour) {
     update();
 }
 
+void CaptionPanel::SetSquare() {
+    m_radius = 0;
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
 void CaptionPanel::SetFloodPercent(double percent) {
     const int whole = qBound(0, static_cast<int>(percent), 100);
     if (whole != m_flood) {
@@ -56,7 +61,7 @@ void CaptionPanel::SetFloodPercent(double percent) {
 void CaptionPanel::paintEvent(QPaintEvent * /*event*/) {
     QPainter painter(this);
     if (m_ground.alpha() > 0) {
-        paintBlock(painter, rect(), 4, m_ground, m_ground.darker(106), skinAround(*this).edge);
+        paintBlock(painter, rect(), m_radius, m_ground, m_ground.darker(106), skinAround(*this).edge);
     }
     if (m_flood > 0) {
         const QRectF filled(2, 2, (width() - 4) * m_flood / 100.0, height() - 4.0);

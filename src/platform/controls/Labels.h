@@ -43,6 +43,9 @@ public:
     /// Ground of the panel; transparent by default.
     void SetBackColor(const QColor &colour);
 
+    /// Paints the whole rectangle, corners too, so that painting it anew never paints what lies beneath.
+    void SetSquare();
+
     /// Shows a flood over this part of the panel, 0 to 100 percent, at once; painted only when the whole
     /// percentage changes.
     void SetFloodPercent(double percent);
@@ -64,6 +67,7 @@ protected:
 private:
     QString m_caption;
     QColor m_ground = Qt::transparent;
+    double m_radius = 4;
     int m_flood = 0;
 };
 
