@@ -3,6 +3,7 @@
 
 #include "browser/Frmmain.h"
 #include "platform/controls/Fonts.h"
+#include "platform/controls/Picture.h"
 #include "platform/desktop/SingleInstance.h"
 #include "platform/dialogs/French.h"
 #include "platform/dialogs/MessageBox.h"
@@ -50,7 +51,7 @@ int main(int argc, char *argv[]) {
     Application application(argc, argv);
     QApplication::setApplicationName(store::TitreProgramme.toString());
     QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icones/savorel.png")));
+    QApplication::setWindowIcon(platform::controls::resourcePicture(QStringLiteral(":/icones/savorel.png")));
     store::PreparerLivre();
     platform::controls::substituteFonts();
     platform::dialogs::SpeakFrench(store::DossierProgramme() + QStringLiteral("/translations"));

@@ -285,10 +285,10 @@ void Frmmain::PreparerListes() {
 void Frmmain::RemplirVocabulaires() {
     // The sixth class of cost is empty and not offered.
     for (std::size_t code = 0; code + 1 < store::Cout.size(); ++code) {
-        LCout.AddItem(store::Cout[code].toString());
+        LCout.AddItems({store::Cout[code].toString()});
     }
     for (const QStringView classe : store::Difficulte) {
-        LDiff.AddItem(classe.toString());
+        LDiff.AddItems({classe.toString()});
     }
     LCout.SetListIndex(0);
     LDiff.SetListIndex(0);

@@ -98,12 +98,13 @@ qsizetype AjouterTable(Frmmain &frm, const Rubrique &rubrique, int vue) {
                                      QStringLiteral(" order by ") + rubrique.champ + QStringLiteral(" asc"));
     const qsizetype nombre = fiches.RecordCount();
     for (qsizetype lues = 1; lues <= nombre; ++lues, fiches.MoveNext()) {
-        const auto texte = fiches.Fields(1);
+        const auto champTexte = fiches.Fields(1);
+        const QString texte = champTexte.Text();
         // Ingredients that an import left with markup stay in the table but are not offered.
         const bool montrer =
-            !texte.IsNull() && (vue != kVueIngredients || !texte.Text().contains(QStringLiteral("</")));
+            !champTexte.IsNull() && (vue != kVueIngredients || !texte.contains(QStringLiteral("</")));
         if (montrer) {
-            lignes.Add(store::CleDeListe(fiches.Fields(0).Number()), texte.Text(), vue + 1);
+            lignes.AddDistinct(store::CleDeListe(fiches.Fields(0).Number()), texte, vue + 1);
         }
         frm.Pb.SetFloodPercent(100.0 * static_cast<double>(lues) / static_cast<double>(nombre));
     }

@@ -172,6 +172,11 @@ std::string CleDeTri(std::string_view texte) {
     char *fin = cle.data();
     bool accents = false;
     for (std::string_view reste = texte; !reste.empty();) {
+        if (const auto octet = static_cast<unsigned char>(reste.front()); octet < 0x7F) {
+            *fin++ = static_cast<char>(minuscule(octet) + 1);
+            reste.remove_prefix(1);
+            continue;
+        }
         const char32_t c = minuscule(prendre(reste));
         const Base b = base(c);
         fin = ecrire(fin, b.premiere + 1);

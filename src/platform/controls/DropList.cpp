@@ -15,10 +15,16 @@ DropBox::DropBox(QWidget *parent) : QComboBox(parent), m_rows(this) {
     setFont(interfaceFont(Face::Verdana, 8.25));
     // The width is that of the field; measuring thousands of rows for a size hint would be wasted.
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    auto *rows = new QListView(this);
-    rows->setUniformItemSizes(true);
-    setView(rows);
     connect(this, &QComboBox::activated, this, &DropBox::Click);
+}
+
+void DropBox::showPopup() {
+    // The list of the drop list is made when it is first needed; thousands of rows of one height need no
+    // measuring.
+    if (auto *rows = qobject_cast<QListView *>(view())) {
+        rows->setUniformItemSizes(true);
+    }
+    QComboBox::showPopup();
 }
 
 void DropBox::Clear() {
@@ -26,15 +32,10 @@ void DropBox::Clear() {
     clearEditText();
 }
 
-void DropBox::AddItem(const QString &text) {
-    const int row = m_rows.rowCount();
-    m_rows.insertRow(row);
-    m_rows.setData(m_rows.index(row), text);
-}
-
 void DropBox::AddItems(const QStringList &texts) {
     const QString written = currentText();
     m_rows.setStringList(m_rows.stringList() + texts);
+    // The toolkit would choose the first row of a list that was empty.
     setCurrentIndex(-1);
     setEditText(written);
 }

@@ -16,8 +16,7 @@ public:
     explicit DropBox(QWidget *parent);
 
     void Clear();
-    void AddItem(const QString &text);
-    /// Appends many rows at once.
+    /// Appends rows; none of them is chosen by that.
     void AddItems(const QStringList &texts);
 
     int Count() const { return count(); }
@@ -30,6 +29,8 @@ public:
     int ListIndex() const { return currentIndex(); }
 
     void SetListIndex(int index) { setCurrentIndex(index); }
+
+    void showPopup() override;
 
 Q_SIGNALS:
     /// The user chose a row.

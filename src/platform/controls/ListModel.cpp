@@ -15,12 +15,13 @@ void ListModel::endLoading() {
 }
 
 void ListModel::append(const QString &key, const QString &text, int picture) {
-    const auto row = static_cast<int>(m_rows.size());
-    const qsizetype before = m_rowOfKey.size();
-    m_rowOfKey[key] = row;
-    if (m_rowOfKey.size() == before) {
+    if (find(key) >= 0) {
         throw DuplicateKeyError("La clé « " + key.toStdString() + " » n'est pas unique dans la liste.");
     }
+    appendDistinct(key, text, picture);
+}
+
+void ListModel::appendDistinct(const QString &key, const QString &text, int picture) {
     m_rows.push_back({key, text, picture});
 }
 
@@ -28,9 +29,6 @@ void ListModel::remove(int row) {
     beginRemoveRows({}, row, row);
     m_rows.erase(m_rows.begin() + row);
     m_rowOfKey.clear();
-    for (std::size_t i = 0; i < m_rows.size(); ++i) {
-        m_rowOfKey.insert(m_rows[i].key, static_cast<int>(i));
-    }
     endRemoveRows();
 }
 
@@ -45,6 +43,9 @@ void ListModel::setHighlight(int row, bool highlighted) {
 }
 
 int ListModel::find(const QString &key) const {
+    for (auto row = static_cast<std::size_t>(m_rowOfKey.size()); row < m_rows.size(); ++row) {
+        m_rowOfKey.insert(m_rows[row].key, static_cast<int>(row));
+    }
     return m_rowOfKey.value(key, -1);
 }
 

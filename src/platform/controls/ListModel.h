@@ -27,6 +27,8 @@ public:
     void endLoading();
     /// Throws DuplicateKeyError for a key that is present. Only while loading.
     void append(const QString &key, const QString &text, int picture);
+    /// As append, for a key of which the caller knows that it is not present: a key column of a table.
+    void appendDistinct(const QString &key, const QString &text, int picture);
 
     void remove(int row);
     void setText(int row, const QString &text);
@@ -65,7 +67,8 @@ private:
     };
 
     std::vector<Row> m_rows;
-    QHash<QString, int> m_rowOfKey;
+    // The keys of the first rows; a look-up adds the rows that have come since.
+    mutable QHash<QString, int> m_rowOfKey;
     std::vector<QIcon> m_pictures; // number 1 is the first
     QColor m_highlight;
     QString m_heading;

@@ -86,6 +86,10 @@ void ListBox::SetBackColor(const QColor &colour) {
     colourScrollBar(*this, colour);
 }
 
+int ListBox::SelectedIndex() const {
+    return selectionModel()->isSelected(currentIndex()) ? currentIndex().row() + 1 : 0;
+}
+
 void ListBox::Select(int index) {
     const QModelIndex row = m_model.index(checked(index));
     setCurrentIndex(row);
@@ -103,19 +107,39 @@ void ListBox::StartLabelEdit() {
     }
 }
 
+void ListBox::keyPressEvent(QKeyEvent *event) {
+    if (!event->isAutoRepeat()) {
+        m_indexAtPress = SelectedIndex();
+    }
+    if (SelectedIndex() == 0 && Count() > 0 && movesInList(event->key())) {
+        // A list that got the focus stands on a row that nobody has chosen yet: choose that one first.
+        Select(currentIndex().isValid() ? currentIndex().row() + 1 : 1);
+        return;
+    }
+    QListView::keyPressEvent(event);
+}
+
 void ListBox::keyReleaseEvent(QKeyEvent *event) {
     QListView::keyReleaseEvent(event);
-    // A key held down repeats its release; only the last one means that the cook has arrived.
-    if (movesInList(event->key()) && !event->isAutoRepeat()) {
+    // A key held down repeats its release; only the last one means that the cook has arrived. Letters search.
+    if (!event->isAutoRepeat() && (movesInList(event->key()) || SelectedIndex() != m_indexAtPress)) {
+        m_indexAtPress = SelectedIndex();
         Q_EMIT ArrowReleased();
     }
 }
 
+void ListBox::mousePressEvent(QMouseEvent *event) {
+    m_indexAtPress = SelectedIndex();
+    QListView::mousePressEvent(event);
+}
+
 void ListBox::mouseReleaseEvent(QMouseEvent *event) {
     QListView::mouseReleaseEvent(event);
+    // Dragged over the rows, the pointer selects as it goes and may be let go below the last one.
+    const bool onRow = indexAt(event->position().toPoint()).isValid();
     if (event->button() == Qt::RightButton) {
         Q_EMIT RightClicked(event->globalPosition().toPoint());
-    } else if (event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid()) {
+    } else if (event->button() == Qt::LeftButton && (onRow || SelectedIndex() != m_indexAtPress)) {
         Q_EMIT ItemClicked();
     }
 }

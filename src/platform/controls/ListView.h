@@ -31,6 +31,11 @@ public:
             m_list.m_model.append(key, text, picture);
         }
 
+        /// As Add, for a key of which the caller knows that it is not present.
+        void AddDistinct(const QString &key, const QString &text, int picture) {
+            m_list.m_model.appendDistinct(key, text, picture);
+        }
+
         int Count() const { return m_list.Count(); }
 
     private:
@@ -53,7 +58,7 @@ public:
     int Count() const { return m_model.rowCount(); }
 
     /// Index of the selected row, 0 if none.
-    int SelectedIndex() const { return currentIndex().row() + 1; }
+    int SelectedIndex() const;
 
     /// Selects the row and makes it visible. Raises no event.
     void Select(int index);
@@ -87,7 +92,9 @@ Q_SIGNALS:
     void RowActivated();
 
 protected:
+    void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
 
@@ -95,6 +102,7 @@ private:
     int checked(int index) const;
 
     ListModel m_model;
+    int m_indexAtPress = 0; // row selected when a key or a mouse button went down
 };
 
 using List = Placed<ListBox>;

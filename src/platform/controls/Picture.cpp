@@ -38,7 +38,8 @@ QPixmap resourcePicture(const QString &path) {
         const QString large = QString(path).replace(QStringLiteral(".png"), QStringLiteral("@2x.png"));
         found = QFile::exists(large) ? large : path;
     }
-    QPixmap picture(found);
+    // Named, the format need not be guessed, which would load every picture plugin at the start.
+    QPixmap picture(found, "PNG");
     return picture;
 }
 

@@ -2,8 +2,11 @@
 
 #include "SkinnedWindow.h"
 
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QTextDocument>
+#include <QToolTip>
 
 namespace platform::controls {
 
@@ -78,9 +81,22 @@ void RibbonButton::leaveEvent(QEvent *event) {
     Q_EMIT Exited();
 }
 
+bool RibbonButton::event(QEvent *event) {
+    if (event->type() == QEvent::ToolTip && Qt::mightBeRichText(toolTip())) {
+        // The words of a recipe are shown as they are stored, also where they look like markup.
+        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
+                           QStringLiteral("<qt>%1</qt>").arg(toolTip().toHtmlEscaped()), this);
+        return true;
+    }
+    return QAbstractButton::event(event);
+}
+
 void RibbonButton::keyPressEvent(QKeyEvent *event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        click();
+        // Held down, Enter would press again, and then the button of a box that the press has opened.
+        if (!event->isAutoRepeat()) {
+            click();
+        }
     } else {
         QAbstractButton::keyPressEvent(event);
     }

@@ -151,6 +151,14 @@ QVariant Cursor::value(int column) {
     return columnValue(m_source.handle(), column);
 }
 
+bool Cursor::isNull(int column) {
+    const bool cached = m_change == Change::None && column < m_rows.columns();
+    if (!cached)
+        return value(column).isNull();
+    requireRow();
+    return m_rows.isNull(m_row, column);
+}
+
 void Cursor::setValue(int column, const QVariant &value) {
     if (m_change == Change::None)
         throw DatabaseError("Aucune modification de l'enregistrement n'a été commencée.");

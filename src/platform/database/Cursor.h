@@ -25,6 +25,7 @@ public:
     int column(int position) const;
     int column(QStringView name) const;
     QVariant value(int column);
+    bool isNull(int column);
     void setValue(int column, const QVariant &value);
 
     void addNew();

@@ -6,7 +6,7 @@
 namespace platform::database {
 
 bool Field::IsNull() const {
-    return Value().isNull();
+    return m_cursor.isNull(m_position);
 }
 
 QString Field::Text() const {

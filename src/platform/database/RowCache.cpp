@@ -94,6 +94,10 @@ QVariant RowCache::value(qsizetype row, int column) const {
     }
 }
 
+bool RowCache::isNull(qsizetype row, int column) const {
+    return m_cells[m_rows[size_t(row)].firstCell + size_t(column)].type == SQLITE_NULL;
+}
+
 qsizetype RowCache::find(qint64 rowid) const {
     const auto row =
         std::find_if(m_rows.begin(), m_rows.end(), [rowid](const Row &r) { return r.rowid == rowid; });
@@ -101,27 +105,33 @@ qsizetype RowCache::find(qint64 rowid) const {
 }
 
 void RowCache::TextOrder::append(const RowCache &cache, sqlite3_stmt *statement, int column) {
-    Key key{false, 0, 0, m_bytes.size(), 0, cache.m_rows.back()};
+    Key key{0, 0, m_texts.size()};
+    Text text{false, m_bytes.size(), 0, cache.m_rows.back()};
     if (sqlite3_column_type(statement, column) != SQLITE_NULL) {
         const std::string bytes = m_collation.sortKey(textOf(statement, column));
         std::array<quint64, 2> start{};
         std::memcpy(start.data(), bytes.data(), std::min(bytes.size(), sizeof start));
-        key.text = true;
         key.first = qFromBigEndian(start[0]);
         key.second = qFromBigEndian(start[1]);
-        key.size = bytes.size();
+        text.present = true;
+        text.size = bytes.size();
         m_bytes.append(bytes);
     }
     m_keys.push_back(key);
+    m_texts.push_back(text);
 }
 
 bool RowCache::TextOrder::before(const Key &left, const Key &right) const {
-    if (left.text != right.text)
-        return right.text;
     if (left.first != right.first)
         return left.first < right.first;
     if (left.second != right.second)
         return left.second < right.second;
+    return textBefore(m_texts[left.text], m_texts[right.text]);
+}
+
+bool RowCache::TextOrder::textBefore(const Text &left, const Text &right) const {
+    if (left.present != right.present)
+        return right.present;
     const std::string_view bytes(m_bytes);
     const int order = bytes.substr(left.offset, left.size).compare(bytes.substr(right.offset, right.size));
     return order != 0 ? order < 0 : left.row.rowid < right.row.rowid;
@@ -133,7 +143,7 @@ void RowCache::TextOrder::apply(RowCache &cache, bool descending) {
     if (descending)
         std::reverse(m_keys.begin(), m_keys.end());
     std::transform(m_keys.begin(), m_keys.end(), cache.m_rows.begin(),
-                   [](const Key &key) { return key.row; });
+                   [this](const Key &key) { return m_texts[key.text].row; });
 }
 
 } // namespace platform::database

@@ -27,6 +27,7 @@ public:
     qint64 rowid(qsizetype row) const { return m_rows[size_t(row)].rowid; }
 
     QVariant value(qsizetype row, int column) const;
+    bool isNull(qsizetype row, int column) const;
     /// The place of a row number, or -1.
     qsizetype find(qint64 rowid) const;
 
@@ -78,20 +79,27 @@ public:
     void apply(RowCache &cache, bool descending);
 
 private:
-    /// A sort key with its first bytes as numbers, which decide nearly every comparison.
+    /// The first bytes of a sort key as numbers, which decide nearly every comparison, and the place of the
+    /// rest. Small, since sorting moves it about.
     struct Key {
-        bool text;
         quint64 first;
         quint64 second;
+        size_t text;
+    };
+
+    struct Text {
+        bool present;
         size_t offset;
         size_t size;
         Row row;
     };
 
     bool before(const Key &left, const Key &right) const;
+    bool textBefore(const Text &left, const Text &right) const;
 
     const Collation &m_collation;
     std::vector<Key> m_keys;
+    std::vector<Text> m_texts;
     std::string m_bytes;
 };
 

@@ -8,6 +8,8 @@ namespace platform::settings {
 
 namespace {
 
+constexpr auto kOverflow = "Dépassement de capacité";
+
 double toDouble(const QString &text) {
     QString plain = text.trimmed();
     plain.replace(QLatin1Char(','), QLatin1Char('.'));
@@ -23,7 +25,7 @@ double toDouble(const QString &text) {
 template <class Number>
 Number inRange(double number) {
     if (number < std::numeric_limits<Number>::lowest() || number > std::numeric_limits<Number>::max()) {
-        throw ConversionError("Dépassement de capacité");
+        throw ConversionError(kOverflow);
     }
     return static_cast<Number>(number);
 }
@@ -39,7 +41,11 @@ qint32 ToLong(const QString &text) {
 }
 
 float ToSingle(const QString &text) {
-    return inRange<float>(toDouble(text));
+    const auto number = static_cast<float>(toDouble(text));
+    if (!std::isfinite(number)) {
+        throw ConversionError(kOverflow);
+    }
+    return number;
 }
 
 QString ToText(float number) {

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "GeneratedBook.h"
+#include "Report.h"
+
+namespace bench {
+
+/// A row read, and a value changed, from opening the book to closing it.
+void measureDatabase(const GeneratedBook &book, Report &report);
+
+/// The list of recipes, and that of ingredients, loaded into the shown main window.
+void measureList(const GeneratedBook &book, Report &report);
+void measureIngredients(const GeneratedBook &book, Report &report);
+
+/// A recipe displayed and painted, in a small and in a large book.
+void measureRecipe(const GeneratedBook &small, const GeneratedBook &large, Report &report);
+
+/// From the start of the process to the painted main window, and the memory it has taken by then; offscreen,
+/// and on a virtual X display where there is one.
+void measureStart(const GeneratedBook &book, Report &report);
+
+} // namespace bench

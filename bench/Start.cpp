@@ -1,0 +1,92 @@
+#include "Start.h"
+
+#include "browser/Frmmain.h"
+#include "platform/desktop/SingleInstance.h"
+#include "platform/dialogs/French.h"
+#include "shell/Demarrage.h"
+#include "store/Livre.h"
+#include "store/Programme.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QIcon>
+#include <QListView>
+#include <QStringListModel>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace bench {
+
+namespace {
+
+[[noreturn]] void finish() {
+    QFile status(QStringLiteral("/proc/self/status"));
+    status.open(QIODevice::ReadOnly);
+    const QByteArray text = status.readAll();
+    const QByteArray peak = text.mid(text.indexOf("VmHWM:") + 6).split('k').first().trimmed();
+    std::puts(peak.constData());
+    std::fflush(stdout);
+    std::_Exit(EXIT_SUCCESS);
+}
+
+/// Ends the process once a widget has been painted and the picture has gone to the screen.
+class EndAfterPaint : public QObject {
+public:
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override {
+        if (event->type() == QEvent::Paint)
+            QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+        return false;
+    }
+
+    bool event(QEvent *event) override {
+        if (event->type() == QEvent::User)
+            finish();
+        return QObject::event(event);
+    }
+};
+
+/// What the program's main() does.
+int startOurs(int argc, char **argv, const QString &folder) {
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName(store::TitreProgramme.toString());
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icones/savorel.png")));
+    store::DefinirDossierProgramme(folder);
+    store::PreparerLivre();
+    platform::dialogs::SpeakFrench(store::DossierProgramme() + QStringLiteral("/translations"));
+    const platform::desktop::SingleInstance instance(store::TitreProgramme.toString());
+    browser::Frmmain frmmain;
+    EndAfterPaint end;
+    frmmain.Liste.viewport()->installEventFilter(&end);
+    shell::ChargerFrmmain(frmmain, instance);
+    // A start that was broken off leaves no view in the settings, and so no list.
+    if (frmmain.Liste.Count() == 0)
+        return EXIT_FAILURE;
+    return QApplication::exec();
+}
+
+int startBare(int argc, char **argv, const QString &folder) {
+    const QApplication application(argc, argv);
+    QFile file(folder + QStringLiteral("/titles.txt"));
+    file.open(QIODevice::ReadOnly);
+    QStringListModel titles(QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts));
+    QListView list;
+    list.setUniformItemSizes(true);
+    list.setModel(&titles);
+    list.setFixedSize(platform::controls::kWindowSize.width.pixels(),
+                      platform::controls::kWindowSize.height.pixels());
+    EndAfterPaint end;
+    list.viewport()->installEventFilter(&end);
+    list.show();
+    return QApplication::exec();
+}
+
+} // namespace
+
+int start(int argc, char **argv, const QString &which, const QString &folder) {
+    return which == QLatin1String(kOurs) ? startOurs(argc, argv, folder) : startBare(argc, argv, folder);
+}
+
+} // namespace bench

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+namespace bench {
+
+/// Name of the hidden command: `bench --start ours|bare FOLDER`.
+inline constexpr const char *kStartCommand = "--start";
+inline constexpr const char *kOurs = "ours";
+inline constexpr const char *kBare = "bare";
+
+/// Starts the program on the book of a folder, or a window with a list of the same titles and nothing more.
+/// Ends the process when the list is painted, printing the most memory it had in KiB.
+int start(int argc, char **argv, const QString &which, const QString &folder);
+
+} // namespace bench

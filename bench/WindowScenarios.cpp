@@ -1,0 +1,135 @@
+#include "BareBook.h"
+#include "Measure.h"
+#include "Scenarios.h"
+
+#include "browser/Fiche.h"
+#include "browser/Frmmain.h"
+#include "browser/Vues.h"
+#include "platform/desktop/SingleInstance.h"
+#include "shell/Demarrage.h"
+#include "store/Programme.h"
+#include "store/Textes.h"
+
+#include <QCoreApplication>
+#include <QStringListModel>
+
+#include <sqlite3.h>
+
+#include <vector>
+
+namespace bench {
+
+namespace {
+
+constexpr int kListTurns = 15;
+constexpr int kRecipeTurns = 40;
+constexpr double kListGoal = 2;
+constexpr double kRecipeGoal = 10; // ms
+// Two medians of the same work differ by about this much on a busy machine.
+constexpr double kNoGrowth = 1.25;
+
+/// The main window of a book, as the program starts it.
+class OpenWindow {
+public:
+    explicit OpenWindow(const GeneratedBook &book)
+        : m_instance((store::DefinirDossierProgramme(book.folder), QStringLiteral("bench"))) {
+        shell::ChargerFrmmain(m_window, m_instance);
+        paint();
+    }
+
+    browser::Frmmain &window() { return m_window; }
+
+    static void paint() { QCoreApplication::processEvents(); }
+
+private:
+    platform::desktop::SingleInstance m_instance;
+    browser::Frmmain m_window;
+};
+
+/// The rows of a list as a plain program would hold them: the numbers beside a model of the texts.
+struct BareList {
+    std::vector<qint64> numbers;
+    QStringListModel model;
+};
+
+void loadBare(const BareBook &book, const char *sql, BareList &list) {
+    const Connection connection = book.open();
+    useFrenchOrder(connection.get());
+    const Statement rows = prepare(connection.get(), sql);
+    list.numbers.clear();
+    QStringList texts;
+    while (step(rows)) {
+        list.numbers.push_back(sqlite3_column_int64(rows.get(), 0));
+        texts.append(QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(rows.get(), 1)),
+                                       sqlite3_column_bytes(rows.get(), 1)));
+    }
+    list.model.setStringList(texts);
+}
+
+Times loadList(browser::Frmmain &frm, const BareBook &book, const browser::Rubrique &heading, int view,
+               const char *sql) {
+    BareList list;
+    return alternate([&] { browser::ChargerListe(frm, heading, view); }, [&] { loadBare(book, sql, list); },
+                     kListTurns, OpenWindow::paint);
+}
+
+/// Shows recipes of the large book (ours) and of the small one (bare) in turns, until they are painted.
+/// @param show takes the index of a recipe of twelve lines and the book
+Times showRecipes(const GeneratedBook &small, const GeneratedBook &large,
+                  const std::function<void(int, const GeneratedBook &)> &show) {
+    int index = 0;
+    const auto showIn = [&](const GeneratedBook &book) {
+        store::DefinirDossierProgramme(book.folder);
+        show(index++ / 2, book);
+        OpenWindow::paint();
+    };
+    return alternate([&] { showIn(large); }, [&] { showIn(small); }, kRecipeTurns);
+}
+
+} // namespace
+
+void measureList(const GeneratedBook &book, Report &report) {
+    OpenWindow main(book);
+    // Left to itself the engine would sort through the whole table, with its long texts.
+    const Times times =
+        loadList(main.window(), BareBook(book.path()),
+                 {QStringLiteral("Cocktails"), QStringLiteral("Recette"), {}, {}}, 0,
+                 "SELECT Numero, Recette FROM Cocktails INDEXED BY CocktailsListe ORDER BY Recette");
+    report.add({QStringLiteral("list of recipes loaded"), book.name(), times.ours, times.bare, Goal::Ratio,
+                kListGoal});
+}
+
+void measureIngredients(const GeneratedBook &book, Report &report) {
+    OpenWindow main(book);
+    const Times times = loadList(main.window(), BareBook(book.path()),
+                                 {QStringLiteral("Ingredient"), QStringLiteral("Ingredient"), {}, {}}, 6,
+                                 "SELECT NIngredient, Ingredient FROM Ingredient ORDER BY Ingredient");
+    const QString size = QString::number(book.ingredients) + QStringLiteral(" ingredients");
+    report.add(
+        {QStringLiteral("list of ingredients loaded"), size, times.ours, times.bare, Goal::Ratio, kListGoal});
+}
+
+void measureRecipe(const GeneratedBook &small, const GeneratedBook &large, Report &report) {
+    OpenWindow main(large);
+    browser::Frmmain &frm = main.window();
+    const Times shown = showRecipes(small, large, [&frm](int index, const GeneratedBook &book) {
+        browser::ChargerRecette(frm, book.recipeOfTwelveLines(index));
+    });
+    const QString name = QStringLiteral("recipe loaded and painted");
+    report.add({name, small.name(), shown.bare, 0, Goal::Milliseconds, kRecipeGoal});
+    report.add({name, large.name(), shown.ours, 0, Goal::Milliseconds, kRecipeGoal});
+    report.add({name, QStringLiteral("large against small"), shown.ours, shown.bare, Goal::Ratio, kNoGrowth});
+
+    // The numbers of the small book are also rows of the list, which holds the large one.
+    const Times clicked = showRecipes(small, large, [&](int index, const GeneratedBook & /*book*/) {
+        const QString key = store::CleDeListe(small.recipeOfTwelveLines(index));
+        frm.Liste.Select(frm.Liste.IndexOfKey(key));
+        frm.CleCourante.clear();
+        browser::ListeHaute(frm);
+    });
+    const QString click = QStringLiteral("row chosen: recipe and its choice lists");
+    report.add({click, small.name(), clicked.bare});
+    report.add({click, large.name(), clicked.ours});
+}
+
+} // namespace bench

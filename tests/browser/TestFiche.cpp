@@ -1,0 +1,277 @@
+#include "LivreEssai.h"
+
+#include "browser/Fiche.h"
+#include "store/Vocabulaires.h"
+
+#include <QImage>
+#include <QSignalSpy>
+
+#include <memory>
+#include <stdexcept>
+
+using namespace browser;
+using platform::controls::Ribbon;
+using platform::controls::Twips;
+
+namespace {
+
+const QString kDots = store::LignePointillee.toString();
+constexpr Twips kMargin{400};
+
+} // namespace
+
+class TestFiche : public QObject {
+    Q_OBJECT
+
+private:
+    /// Sets columns of recipe 1 and shows it.
+    void show(const QString &columns = u"Photo = NULL"_qs) {
+        LivreEssai::execute({u"UPDATE Cocktails SET "_qs + columns + u" WHERE Numero = 1"_qs});
+        ChargerRecette(*m_window, 1);
+    }
+
+    /// Adds lines of recipe 1, the oldest first: "ingredient, quantity, measure" as they stand in a
+    /// statement.
+    static void addLines(const QStringList &lines) {
+        for (const QString &line : lines)
+            LivreEssai::execute({u"INSERT INTO Ingre VALUES (1, "_qs + line + u")"_qs});
+    }
+
+    /// What the row of buttons shows; a hidden one as "-".
+    QString line(int i) const {
+        QStringList captions;
+        for (const Ribbon *button : {&m_window->Quantite(i), &m_window->Mesure(i), &m_window->Ingre(i)}) {
+            const QString caption = button->Caption() == kDots ? u"..."_qs : button->Caption();
+            captions += button->isVisible() ? caption : u"-"_qs;
+        }
+        return captions.join(u'|');
+    }
+
+    std::unique_ptr<LivreEssai> m_book;
+    std::unique_ptr<Frmmain> m_window;
+
+private Q_SLOTS:
+
+    void init() {
+        m_book = std::make_unique<LivreEssai>();
+        LivreEssai::execute({
+            u"INSERT INTO Categorie VALUES (1, ' 10 mn '), (2, '   ')"_qs,
+            u"INSERT INTO DureeReal VALUES (1, '20 mn')"_qs,
+            u"INSERT INTO Verre (NVerre, Verre) VALUES (1, '4 personnes')"_qs,
+            u"INSERT INTO Realisation VALUES (1, 'Entrée')"_qs,
+            u"INSERT INTO VIN VALUES (1, 'Chinon')"_qs,
+            u"INSERT INTO Ingredient VALUES (1, 'Beurre'), (2, 'Pour la pâte : '), (4, 'Sauce:')"_qs,
+            u"INSERT INTO Ingredient VALUES (3, '<B>Farine</B> <I>T55</I>'), (5, ' ')"_qs,
+            u"INSERT INTO Quantite VALUES (1, '100'), (2, '  ')"_qs,
+            u"INSERT INTO Mesure VALUES (1, 'g')"_qs,
+            u"INSERT INTO Cocktails VALUES (1, 'Tarte', 1, 1, NULL, 1, '', '', 1, 2, 1, 1)"_qs,
+        });
+        m_window = std::make_unique<Frmmain>();
+        openView(*m_window, 0);
+    }
+
+    void cleanup() { m_window.reset(); }
+
+    void valuesComeFromTheirTables() {
+        show();
+        const QStringList expected{u"4 personnes"_qs, u"Entrée"_qs, u"Peu Cher"_qs, u"Facile"_qs,
+                                   u"Chinon"_qs,      u"20 mn"_qs,  u" 10 mn "_qs};
+        for (int i = 0; i < expected.size(); ++i)
+            QCOMPARE(m_window->Data(i).Caption(), expected[i]);
+
+        ChargerRecette(*m_window, 99); // gone meanwhile: the values stay
+        QCOMPARE(m_window->Data(0).Caption(), expected[0]);
+    }
+
+    void absentValuesAreDotted() {
+        for (const QString &key : {u"NULL"_qs, u"9"_qs}) { // 9 dangles
+            show(u"NCategorie = %1, NDureeReal = %1, Nverre = %1, Nreal = %1, Teneur = %1"_qs.arg(key));
+            for (const int i : {0, 1, 4, 5, 6})
+                QCOMPARE(m_window->Data(i).Caption(), kDots);
+        }
+        show(u"NCategorie = 2, Nverre = 1"_qs); // a blank text
+        QCOMPARE(m_window->Data(6).Caption(), kDots);
+        QCOMPARE(m_window->Data(0).Caption(), u"4 personnes"_qs);
+    }
+
+    void classesOutsideTheirVocabulary() {
+        show(u"Cout = 5"_qs);
+        QCOMPARE(m_window->Data(2).Caption(), QString());
+        for (const QString &columns : {u"Cout = 6"_qs, u"Cout = -1"_qs, u"Cout = 0, difficulte = 6"_qs})
+            QVERIFY_THROWS_EXCEPTION(std::out_of_range, show(columns));
+        show(u"difficulte = 5"_qs); // the book was left closed
+        QCOMPARE(m_window->Data(3).Caption(), u"Très Difficile"_qs);
+    }
+
+    void newestLineComesFirstAndADottedOneLast() {
+        addLines({u"1, 1, 1"_qs, u"3, 2, 9"_qs, u"9, 1, 1"_qs});
+        show();
+        QCOMPARE(m_window->Ingre.Count(), 4);
+        QCOMPARE(line(0), u"100|g|..."_qs);
+        QCOMPARE(line(1), u"...|...|Farine <I>T55</I>"_qs);
+        QCOMPARE(m_window->Ingre(1).toolTip(), u"Farine <I>T55</I>"_qs);
+        QCOMPARE(line(2), u"100|g|Beurre"_qs);
+        QCOMPARE(m_window->Quantite(2).toolTip(), u"100"_qs);
+        QCOMPARE(line(3), u"...|...|..."_qs);
+        QCOMPARE(m_window->Ingre(3).toolTip(), QString());
+    }
+
+    void headingsAreUnderlined() {
+        addLines({u"1, 1, 1"_qs, u"4, 9, 9"_qs, u"2, 9, 9"_qs});
+        show();
+        QCOMPARE(m_window->Ingre(0).Caption(), u"Pour la pâte :"_qs);
+        QCOMPARE(m_window->Ingre(0).toolTip(), u"Pour la pâte : "_qs);
+        QVERIFY(m_window->Ingre(0).font().underline() && m_window->Ingre(1).font().underline());
+        QVERIFY(!m_window->Ingre(2).font().underline() && !m_window->Ingre(3).font().underline());
+
+        // The button of the first row is used again.
+        LivreEssai::execute({u"DELETE * FROM Ingre"_qs});
+        addLines({u"1, 1, 1"_qs});
+        show();
+        QVERIFY(!m_window->Ingre(0).font().underline());
+    }
+
+    void nullInALineIsDotted() {
+        addLines({u"1, NULL, 1"_qs, u"NULL, 1, 1"_qs, u"1, 1, 1"_qs});
+        show();
+        QCOMPARE(m_window->Ingre.Count(), 4);
+        QCOMPARE(line(0), u"100|g|Beurre"_qs);
+        QCOMPARE(line(1), u"100|g|..."_qs);
+        QCOMPARE(line(2), u"...|g|Beurre"_qs);
+    }
+
+    void rowsGrowAndShrinkWithTheRecipe() {
+        show();
+        QCOMPARE(m_window->Ingre.Count(), 1);
+        QCOMPARE(line(0), u"||"_qs);
+
+        addLines(QStringList(8, u"1, 1, 1"_qs));
+        show();
+        QCOMPARE(m_window->Ingre.Count(), 9);
+        const Twips tall = m_window->Scroll(0).ScrollableHeight();
+
+        LivreEssai::execute({u"DELETE * FROM Ingre"_qs});
+        addLines(QStringList(2, u"1, 1, 1"_qs));
+        show();
+        for (const auto *column : {&m_window->Quantite, &m_window->Mesure, &m_window->Ingre})
+            QCOMPARE(column->Count(), 3);
+        QCOMPARE(m_window->Scroll(0).Content()->findChild<QWidget *>(u"Ingre(3)"_qs), nullptr);
+        const Twips row = m_window->Ingre(0).Height() + Twips(200);
+        QVERIFY(tall - m_window->Scroll(0).ScrollableHeight() == 6 * row);
+    }
+
+    void photoIsShownOrMissing_data() {
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<bool>("found");
+        QTest::newRow("a picture with the wrong ending") << u"'tarte.jpg'"_qs << true;
+        QTest::newRow("line break of an import") << u"' tarte<BR>.jpg '"_qs << true;
+        QTest::newRow("Null") << u"NULL"_qs << false;
+        QTest::newRow("missing") << u"'absente.jpg'"_qs << false;
+        QTest::newRow("path of another platform") << u"'C:\\tarte.jpg'"_qs << false;
+        QTest::newRow("no picture") << u"'faux.jpg'"_qs << false;
+    }
+
+    void photoIsShownOrMissing() {
+        QFETCH(QString, value);
+        QFETCH(bool, found);
+        QImage picture(40, 20, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        const QString path = m_book->path(u"photos/tarte.jpg"_qs);
+        QVERIFY(picture.save(path, "PNG"));
+        QVERIFY(picture.save(m_book->path(u"photos/autre.png"_qs), "PNG"));
+        QFile garbage(m_book->path(u"photos/faux.jpg"_qs));
+        QVERIFY(garbage.open(QIODevice::WriteOnly) && garbage.write("recette") > 0);
+        garbage.close();
+
+        show(u"Photo = 'autre.png'"_qs);
+        show(u"preparation = 'Cuire', Photo = "_qs + value);
+        QCOMPARE(m_window->Saisie(0).Text(), u"Cuire"_qs);
+        QCOMPARE(m_window->CadrePhoto.Caption(), found ? QString() : u"Pas de photo"_qs);
+        QCOMPARE(m_window->CadrePhoto.Tag(), found ? path : QString());
+        QCOMPARE(m_window->Photo.isVisible(), found);
+        QCOMPARE(m_window->Photo.Picture().isNull(), !found);
+        if (found) {
+            // Twice as wide as high, in the middle of a frame of 5 to 3.
+            QCOMPARE(m_window->Photo.Width().value(), m_window->CadrePhoto.Width().value() - 400);
+            QCOMPARE(m_window->Photo.Height().value(), m_window->Photo.Width().value() / 2);
+            QCOMPARE(m_window->Photo.Left().value(), 200.0F);
+        }
+    }
+
+    void textsAreLoadedTrimmed() {
+        QSignalSpy changes(&m_window->Saisie(1), &Frmmain::RichTextBox::Change);
+        show(u"preparation = '  {\\rtf1\\ansi M\\''e9langer}  ', Deco = ' Servir '"_qs);
+        QCOMPARE(m_window->Saisie(0).Text(), u"Mélanger"_qs);
+        QCOMPARE(m_window->Saisie(0).Tag(), u"{\\rtf1\\ansi M\\'e9langer}"_qs);
+        QCOMPARE(m_window->Saisie(1).Text(), u"Servir"_qs);
+        show(u"preparation = NULL, Deco = NULL"_qs);
+        QCOMPARE(m_window->Saisie(0).Text() + m_window->Saisie(0).Tag(), QString());
+        QCOMPARE(m_window->Saisie(1).Text() + m_window->Saisie(1).Tag(), QString());
+        QCOMPARE(changes.count(), 0);
+    }
+
+    void notesBegunInAnEmptyBoxAreWhite() {
+        const QSignalSpy changes(&m_window->Saisie(1), &Frmmain::RichTextBox::Change);
+        for (const QString &stored : {u"NULL"_qs, u"'  '"_qs, u"'{\\rtf1\\ansi\\pard\\par}'"_qs}) {
+            show(u"Deco = '{\\rtf1{\\colortbl;\\red255\\green0\\blue0;}\\cf1 Rouge}'"_qs);
+            show(u"Deco = "_qs + stored);
+            QTest::keyClicks(&m_window->Saisie(1), u"Servir"_qs);
+            m_window->Saisie(1).Select(0, 6);
+            QCOMPARE(m_window->Saisie(1).SelColor(), QColor(Qt::white));
+        }
+        QCOMPARE(changes.count(), 18);
+    }
+
+    void undoNeverBringsBackAnotherRecipe() {
+        show(u"preparation = 'Autre recette', Deco = 'Autres notes'"_qs);
+        show(u"preparation = 'Cuire', Deco = ' '"_qs);
+        QSignalSpy method(&m_window->Saisie(0), &Frmmain::RichTextBox::Change);
+        QSignalSpy notes(&m_window->Saisie(1), &Frmmain::RichTextBox::Change);
+        for (const int i : {0, 1})
+            QTest::keyClick(&m_window->Saisie(i), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(m_window->Saisie(0).Text(), u"Cuire"_qs);
+        QCOMPARE(method.count() + notes.count(), 0);
+    }
+
+    void detailHasTwoColumns() {
+        addLines({u"1, 1, 1"_qs});
+        show();
+        const Frmmain &frm = *m_window;
+        const Twips width = frm.Scroll(0).Width();
+        const Twips left = frm.Libelle(7).Left();
+
+        QCOMPARE(frm.CadrePhoto.Height().value() / frm.CadrePhoto.Width().value(), 0.6F);
+        QVERIFY(frm.CadrePhoto.Width() == width - 2 * frm.CadrePhoto.Left() - Twips(250));
+
+        QVERIFY(frm.Data(0).Left() == left && frm.Data(6).Left() == left && frm.Libelle(1).Left() == left);
+        QVERIFY(frm.Data(6).Width() == IntegerHalf(width - kMargin) - 2 * left);
+        for (const auto *control : {&frm.Data(5), &frm.Data(1)})
+            QVERIFY(control->Left() == 3 * left + frm.Data(6).Width());
+        for (const auto *control : {&frm.Data(5), &frm.Data(1), &frm.Data(4), &frm.Ingre(0), &frm.Ingre(1)})
+            QVERIFY(control->Left() + control->Width() + kMargin == width);
+        QVERIFY(frm.LVerre.Width() == frm.Data(0).Width() && frm.LTeneur.Width() == frm.Data(4).Width());
+    }
+
+    void rowsOfTheDetailAreStacked() {
+        addLines({u"1, 1, 1"_qs});
+        show();
+        const Frmmain &frm = *m_window;
+        Twips bottom = frm.CadrePhoto.Bottom();
+        for (const auto &[label, data] : {std::pair(7, 6), std::pair(1, 0), std::pair(10, 4)}) {
+            QVERIFY(frm.Libelle(label).Top() == bottom + kMargin);
+            QVERIFY(frm.Data(data).Top() == frm.Libelle(label).Bottom());
+            bottom = frm.Data(data).Bottom();
+        }
+        QVERIFY(frm.Libelle(0).Top() == bottom + kMargin);
+        QVERIFY(frm.Ingre(0).Top() == frm.Libelle(0).Bottom());
+        QVERIFY(frm.Ingre(1).Top() == frm.Ingre(0).Bottom() + Twips(200));
+        QVERIFY(frm.Quantite(1).Top() == frm.Ingre(1).Top() && frm.Mesure(1).Top() == frm.Ingre(1).Top());
+        QVERIFY(frm.Libelle(3).Top() == frm.Ingre(1).Bottom() + kMargin);
+        QVERIFY(frm.Saisie(0).Top() == frm.Libelle(3).Bottom());
+        QVERIFY(frm.Libelle(4).Top() == frm.Saisie(0).Bottom() + kMargin);
+        QVERIFY(frm.Scroll(0).ScrollableHeight() == frm.Saisie(1).Bottom() + kMargin);
+    }
+};
+
+QTEST_MAIN(TestFiche)
+#include "TestFiche.moc"

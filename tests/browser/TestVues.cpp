@@ -1,0 +1,319 @@
+#include "LivreEssai.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QSignalSpy>
+
+#include <memory>
+
+using namespace browser;
+using platform::controls::List;
+
+class TestVues : public QObject {
+    Q_OBJECT
+
+private:
+    void fill() {
+        LivreEssai::execute({
+            u"INSERT INTO Categorie VALUES (1, '10 mn'), (2, '1 heure')"_qs,
+            u"INSERT INTO DureeReal VALUES (1, '20 mn')"_qs,
+            u"INSERT INTO Verre (NVerre, Verre) VALUES (1, '4 personnes')"_qs,
+            u"INSERT INTO Realisation VALUES (1, 'Entrée'), (2, 'Dessert')"_qs,
+            u"INSERT INTO Ingredient VALUES (1, 'Beurre'), (2, 'Sel</FONT>'), (3, NULL), (4, 'Eau')"_qs,
+            u"INSERT INTO Cocktails VALUES (1, 'Tarte', 1, 1, NULL, 2, 'Cuire', '', 1, 2, NULL, 1)"_qs,
+            u"INSERT INTO Cocktails VALUES (2, 'Bisque', 1, 1, NULL, 1, 'Mixer', '', 2, 2, NULL, 1)"_qs,
+            u"INSERT INTO Cocktails VALUES (3, 'Éclair', 2, NULL, NULL, NULL, '', '', 0, 0, NULL, NULL)"_qs,
+            // Beurre on two lines of Tarte, and on one of a recipe that is gone.
+            u"INSERT INTO Ingre VALUES (1, 1, 1, 1), (1, 4, 1, 1), (1, 1, 2, 2), (2, 1, 1, 1), (99, 1, 1, 1)"_qs,
+        });
+    }
+
+    Frmmain &opened(int view) {
+        m_window = std::make_unique<Frmmain>();
+        openView(*m_window, view);
+        return *m_window;
+    }
+
+    static bool recipeShown(const Frmmain &frm) {
+        return frm.Scroll(0).isVisible() && frm.Outils(2).isVisible() && frm.LBtn(2).isVisible();
+    }
+
+    static QLineEdit *editor(const List &list) { return list.viewport()->findChild<QLineEdit *>(); }
+
+    static void type(const List &list, const QString &text) {
+        QTRY_VERIFY(editor(list) != nullptr);
+        editor(list)->setText(text);
+        QTest::keyClick(editor(list), Qt::Key_Return);
+        QTRY_VERIFY(editor(list) == nullptr);
+    }
+
+    std::unique_ptr<LivreEssai> m_book;
+    std::unique_ptr<Frmmain> m_window;
+
+private Q_SLOTS:
+
+    void initTestCase() { QApplication::setDoubleClickInterval(20); }
+
+    void init() { m_book = std::make_unique<LivreEssai>(); }
+
+    void cleanup() { m_window.reset(); }
+
+    void recordsWithoutATextAreCountedButNotShown_data() {
+        QTest::addColumn<int>("view");
+        QTest::addColumn<QString>("row");
+        QTest::addColumn<QString>("header");
+        QTest::addColumn<QString>("count");
+        const auto row = [](const char *name, int view, const QString &values, const QString &header,
+                            const QString &count) {
+            QTest::newRow(name) << view << values << header << count;
+        };
+        row("recipes", 0, u"Cocktails (Numero) VALUES (5)"_qs, u" Liste des Recettes "_qs,
+            u"1 Recette(s) ..."_qs);
+        row("cooking times", 1, u"Categorie VALUES (5, NULL)"_qs, u" Liste des Durées de Cuisson "_qs,
+            u"1 Durée(s)  de Cuisson ..."_qs);
+        row("persons", 2, u"Verre (NVerre) VALUES (5)"_qs, u" Liste des Nombres de Personnes"_qs,
+            u"1 Nombre(s) de Personnes ..."_qs);
+        row("dish types", 5, u"Realisation VALUES (5, NULL)"_qs, u" Types de Plats"_qs, u"1"_qs);
+        row("ingredients", 6, u"Ingredient VALUES (5, NULL), (6, 'Sel</B>')"_qs, u" Liste des Ingrédients"_qs,
+            u"2 Ingrédient(s) ..."_qs);
+        row("preparation times", 7, u"DureeReal VALUES (5, NULL)"_qs, u" Durée de Réalisation"_qs,
+            u"1 Durée(s) de Réalisation ..."_qs);
+    }
+
+    void recordsWithoutATextAreCountedButNotShown() {
+        QFETCH(int, view);
+        QFETCH(QString, row);
+        LivreEssai::execute({u"INSERT INTO "_qs + row});
+        Frmmain &frm = opened(view);
+        QTEST(frm.LTGauche.Caption(), "header");
+        QTEST(frm.LBGauche.Caption(), "count");
+        QCOMPARE(frm.Liste.Count(), 0);
+        QVERIFY(!frm.Chargement.isVisible());
+    }
+
+    void emptyBookShowsTheTheme() {
+        Frmmain &frm = opened(0);
+        QCOMPARE(frm.LBGauche.Caption(), u"0 Recette(s) ..."_qs);
+        QCOMPARE(frm.LTDroit.Caption(), QString());
+        QVERIFY(!frm.Scroll(0).isVisible());
+        QVERIFY(frm.Cadre(1).isVisible());
+        QCOMPARE(frm.Liste.viewport()->cursor().shape(), Qt::ArrowCursor);
+    }
+
+    void recipesAreOrderedAndTheFirstIsShown() {
+        fill();
+        Frmmain &frm = opened(0);
+        QCOMPARE(texts(frm.Liste), u"Bisque, Éclair, Tarte"_qs);
+        QCOMPARE(frm.Liste.Key(3), u"N 1"_qs);
+        QCOMPARE(frm.Liste.SmallIcon(3), 1);
+        QCOMPARE(frm.Liste.SelectedIndex(), 1);
+        QCOMPARE(frm.LTDroit.Caption(), u"Bisque"_qs);
+        QCOMPARE(frm.TitreCourant + QString::number(frm.NumeroCourant), u"Bisque2"_qs);
+        QVERIFY(recipeShown(frm) && !frm.Cadre(1).isVisible() && !frm.LFilms.isVisible());
+        QCOMPARE(frm.Outils(2).Tag(), kHaut);
+        QCOMPARE(frm.Saisie(0).Text(), u"Mixer"_qs);
+    }
+
+    void groupShowsItsRecipes_data() {
+        QTest::addColumn<int>("view");
+        QTest::addColumn<QString>("groups");
+        QTest::addColumn<int>("row");
+        QTest::addColumn<QString>("recipes");
+        const QString both = u"Bisque, Tarte"_qs; // the newest first
+        QTest::newRow("cooking times") << 1 << u"1 heure, 10 mn"_qs << 2 << both;
+        QTest::newRow("persons") << 2 << u"4 personnes"_qs << 1 << both;
+        QTest::newRow("costs") << 3 << u"Sans Commentaire, Peu Cher, Moyen, Cher, Très Cher"_qs << 2
+                               << u"Tarte"_qs;
+        QTest::newRow("difficulties")
+            << 4 << u"Sans Commentaire, Très Facile, Facile, Moyen, Difficile, Très Difficile"_qs << 3
+            << both;
+        QTest::newRow("dish types") << 5 << u"Dessert, Entrée"_qs << 2 << u"Bisque"_qs;
+        QTest::newRow("ingredients") << 6 << u"Beurre, Eau"_qs << 1 << both;
+        QTest::newRow("preparation times") << 7 << u"20 mn"_qs << 1 << both;
+    }
+
+    void groupShowsItsRecipes() {
+        fill();
+        QFETCH(int, view);
+        QFETCH(int, row);
+        QFETCH(QString, recipes);
+        Frmmain &frm = opened(0);
+        QTest::mouseClick(&frm.Bouton(view), Qt::LeftButton);
+        QTEST(texts(frm.Liste), "groups");
+        QCOMPARE(frm.Liste.SmallIcon(1), view + 1);
+        QVERIFY(!frm.Scroll(0).isVisible() && frm.Cadre(1).isVisible());
+        QVERIFY(!frm.Outils(2).isVisible() && !frm.LBtn(2).isVisible());
+
+        clickRow(frm.Liste, row);
+        QCOMPARE(texts(frm.LFilms), recipes);
+        QCOMPARE(frm.LBGauche.Caption(), QString::number(recipes.split(u',').size()) + u" Recette(s) ..."_qs);
+        QCOMPARE(frm.LTDroit.Caption(), frm.Liste.Text(row));
+        QVERIFY(!frm.Scroll(0).isVisible());
+
+        clickRow(frm.LFilms, 1);
+        QVERIFY(recipeShown(frm));
+        QCOMPARE(frm.Outils(2).Tag(), kBas);
+        QCOMPARE(frm.LTDroit.Caption(), recipes.section(u',', 0, 0));
+    }
+
+    void buttonOfTheCurrentViewDoesNothing() {
+        fill();
+        Frmmain &frm = opened(0);
+        LivreEssai::execute({u"UPDATE Cocktails SET Recette = 'Potage' WHERE Numero = 2"_qs});
+        QTest::mouseClick(&frm.Bouton(0), Qt::LeftButton);
+        QCOMPARE(frm.Liste.Text(1), u"Bisque"_qs);
+        QVERIFY(!frm.Bouton(0).Value());
+        QCOMPARE(frm.Bouton(0).ForeColor(), QColor(Qt::black));
+
+        QTest::mouseClick(&frm.Bouton(3), Qt::LeftButton);
+        QCOMPARE(LivreEssai::setting(u"Tris"_qs), u"3"_qs);
+        QCOMPARE(frm.Bouton(0).ForeColor(), QColor(Qt::white));
+        QCOMPARE(frm.Bouton(3).ForeColor(), QColor(Qt::black));
+        QTest::mouseClick(&frm.Bouton(0), Qt::LeftButton);
+        QCOMPARE(frm.Liste.Text(2), u"Potage"_qs);
+    }
+
+    void sameRowIsNotLoadedTwice() {
+        fill();
+        Frmmain &frm = opened(0);
+        LivreEssai::execute({u"UPDATE Cocktails SET preparation = 'Passer' WHERE Numero = 2"_qs});
+        clickRow(frm.Liste, 1);
+        QCOMPARE(frm.Saisie(0).Text(), u"Mixer"_qs);
+        clickRow(frm.Liste, 2);
+        clickRow(frm.Liste, 1);
+        QCOMPARE(frm.Saisie(0).Text(), u"Passer"_qs);
+
+        LivreEssai::execute({u"UPDATE Cocktails SET preparation = 'Servir' WHERE Numero = 2"_qs});
+        QTest::mouseClick(&frm.Bouton(4), Qt::LeftButton);
+        QTest::mouseClick(&frm.Bouton(0), Qt::LeftButton);
+        QCOMPARE(frm.Saisie(0).Text(), u"Servir"_qs);
+    }
+
+    void arrowsMoveTheRecipeAndTheHighlight() {
+        fill();
+        Frmmain &frm = opened(0);
+        frm.LCategorie.show();
+        QTest::keyClick(&frm.Liste, Qt::Key_Down);
+        QTest::keyClick(&frm.Liste, Qt::Key_Down);
+        QCOMPARE(frm.LTDroit.Caption(), u"Tarte"_qs);
+        QCOMPARE(frm.Saisie(0).Text(), u"Cuire"_qs);
+        QVERIFY(!frm.LCategorie.isVisible());
+        for (int row = 0; row < 3; ++row)
+            QCOMPARE(frm.Liste.model()->index(row, 0).data(Qt::FontRole).isValid(), row == 2);
+
+        QTest::mouseClick(&frm.Bouton(1), Qt::LeftButton);
+        QTest::keyClick(&frm.Liste, Qt::Key_Down);
+        QCOMPARE(frm.LFilms.Count(), 2);
+        clickRow(frm.LFilms, 1);
+        QTest::keyClick(&frm.LFilms, Qt::Key_Down);
+        QCOMPARE(frm.LTDroit.Caption(), u"Tarte"_qs);
+    }
+
+    void secondClickRenamesInTheTable_data() {
+        QTest::addColumn<int>("view");
+        QTest::addColumn<QString>("row");
+        QTest::newRow("recipes") << 0 << u"Cocktails where Numero = 2"_qs;
+        QTest::newRow("cooking times") << 1 << u"Categorie where NCategorie = 2"_qs;
+        QTest::newRow("persons") << 2 << u"Verre where NVerre = 1"_qs;
+        QTest::newRow("dish types") << 5 << u"Realisation where NRealisation = 2"_qs;
+        QTest::newRow("ingredients") << 6 << u"Ingredient where NIngredient = 1"_qs;
+        QTest::newRow("preparation times") << 7 << u"DureeReal where NDureeReal = 1"_qs;
+    }
+
+    void secondClickRenamesInTheTable() {
+        fill();
+        QFETCH(int, view);
+        QFETCH(QString, row);
+        Frmmain &frm = opened(view);
+        clickRow(frm.Liste, 1);
+        clickRow(frm.Liste, 1);
+        type(frm.Liste, u"L'œuf nouveau"_qs);
+        QCOMPARE(LivreEssai::text(u"SELECT * From "_qs + row), u"L'œuf nouveau"_qs);
+        QCOMPARE(frm.Liste.Text(1), u"L'œuf nouveau"_qs);
+    }
+
+    void recipeOfAGroupIsRenamed() {
+        fill();
+        Frmmain &frm = opened(3);
+        clickRow(frm.Liste, 2);
+        clickRow(frm.LFilms, 1);
+        frm.LFilms.StartLabelEdit();
+        type(frm.LFilms, u"Tourte"_qs);
+        QCOMPARE(LivreEssai::text(u"SELECT * From Cocktails where Numero = 1"_qs), u"Tourte"_qs);
+    }
+
+    void classesAndUnchangedTextsAreNotWritten() {
+        fill();
+        const QByteArray before = LivreEssai::bytes();
+        for (const int view : {3, 4}) {
+            Frmmain &frm = opened(view);
+            clickRow(frm.Liste, 2);
+            clickRow(frm.Liste, 2);
+            QTest::qWait(5 * QApplication::doubleClickInterval());
+            QCOMPARE(editor(frm.Liste), nullptr);
+            frm.Liste.StartLabelEdit();
+            type(frm.Liste, u"Gratuit"_qs);
+        }
+        Frmmain &frm = opened(0);
+        frm.Liste.StartLabelEdit();
+        type(frm.Liste, u"Bisque"_qs);
+        QVERIFY(LivreEssai::bytes() == before);
+    }
+
+    void rightClickNotesTheList() {
+        fill();
+        Frmmain &frm = opened(0);
+        frm.Outils(2).SetTag({});
+        clickRow(frm.Liste, 1, Qt::RightButton);
+        QCOMPARE(frm.Outils(2).Tag(), kHaut);
+        QTest::mouseClick(&frm.Bouton(2), Qt::LeftButton);
+        clickRow(frm.Liste, 1, Qt::RightButton);
+        QCOMPARE(frm.Outils(2).Tag(), QString());
+        clickRow(frm.LFilms, 1, Qt::RightButton);
+        QCOMPARE(frm.Outils(2).Tag(), kBas);
+    }
+
+    void browsingWritesNothing() {
+        fill();
+        const QByteArray before = LivreEssai::bytes();
+        Frmmain &frm = opened(0);
+        QSignalSpy method(&frm.Saisie(0), &Frmmain::RichTextBox::Change);
+        QSignalSpy notes(&frm.Saisie(1), &Frmmain::RichTextBox::Change);
+        for (int view = kNombreDeVues - 1; view >= 0; --view) {
+            QTest::mouseClick(&frm.Bouton(view), Qt::LeftButton);
+            for (int row = 1; row <= frm.Liste.Count(); ++row) {
+                clickRow(frm.Liste, row);
+                if (view > 0 && frm.LFilms.Count() > 0)
+                    clickRow(frm.LFilms, frm.LFilms.Count());
+            }
+        }
+        QCOMPARE(method.count() + notes.count(), 0);
+        QVERIFY(LivreEssai::bytes() == before);
+    }
+
+    void keyboardReachesAllInReadingOrder() {
+        fill();
+        Frmmain &frm = opened(0);
+        QStringList expected;
+        for (int view = 0; view < kNombreDeVues; ++view)
+            expected += u"Bouton(%1)"_qs.arg(view);
+        expected += {u"Liste"_qs,   u"Data(6)"_qs, u"Data(5)"_qs, u"Data(0)"_qs,
+                     u"Data(1)"_qs, u"Data(2)"_qs, u"Data(3)"_qs, u"Data(4)"_qs};
+        for (int line = 0; line < 2; ++line) // Bisque has one, and the dotted one
+            expected += {u"Quantite(%1)"_qs.arg(line), u"Mesure(%1)"_qs.arg(line), u"Ingre(%1)"_qs.arg(line)};
+        expected += {u"Saisie(0)"_qs, u"Saisie(1)"_qs};
+
+        frm.Bouton(0).setFocus();
+        QStringList visited;
+        for (qsizetype i = 0; i < expected.size(); ++i) {
+            visited += QApplication::focusWidget()->objectName();
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+        QCOMPARE(visited, expected);
+        QTest::keyClick(&frm.Bouton(6), Qt::Key_Space);
+        QCOMPARE(frm.LTGauche.Caption(), u" Liste des Ingrédients"_qs);
+    }
+};
+
+QTEST_MAIN(TestVues)
+#include "TestVues.moc"

@@ -1,0 +1,270 @@
+#include "platform/controls/ControlArray.h"
+#include "platform/controls/DropList.h"
+#include "platform/controls/Labels.h"
+#include "platform/controls/Picture.h"
+#include "platform/controls/RibbonButton.h"
+#include "platform/controls/RichTextBox.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QtEndian>
+
+#include <memory>
+
+using namespace platform::controls;
+
+namespace {
+
+constexpr ControlRow kRow{"Controle", 0, 0, 3000, 450};
+
+QImage halves(Qt::GlobalColor left, Qt::GlobalColor right) {
+    QImage picture(32, 16, QImage::Format_RGB32);
+    picture.fill(right);
+    for (int x = 0; x < 16; ++x)
+        for (int y = 0; y < 16; ++y)
+            picture.setPixelColor(x, y, left);
+    return picture;
+}
+
+QByteArray encoded(const QImage &picture, const char *format) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    picture.save(&buffer, format, 100);
+    return bytes;
+}
+
+/// A JPEG whose EXIF block has nothing but an orientation (EXIF 2.32, tag 0x0112).
+QByteArray turnedJpeg(const QImage &picture, char orientation) {
+    QByteArray exif = QByteArray::fromHex("ffe10022457869660000" // APP1, "Exif"
+                                          "49492a0008000000"     // TIFF, little endian
+                                          "0100"
+                                          "120103000100000000000000" // one entry: a short
+                                          "00000000");
+    exif[28] = orientation;
+    return encoded(picture, "JPG").insert(2, exif);
+}
+
+/// The head of a BMP of that size, without a single pixel.
+QByteArray hugeBitmap(qint32 side) {
+    QByteArray head("BM", 2);
+    head.append(54 - 2, '\0');
+    head[10] = 54;
+    head[14] = 40;
+    qToLittleEndian(side, head.data() + 18);
+    qToLittleEndian(side, head.data() + 22);
+    head[26] = 1;
+    head[28] = 24;
+    return head;
+}
+
+} // namespace
+
+class TestControls : public QObject {
+    Q_OBJECT
+
+private:
+    /// The control in a window that has the keyboard.
+    template <class Control>
+    Control &shown() {
+        m_window = std::make_unique<QWidget>();
+        auto *control = new Control(m_window.get(), kRow);
+        m_window->move(1, 1); // the wait below is long for a window at the origin
+        m_window->show();
+        if (!QTest::qWaitForWindowActive(m_window.get()))
+            throw std::runtime_error("no active window");
+        control->setFocus();
+        return *control;
+    }
+
+    QString file(const QByteArray &content) {
+        QString path = m_folder.filePath(u"image.txt"_qs);
+        QFile out(path);
+        if (!out.open(QIODevice::WriteOnly) || out.write(content) != content.size())
+            throw std::runtime_error("cannot write");
+        return path;
+    }
+
+    std::unique_ptr<QWidget> m_window;
+    QTemporaryDir m_folder;
+
+private Q_SLOTS:
+
+    void halfOfALengthIsRoundedThenTruncated() {
+        QCOMPARE(IntegerHalf(Twips(2.5)).value(), 1.0F); // ties to even: 2
+        QCOMPARE(IntegerHalf(Twips(3.5)).value(), 2.0F); // 4
+        QCOMPARE(IntegerHalf(Twips(7)).value(), 3.0F);
+        QCOMPARE(IntegerHalf(Twips(-7)).value(), -3.0F);
+    }
+
+    void neighboursTouch() {
+        // Rounded widths would leave gaps of a pixel here and there.
+        for (int left = 0; left < 200; left += 7) {
+            const Rectangle first{Twips(left), Twips(0), Twips(101), Twips(20)};
+            const Rectangle second{first.right(), Twips(0), Twips(101), Twips(20)};
+            QCOMPARE(second.pixels().left(), first.pixels().right() + 1);
+        }
+    }
+
+    void arraysHaveGapsAndGrow() {
+        constexpr std::array table{ControlRow{"Titre(0)", 0, 0, 100, 100, u"zéro"},
+                                   ControlRow{"Titre(2)", 0, 0, 100, 100, u"deux"},
+                                   ControlRow{"TitreLong(1)", 0, 0, 100, 100}};
+        QWidget window;
+        ControlArray<Label> titles(&window, table, "Titre");
+        QCOMPARE(titles.Count(), 3);
+        QCOMPARE(titles(2).Caption(), u"deux"_qs);
+        QVERIFY_THROWS_EXCEPTION(std::out_of_range, titles(1));
+        QVERIFY_THROWS_EXCEPTION(std::out_of_range, titles(3));
+        QVERIFY_THROWS_EXCEPTION(std::out_of_range, titles(-1));
+
+        window.show();
+        QCOMPARE(titles.Load(table[0]).objectName(), u"Titre(3)"_qs);
+        QVERIFY(titles(3).isHidden());
+        QVERIFY(!titles(0).isHidden());
+        titles.UnloadLast();
+        QCOMPARE(window.findChild<QWidget *>(u"Titre(3)"_qs), nullptr);
+        QVERIFY_THROWS_EXCEPTION(std::out_of_range, titles(3));
+    }
+
+    void ribbonRaisesItsEventOnBothChanges() {
+        auto &button = shown<Ribbon>();
+        int pressed = 0;
+        int raised = 0;
+        connect(&button, &Ribbon::toggled, &button, [&] {
+            ++raised;
+            if (button.Value()) {
+                ++pressed;
+                button.SetValue(false);
+            }
+        });
+        button.SetValue(true);
+        QTest::mouseClick(&button, Qt::LeftButton);
+        QTest::keyClick(&button, Qt::Key_Space);
+        QTest::keyClick(&button, Qt::Key_Return);
+        QTest::keyClick(&button, Qt::Key_Enter);
+        QCOMPARE(pressed, 5);
+        QCOMPARE(raised, 10);
+        QVERIFY(!button.Value());
+
+        button.setEnabled(false);
+        QTest::mouseClick(&button, Qt::LeftButton);
+        QTest::keyClick(&button, Qt::Key_Return);
+        QCOMPARE(raised, 10);
+    }
+
+    void ribbonChangesItsPicture() {
+        auto &button = shown<Ribbon>();
+        QPixmap resting(8, 8);
+        QPixmap hover(9, 9);
+        button.SetPicture(resting);
+        button.SetRestingPicture(resting);
+        button.SetHoverPicture(hover);
+        QEnterEvent enter(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
+        QCoreApplication::sendEvent(&button, &enter);
+        QCOMPARE(button.Picture().cacheKey(), hover.cacheKey());
+        button.SetValue(true);
+        button.Release();
+        QVERIFY(!button.Value());
+        QCOMPARE(button.Picture().cacheKey(), resting.cacheKey());
+    }
+
+    void ampersandIsNoShortcut() {
+        auto &button = shown<Ribbon>();
+        button.SetCaption(u"Sel & poivre"_qs);
+        QCOMPARE(button.Caption(), u"Sel & poivre"_qs);
+        QVERIFY(button.shortcut().isEmpty());
+    }
+
+    void dropListRaisesOnlyForTheUser() {
+        auto &list = shown<DropList>();
+        QSignalSpy clicks(&list, &DropList::Click);
+        for (const QString &text : {u"beurre"_qs, u"farine"_qs, u"sel"_qs})
+            list.AddItems({text});
+        QCOMPARE(list.ListIndex(), -1);
+        QCOMPARE(list.Text(), QString());
+        list.SetText(u"poivre"_qs);
+        list.SetListIndex(1);
+        QCOMPARE(list.Text(), u"farine"_qs);
+        QCOMPARE(clicks.count(), 0);
+
+        QTest::keyClick(&list, Qt::Key_Down);
+        QCOMPARE(clicks.count(), 1);
+        QCOMPARE(list.Text(), u"sel"_qs);
+
+        list.SetText(u"sucre"_qs);
+        QTest::keyClick(list.lineEdit(), Qt::Key_Return);
+        QCOMPARE(list.Count(), 3);
+
+        list.Clear();
+        QCOMPARE(list.Count(), 0);
+        QCOMPARE(list.Text(), QString());
+    }
+
+    void loadingATextIsNoChange() {
+        auto &box = shown<RichTextBox>();
+        QSignalSpy changes(&box, &RichTextBox::Change);
+        box.SetTextRTF(u"{\\rtf1\\ansi Cuire \\b 10\\b0  min}"_qs);
+        box.SetTextRTF(u"Simple texte"_qs);
+        QCOMPARE(box.Text(), u"Simple texte"_qs);
+        QCOMPARE(changes.count(), 0);
+        QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(box.Text(), u"Simple texte"_qs);
+        QCOMPARE(changes.count(), 0);
+
+        QTest::keyClicks(&box, u"Un "_qs);
+        QCOMPARE(box.Text(), u"Un Simple texte"_qs);
+        QCOMPARE(changes.count(), 3);
+    }
+
+    void formattingTravels() {
+        auto &box = shown<RichTextBox>();
+        box.SetTextRTF(u"Gras et rouge"_qs);
+        box.Select(0, 4);
+        box.SetSelBold(true);
+        box.Select(8, 99);
+        QCOMPARE(box.SelStart(), 8);
+        QCOMPARE(box.SelLength(), 5);
+        box.SetSelColor(Qt::red);
+
+        auto &copy = *new RichTextBox(m_window.get(), kRow);
+        copy.SetTextRTF(box.TextRTF());
+        QCOMPARE(copy.Text(), u"Gras et rouge"_qs);
+        copy.Select(1, 2);
+        QVERIFY(copy.SelBold());
+        QVERIFY(copy.SelColor() != QColor(Qt::red));
+        copy.Select(9, 2);
+        QVERIFY(!copy.SelBold());
+        QCOMPARE(copy.SelColor(), QColor(Qt::red));
+    }
+
+    void colourWithoutSelectionIsThatOfWhatIsTyped() {
+        auto &box = shown<RichTextBox>();
+        box.SetTextRTF(QString());
+        box.Select(0, 1);
+        box.SetSelColor(Qt::white);
+        QTest::keyClicks(&box, u"Note"_qs);
+        box.Select(0, 4);
+        QCOMPARE(box.SelColor(), QColor(Qt::white));
+    }
+
+    void pictureIsTurnedAsItsOrientationSays() {
+        const QImage picture = LoadPicture(file(turnedJpeg(halves(Qt::red, Qt::blue), 6)));
+        QCOMPARE(picture.size(), QSize(16, 32));
+        QVERIFY(picture.pixelColor(8, 4).red() > 200);
+        QVERIFY(picture.pixelColor(8, 28).blue() > 200);
+    }
+
+    void filesThatAreNoPictures() {
+        const QByteArray cut = encoded(halves(Qt::red, Qt::blue), "PNG").left(40);
+        for (const QByteArray &content : {QByteArray(), QByteArray("recette"), cut, hugeBitmap(20'000)})
+            QVERIFY_THROWS_EXCEPTION(PictureError, LoadPicture(file(content)));
+        QVERIFY_THROWS_EXCEPTION(PictureError, LoadPicture(m_folder.filePath(u"absent"_qs)));
+    }
+};
+
+QTEST_MAIN(TestControls)
+#include "TestControls.moc"
