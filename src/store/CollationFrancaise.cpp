@@ -165,11 +165,12 @@ int ComparerFrancais(std::string_view gauche, std::string_view droite) {
     return int(droite.empty()) - int(gauche.empty());
 }
 
-std::string CleDeTri(std::string_view texte) {
+void AjouterCleDeTri(std::string_view texte, std::string &cles) {
     // Each number is a character plus 1, which keeps 0 for the end of the base letters. A byte becomes 4
     // bytes at most in each half: one that is no UTF-8 does.
-    std::string cle(8 * texte.size() + 1, '\0');
-    char *fin = cle.data();
+    const size_t debut = cles.size();
+    cles.resize(debut + 8 * texte.size() + 1);
+    char *fin = cles.data() + debut;
     bool accents = false;
     for (std::string_view reste = texte; !reste.empty();) {
         if (const auto octet = static_cast<unsigned char>(reste.front()); octet < 0x7F) {
@@ -188,8 +189,7 @@ std::string CleDeTri(std::string_view texte) {
     // A text without accents comes before all others of the same base letters, so it needs nothing more.
     for (; accents && !texte.empty();)
         fin = ecrire(fin, minuscule(prendre(texte)) + 1);
-    cle.resize(static_cast<size_t>(fin - cle.data()));
-    return cle;
+    cles.resize(static_cast<size_t>(fin - cles.data()));
 }
 
 } // namespace store

@@ -12,9 +12,9 @@ namespace store {
 /// so that é and e differ but stand together: pate < pâte < pâté < pates. Blanks count everywhere.
 int ComparerFrancais(std::string_view gauche, std::string_view droite);
 
-/// Bytes in the order of ComparerFrancais; equal texts give equal bytes.
-std::string CleDeTri(std::string_view texte);
+/// Appends bytes in the order of ComparerFrancais; equal texts give equal bytes.
+void AjouterCleDeTri(std::string_view texte, std::string &cles);
 
-inline constexpr platform::database::Collation CollationFrancaise{ComparerFrancais, CleDeTri};
+inline constexpr platform::database::Collation CollationFrancaise{ComparerFrancais, AjouterCleDeTri};
 
 } // namespace store

@@ -1,5 +1,8 @@
 #include "Textes.h"
 
+#include <array>
+#include <charconv>
+
 namespace store {
 
 QString DoublerApostrophes(const QString &texte) {
@@ -7,7 +10,10 @@ QString DoublerApostrophes(const QString &texte) {
 }
 
 QString CleDeListe(qint64 numero) {
-    return QStringLiteral("N ") + QString::number(numero);
+    // Made for each row of a list of thousands, so without any text in between.
+    std::array<char, 24> cle{'N', ' '};
+    const auto fin = std::to_chars(cle.data() + 2, cle.data() + cle.size(), numero).ptr;
+    return QString::fromLatin1(cle.data(), fin - cle.data());
 }
 
 qint64 NumeroDeCle(QStringView cle) {

@@ -7,17 +7,18 @@ namespace platform::database {
 
 /// How texts (UTF-8) compare in `where` and `order by`.
 ///
-/// compare() is negative, zero or positive; sortKey() gives bytes whose plain byte order is the order of
-/// compare(), so that a long list is sorted without calling compare() again and again.
+/// compare() is negative, zero or positive; appendSortKey() puts bytes behind those of `keys` whose plain
+/// byte order is the order of compare(), so that a long list is sorted without calling compare() again and
+/// again.
 struct Collation {
     int (*compare)(std::string_view left, std::string_view right);
-    std::string (*sortKey)(std::string_view text);
+    void (*appendSortKey)(std::string_view text, std::string &keys);
 };
 
 /// Byte by byte, which in UTF-8 is by code point.
 inline constexpr Collation kBinaryCollation{
     [](std::string_view left, std::string_view right) { return left.compare(right); },
-    [](std::string_view text) { return std::string(text); },
+    [](std::string_view text, std::string &keys) { keys.append(text); },
 };
 
 } // namespace platform::database

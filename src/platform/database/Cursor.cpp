@@ -151,9 +151,20 @@ QVariant Cursor::value(int column) {
     return columnValue(m_source.handle(), column);
 }
 
+/// True for a column of the current row that lies in the cache as it is stored.
+bool Cursor::isCached(int column) const {
+    return m_change == Change::None && column < m_rows.columns();
+}
+
+QString Cursor::text(int column) {
+    if (!isCached(column))
+        return value(column).toString();
+    requireRow();
+    return m_rows.text(m_row, column);
+}
+
 bool Cursor::isNull(int column) {
-    const bool cached = m_change == Change::None && column < m_rows.columns();
-    if (!cached)
+    if (!isCached(column))
         return value(column).isNull();
     requireRow();
     return m_rows.isNull(m_row, column);

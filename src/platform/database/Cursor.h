@@ -25,6 +25,7 @@ public:
     int column(int position) const;
     int column(QStringView name) const;
     QVariant value(int column);
+    QString text(int column);
     bool isNull(int column);
     void setValue(int column, const QVariant &value);
 
@@ -50,6 +51,7 @@ private:
     void dropChange();
     void insertRow();
     void updateRow();
+    bool isCached(int column) const;
     bool readRow(qint64 rowid);
     bool isRowNumber(int column) const;
     QByteArray columnName(int column) const;

@@ -10,7 +10,7 @@ bool Field::IsNull() const {
 }
 
 QString Field::Text() const {
-    return Value().toString();
+    return m_cursor.text(m_position);
 }
 
 qint64 Field::Number() const {

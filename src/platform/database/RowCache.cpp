@@ -5,7 +5,6 @@
 #include <sqlite3.h>
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 
 namespace platform::database {
@@ -94,6 +93,12 @@ QVariant RowCache::value(qsizetype row, int column) const {
     }
 }
 
+QString RowCache::text(qsizetype row, int column) const {
+    const Cell &cell = m_cells[m_rows[size_t(row)].firstCell + size_t(column)];
+    return cell.type == SQLITE_TEXT ? QString::fromUtf8(m_texts.data() + cell.offset, cell.size)
+                                    : value(row, column).toString();
+}
+
 bool RowCache::isNull(qsizetype row, int column) const {
     return m_cells[m_rows[size_t(row)].firstCell + size_t(column)].type == SQLITE_NULL;
 }
@@ -105,44 +110,69 @@ qsizetype RowCache::find(qint64 rowid) const {
 }
 
 void RowCache::TextOrder::append(const RowCache &cache, sqlite3_stmt *statement, int column) {
-    Key key{0, 0, m_texts.size()};
     Text text{false, m_bytes.size(), 0, cache.m_rows.back()};
     if (sqlite3_column_type(statement, column) != SQLITE_NULL) {
-        const std::string bytes = m_collation.sortKey(textOf(statement, column));
-        std::array<quint64, 2> start{};
-        std::memcpy(start.data(), bytes.data(), std::min(bytes.size(), sizeof start));
-        key.first = qFromBigEndian(start[0]);
-        key.second = qFromBigEndian(start[1]);
+        m_collation.appendSortKey(textOf(statement, column), m_bytes);
         text.present = true;
-        text.size = bytes.size();
-        m_bytes.append(bytes);
+        text.size = m_bytes.size() - text.offset;
     }
-    m_keys.push_back(key);
     m_texts.push_back(text);
 }
 
-bool RowCache::TextOrder::before(const Key &left, const Key &right) const {
-    if (left.first != right.first)
-        return left.first < right.first;
-    if (left.second != right.second)
-        return left.second < right.second;
-    return textBefore(m_texts[left.text], m_texts[right.text]);
+/// The bytes of a sort key from a depth on, 0 behind its end, as a number that is in their order.
+quint64 RowCache::TextOrder::wordAt(const Text &text, size_t depth) const {
+    quint64 bytes = 0;
+    if (depth < text.size)
+        std::memcpy(&bytes, m_bytes.data() + text.offset + depth, std::min(text.size - depth, sizeof bytes));
+    return qFromBigEndian(bytes);
 }
 
-bool RowCache::TextOrder::textBefore(const Text &left, const Text &right) const {
-    if (left.present != right.present)
-        return right.present;
+/// Compares what follows a depth up to which two keys are equal; Null comes before every text, equal texts go
+/// by row number.
+bool RowCache::TextOrder::before(const Key &left, const Key &right, size_t depth) const {
+    const Text &a = m_texts[left.text];
+    const Text &b = m_texts[right.text];
+    if (a.present != b.present)
+        return b.present;
     const std::string_view bytes(m_bytes);
-    const int order = bytes.substr(left.offset, left.size).compare(bytes.substr(right.offset, right.size));
-    return order != 0 ? order < 0 : left.row.rowid < right.row.rowid;
+    const auto rest = [&](const Text &text) {
+        const size_t equal = std::min(depth, text.size);
+        return bytes.substr(text.offset + equal, text.size - equal);
+    };
+    const int order = rest(a).compare(rest(b));
+    return order != 0 ? order < 0 : a.row.rowid < b.row.rowid;
+}
+
+/// Sorts keys that are equal up to a depth: by one word, then those that are equal in it by the next. The
+/// titles of a book begin alike, so comparing them whole would read the same bytes over and over.
+void RowCache::TextOrder::sortFrom(std::span<Key> keys, size_t depth) {
+    constexpr size_t kFew = 8;
+    constexpr size_t kDeepest = 256; // bytes; limits the recursion where texts are long and alike
+    if (keys.size() <= kFew || depth >= kDeepest) {
+        std::sort(keys.begin(), keys.end(),
+                  [this, depth](const Key &a, const Key &b) { return before(a, b, depth); });
+        return;
+    }
+    for (Key &key : keys)
+        key.word = wordAt(m_texts[key.text], depth);
+    std::sort(keys.begin(), keys.end(), [](const Key &a, const Key &b) { return a.word < b.word; });
+    for (auto first = keys.begin(); first != keys.end();) {
+        const auto last =
+            std::find_if(first, keys.end(), [first](const Key &key) { return key.word != first->word; });
+        if (last - first > 1)
+            sortFrom({first, last}, depth + sizeof(quint64));
+        first = last;
+    }
 }
 
 void RowCache::TextOrder::apply(RowCache &cache, bool descending) {
-    std::sort(m_keys.begin(), m_keys.end(),
-              [this](const Key &left, const Key &right) { return before(left, right); });
+    std::vector<Key> keys(m_texts.size());
+    for (size_t text = 0; text < keys.size(); ++text)
+        keys[text] = {0, text};
+    sortFrom(keys, 0);
     if (descending)
-        std::reverse(m_keys.begin(), m_keys.end());
-    std::transform(m_keys.begin(), m_keys.end(), cache.m_rows.begin(),
+        std::reverse(keys.begin(), keys.end());
+    std::transform(keys.begin(), keys.end(), cache.m_rows.begin(),
                    [this](const Key &key) { return m_texts[key.text].row; });
 }
 

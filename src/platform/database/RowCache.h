@@ -4,6 +4,7 @@
 
 #include <QVariant>
 
+#include <span>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,8 @@ public:
     qint64 rowid(qsizetype row) const { return m_rows[size_t(row)].rowid; }
 
     QVariant value(qsizetype row, int column) const;
+    /// The value as text; empty for Null.
+    QString text(qsizetype row, int column) const;
     bool isNull(qsizetype row, int column) const;
     /// The place of a row number, or -1.
     qsizetype find(qint64 rowid) const;
@@ -79,11 +82,9 @@ public:
     void apply(RowCache &cache, bool descending);
 
 private:
-    /// The first bytes of a sort key as numbers, which decide nearly every comparison, and the place of the
-    /// rest. Small, since sorting moves it about.
+    /// Eight bytes of a sort key as a number, and the text that they are of.
     struct Key {
-        quint64 first;
-        quint64 second;
+        quint64 word;
         size_t text;
     };
 
@@ -94,11 +95,11 @@ private:
         Row row;
     };
 
-    bool before(const Key &left, const Key &right) const;
-    bool textBefore(const Text &left, const Text &right) const;
+    quint64 wordAt(const Text &text, size_t depth) const;
+    void sortFrom(std::span<Key> keys, size_t depth);
+    bool before(const Key &left, const Key &right, size_t depth) const;
 
     const Collation &m_collation;
-    std::vector<Key> m_keys;
     std::vector<Text> m_texts;
     std::string m_bytes;
 };
