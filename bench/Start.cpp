@@ -2,14 +2,11 @@
 
 #include "browser/Frmmain.h"
 #include "platform/desktop/SingleInstance.h"
-#include "platform/dialogs/French.h"
 #include "shell/Demarrage.h"
-#include "store/Livre.h"
 #include "store/Programme.h"
 
 #include <QApplication>
 #include <QFile>
-#include <QIcon>
 #include <QListView>
 #include <QStringListModel>
 
@@ -48,14 +45,9 @@ public:
 
 /// What the program's main() does.
 int startOurs(int argc, char **argv, const QString &folder) {
-    QApplication::setStyle(QStringLiteral("Fusion"));
     const QApplication application(argc, argv);
-    QApplication::setApplicationName(store::TitreProgramme.toString());
-    QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icones/savorel.png")));
     store::DefinirDossierProgramme(folder);
-    store::PreparerLivre();
-    platform::dialogs::SpeakFrench(store::DossierProgramme() + QStringLiteral("/translations"));
+    shell::PreparerApplication();
     const platform::desktop::SingleInstance instance(store::TitreProgramme.toString());
     browser::Frmmain frmmain;
     EndAfterPaint end;

@@ -2,18 +2,13 @@
 // box.
 
 #include "browser/Frmmain.h"
-#include "platform/controls/Fonts.h"
-#include "platform/controls/Picture.h"
 #include "platform/desktop/SingleInstance.h"
-#include "platform/dialogs/French.h"
 #include "platform/dialogs/MessageBox.h"
 #include "shell/Demarrage.h"
 #include "shell/FinDuProgramme.h"
-#include "store/Livre.h"
 #include "store/Programme.h"
 
 #include <QApplication>
-#include <QIcon>
 #include <cstdlib>
 #include <exception>
 
@@ -47,14 +42,8 @@ public:
 } // namespace
 
 int main(int argc, char *argv[]) {
-    QApplication::setStyle(QStringLiteral("Fusion"));
     Application application(argc, argv);
-    QApplication::setApplicationName(store::TitreProgramme.toString());
-    QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setWindowIcon(platform::controls::resourcePicture(QStringLiteral(":/icones/savorel.png")));
-    store::PreparerLivre();
-    platform::controls::substituteFonts();
-    platform::dialogs::SpeakFrench(store::DossierProgramme() + QStringLiteral("/translations"));
+    shell::PreparerApplication();
     return guarded([] {
         const platform::desktop::SingleInstance instance(store::TitreProgramme.toString());
         browser::Frmmain frmmain;

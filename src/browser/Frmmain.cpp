@@ -199,7 +199,7 @@ void Frmmain::Peindre() {
     Embleme.SetPicture(resourcePicture(QStringLiteral(":/icones/savorel.png")).toImage());
     Enseigne.SetPicture(resourcePicture(QStringLiteral(":/themes/enseigne.png")).toImage());
 
-    const QFont titre = interfaceFont(Face::Verdana, 9, true);
+    const QFont titre = interfaceFont(Face::Verdana, 8.25, true);
     for (Label *label : {&LTGauche, &LTCentre2, &LBGauche}) {
         label->setFont(titre);
         label->SetForeColor(Qt::white);

@@ -4,13 +4,17 @@
 
 #include "browser/Frmmain.h"
 #include "browser/Vues.h"
+#include "platform/controls/Fonts.h"
+#include "platform/dialogs/French.h"
 #include "platform/dialogs/MessageBox.h"
 #include "platform/settings/Conversion.h"
 #include "platform/settings/Settings.h"
+#include "store/Livre.h"
 #include "store/Programme.h"
 
+#include <QApplication>
 #include <QFile>
-#include <QGuiApplication>
+#include <QIcon>
 #include <QScreen>
 #include <cstdlib>
 
@@ -106,6 +110,17 @@ void Brancher(browser::Frmmain &frm) {
 }
 
 } // namespace
+
+void PreparerApplication() {
+    store::PreparerLivre();
+    QApplication::setApplicationName(titre());
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setWindowIcon(resourcePicture(QStringLiteral(":/icones/savorel.png")));
+    substituteFonts();
+    QApplication::setFont(interfaceFont(Face::Verdana, 8.25));
+    dialogs::SpeakFrench(store::DossierProgramme() + QStringLiteral("/translations"));
+}
 
 void ChargerFrmmain(browser::Frmmain &frm, const platform::desktop::SingleInstance &instance) {
     frm.setWindowTitle(titre());

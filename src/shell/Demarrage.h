@@ -8,6 +8,10 @@ class Frmmain;
 
 namespace shell {
 
+/// Gives a newly made application the program's name, look, fonts and language, and starts what may be ready
+/// by the time that the book is opened.
+void PreparerApplication();
+
 /// The load step of the main window: tests the screen and the instance, prepares the window, presses the sort
 /// button of the last run, which loads the first list, and shows the window. Throws FinDuProgramme after a
 /// failed test, and what the database and the settings throw.

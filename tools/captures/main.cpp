@@ -4,9 +4,7 @@
 #include "browser/Frmmain.h"
 #include "browser/Vues.h"
 #include "platform/desktop/SingleInstance.h"
-#include "platform/dialogs/French.h"
 #include "shell/Demarrage.h"
-#include "store/Livre.h"
 #include "store/Programme.h"
 
 #include <QApplication>
@@ -101,8 +99,7 @@ void capture(const QTemporaryDir &scratch, const QString &programFolder, const Q
                           std::filesystem::copy_options::recursive);
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, scratch.path());
     store::DefinirDossierProgramme(folder);
-    store::PreparerLivre();
-    platform::dialogs::SpeakFrench(folder + QStringLiteral("/translations"));
+    shell::PreparerApplication();
 
     const platform::desktop::SingleInstance instance(store::TitreProgramme.toString());
     Frmmain frm;
@@ -123,7 +120,6 @@ int main(int argc, char *argv[]) {
         configureScreen(scratch.filePath(QStringLiteral("screens.json")));
         // Here the running program notes its presence: it may be running meanwhile.
         qputenv("XDG_RUNTIME_DIR", QFile::encodeName(scratch.path()));
-        QApplication::setStyle(QStringLiteral("Fusion"));
         const QApplication application(argc, argv);
         capture(scratch, QFile::decodeName(argv[1]), QFile::decodeName(argv[2]));
     } catch (const std::exception &failure) {

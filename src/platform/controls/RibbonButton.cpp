@@ -172,7 +172,8 @@ void RibbonButton::paintCaption(QPainter &painter) const {
         return;
     }
     area.adjust(kTextMargin.pixels(), 0, 0, 0);
-    painter.drawText(area, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text());
+    // No letter is narrower than a pixel: of a line of hundreds of dots only those that can show are shaped.
+    painter.drawText(area, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text().left(area.width()));
 }
 
 } // namespace platform::controls
