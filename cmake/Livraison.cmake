@@ -3,7 +3,8 @@
 #   cmake -D SOURCE=<pristine folder> -D DESTINATION=<program folder> -D STAMPS=<folder> -P Livraison.cmake
 #
 # A file is delivered when the program folder lacks it or holds it just as it was last delivered. STAMPS keeps the
-# SHA-256 of each file at that time; without a stamp, a file that differs counts as the user's.
+# SHA-256 of each file at that time; without a stamp, a file that differs counts as the user's. So does a book beside
+# which a journal lies: a program that was killed left it, and it belongs to the pages that are there now.
 cmake_minimum_required(VERSION 3.25)
 
 function(deliver file)
@@ -19,7 +20,7 @@ function(deliver file)
       file(READ ${stamp} last)
     endif()
     if(NOT present STREQUAL new)
-      if(NOT present STREQUAL last)
+      if(NOT present STREQUAL last OR EXISTS ${destination}-journal)
         message(STATUS "Gardé tel quel, modifié depuis sa livraison : ${destination}")
         return()
       endif()

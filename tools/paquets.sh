@@ -2,7 +2,7 @@
 
 PAQUETS_CONSTRUCTION=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-base-dev-tools libqt6svg6-dev
     libsqlcipher-dev libssl-dev qt6-translations-l10n)
-PAQUETS_EXECUTION=(fonts-dejavu-core fonts-liberation fonts-comic-neue)
+PAQUETS_EXECUTION=(qt6-wayland fonts-dejavu-core fonts-liberation fonts-comic-neue)
 PAQUETS_ECRAN_VIRTUEL=(xvfb xauth x11-utils imagemagick)
 PAQUETS_TESTS=(sqlcipher)
 

@@ -7,6 +7,7 @@
 #include "platform/database/DatabaseError.h"
 #include "store/AccesBase.h"
 #include "store/Livre.h"
+#include "store/Textes.h"
 #include "store/Vocabulaires.h"
 
 #include <QSignalBlocker>
@@ -55,7 +56,7 @@ std::optional<QString> TexteDe(Database &base, QStringView requete, const Field 
 }
 
 QString OuPointilles(const QString &texte) {
-    return texte.trimmed().isEmpty() ? pointilles() : texte;
+    return store::SansBlancs(texte).isEmpty() ? pointilles() : texte;
 }
 
 void AfficherValeur(Frmmain &frm, Database &base, Recordset &recette, const Valeur &valeur) {
@@ -99,14 +100,14 @@ void AfficherPhoto(Frmmain &frm, const QString &valeur) {
 }
 
 void AfficherTexte(RichTextBox &saisie, const QString &texte) {
-    saisie.SetTextRTF(texte.trimmed());
-    saisie.SetTag(texte.trimmed());
+    saisie.SetTextRTF(store::SansBlancs(texte));
+    saisie.SetTag(store::SansBlancs(texte));
 }
 
 void AfficherComplements(Frmmain &frm, const QString &texte) {
     RichTextBox &saisie = frm.Saisie(1);
     AfficherTexte(saisie, texte);
-    if (saisie.Text().trimmed().isEmpty()) {
+    if (store::SansBlancs(saisie.Text()).isEmpty()) {
         // What the cook types into empty remarks comes out white. It is no change of the recipe.
         const QSignalBlocker silence(&saisie);
         saisie.Select(0, 1);
@@ -121,7 +122,7 @@ QString SansGras(QString texte) {
 
 void AfficherIngredient(Ribbon &bouton, const std::optional<QString> &texte) {
     const QString sansGras = SansGras(texte ? OuPointilles(*texte) : pointilles());
-    bouton.SetCaption(sansGras.trimmed());
+    bouton.SetCaption(store::SansBlancs(sansGras));
     if (texte) {
         bouton.setToolTip(sansGras);
         bouton.SetUnderline(bouton.Caption().endsWith(QLatin1Char(':')));

@@ -1,6 +1,7 @@
 #include "CheminPhoto.h"
 
 #include "store/Programme.h"
+#include "store/Textes.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -23,7 +24,7 @@ QString cheminNomme(const QString &nom) {
 } // namespace
 
 QString CheminPhoto(const QString &valeur) {
-    const QString nom = valeur.trimmed().remove(QStringLiteral("<BR>"));
+    const QString nom = store::SansBlancs(valeur).remove(QStringLiteral("<BR>"));
     if (nom.isEmpty()) {
         return {};
     }

@@ -60,7 +60,7 @@ Choix LireChoix(const QString &table, const QString &ordre) {
     Recordset fiches = base.OpenRecordset(u"SELECT * From " + table + u" order by " + ordre + u" asc");
     Choix choix{{}, fiches.RecordCount() == 0};
     for (qsizetype compteur = 0; compteur < fiches.RecordCount(); ++compteur, fiches.MoveNext()) {
-        const QString texte = fiches.Fields(1).Text().trimmed();
+        const QString texte = SansBlancs(fiches.Fields(1).Text());
         if (!texte.isEmpty() && !porteBalise(texte))
             choix.textes.append(texte);
     }
@@ -74,7 +74,7 @@ QStringList LireListeSimple(const QString &table, const QString &ordre, int posi
     for (qsizetype compteur = 0; compteur < fiches.RecordCount(); ++compteur, fiches.MoveNext()) {
         const QString texte = fiches.Fields(position).Text();
         if (!porteBalise(texte))
-            textes.append(texte.trimmed());
+            textes.append(SansBlancs(texte));
     }
     return textes;
 }

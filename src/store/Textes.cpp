@@ -9,6 +9,14 @@ QString DoublerApostrophes(const QString &texte) {
     return QString(texte).replace(u'\'', QStringLiteral("''"));
 }
 
+QString SansBlancs(QStringView texte) {
+    while (texte.startsWith(u' '))
+        texte = texte.sliced(1);
+    while (texte.endsWith(u' '))
+        texte.chop(1);
+    return texte.toString();
+}
+
 QString CleDeListe(qint64 numero) {
     // Made for each row of a list of thousands, so without any text in between.
     std::array<char, 24> cle{'N', ' '};

@@ -8,6 +8,9 @@ namespace store {
 /// A text as it goes between the quotes of a query: every ' doubled.
 QString DoublerApostrophes(const QString &texte);
 
+/// The text without the blanks around it; tabs and no-break blanks belong to it.
+QString SansBlancs(QStringView texte);
+
 /// The key of a row in a list: "N 12" for 12.
 QString CleDeListe(qint64 numero);
 

@@ -39,7 +39,7 @@ constexpr Collation kVowelBlind{
     [](std::string_view left, std::string_view right) {
         return withoutVowels(left).compare(withoutVowels(right));
     },
-    withoutVowels,
+    [](std::string_view text, std::string &keys) { keys += withoutVowels(text); },
 };
 
 /// The end of a child process that runs a function.

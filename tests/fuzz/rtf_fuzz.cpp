@@ -1,4 +1,5 @@
 // Feeds the reader any text, and expects what it made of it to survive being written and read again.
+#include "RtfReader.h"
 #include "platform/richtext/RichText.h"
 
 #include <QGuiApplication>
@@ -17,6 +18,13 @@ void require(bool holds) {
     }
 }
 
+/// The reader takes any text, also one that does not begin as RTF does.
+void requireWholeContent(const QString &source) {
+    const RichContent content = readRtf(source);
+    require(!content.paragraphs.empty());
+    require(content.paragraphs.back().end == content.text.size());
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv) {
@@ -27,6 +35,8 @@ extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv) {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     const QString stored = QString::fromUtf8(reinterpret_cast<const char *>(data), qsizetype(size));
+    requireWholeContent(stored);
+
     QTextDocument document;
     load(document, stored);
     require(plainText(stored) == document.toPlainText());

@@ -209,6 +209,13 @@ void RichTextTest::reads_data() {
     row("huge binary length swallows the text", "a\\bin99999999 b}", "ab");
     row("whole file taken for a skipped group", "\\pict a}", "a");
     row("closing brace lost", "a{\\b b", "a[bold:b][bold]");
+    row("text before a cut unknown group lost", "a {\\*\\x b", "a ");
+    row("text before a cut picture lost", "a\\par b {\\pict 0102", "a|b ");
+    row("text before cut binary data lost", "a {\\pict{\\bin9 abc", "a ");
+    row("text before a cut table lost", "a{\\fonttbl{\\f0 A", "a");
+    row("text before a cut marker lost", "a\\par b{\\pntext{\\b 1", "a|<number li180>b");
+    row("formats of the text before a cut group lost", "{\\qc\\b a{\\i\\pict{\\ul 0",
+        "<centre>[bold:a][bold]");
     row("text after the end shown", "a}\r\nb", "a");
     row("surplus closing braces", "a}}}}", "a");
     row("backslash at the end", "a\\", "a");

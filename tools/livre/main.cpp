@@ -3,9 +3,9 @@
 // SOURCES/vocabulaires/<table>.txt holds the texts of a lookup table, one a line; their places are their
 // numbers. SOURCES/recettes/*.txt hold a recipe each, numbered in the order of their names:
 //
-//   Titre : Le Gratin dauphinois           nine fields, see RecipeText.cpp; times, persons, dish type and
-//   wine Durée cuisson : 1 heure 15             are texts of the vocabularies, cost and difficulty class
-//   names Dessin : gratin-dauphinois             its picture is PICTURES/gratin-dauphinois.jpg
+//   Titre : Le Gratin dauphinois           nine fields, see RecipeText.cpp; times, persons, dish type and wine
+//   Durée cuisson : 1 heure 15             are texts of the vocabularies, cost and difficulty class names
+//   Dessin : gratin-dauphinois             its picture is PICTURES/gratin-dauphinois.jpg
 //   == Ingrédients ==
 //   Pour la garniture :                    an ingredient alone; with a ":" at its end it is a heading
 //   40 | cl de | lait entier               quantity, measure, ingredient; the first two may be empty

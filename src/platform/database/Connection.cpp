@@ -44,6 +44,8 @@ QByteArray readSalt(sqlite3 *db) {
     // connection of this process holds.
     sqlite3_file *file = nullptr;
     sqlite3_file_control(db, "main", SQLITE_FCNTL_FILE_POINTER, static_cast<void *>(&file));
+    if (!file || !file->pMethods)
+        throw DatabaseError(sqlite3_errstr(SQLITE_CANTOPEN));
     QByteArray salt(kSaltSize, Qt::Uninitialized);
     if (file->pMethods->xRead(file, salt.data(), kSaltSize, 0) != SQLITE_OK)
         throw DatabaseError(sqlite3_errstr(SQLITE_NOTADB));
@@ -62,22 +64,24 @@ void runScript(sqlite3 *db, const char *sql) {
 }
 
 Connection::Connection(const QString &name, const Options &options)
-    : m_db(openFile(name, SQLITE_OPEN_READWRITE)),
+    : m_db(openFile(name, options.readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE)),
       m_collation(options.collation),
       m_exclusive(options.exclusive) {
     sqlite3 *db = m_db.get();
     if (const QByteArray salt = readSalt(db); !options.passphrase.isEmpty())
         useKey(db, options.passphrase, salt);
     sqlite3_create_collation(db, "NOCASE", SQLITE_UTF8, &m_collation, compareTexts);
-    if (m_exclusive) {
+    if (m_exclusive && options.readOnly) {
+        // A file that cannot be written cannot be locked for writing either: the lasting lock of a reader keeps
+        // writers out.
+        runScript(db, "PRAGMA locking_mode = EXCLUSIVE; PRAGMA schema_version");
+    } else if (m_exclusive) {
         // The journal is cut short by each commit and goes at the close, since a lasting lock keeps it.
         runScript(db, "PRAGMA locking_mode = EXCLUSIVE; PRAGMA journal_mode = TRUNCATE;"
                       "BEGIN EXCLUSIVE; COMMIT");
     } else {
         runScript(db, "PRAGMA schema_version");
     }
-    if (options.readOnly)
-        runScript(db, "PRAGMA query_only = 1");
 }
 
 Connection::~Connection() {

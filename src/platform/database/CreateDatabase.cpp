@@ -17,7 +17,8 @@ void fillFile(const QString &name, const QByteArray &passphrase, const QString &
     const SqliteHandle db = openFile(name, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
     if (!passphrase.isEmpty()) {
         QByteArray salt(kSaltSize, Qt::Uninitialized);
-        RAND_bytes(reinterpret_cast<uchar *>(salt.data()), kSaltSize);
+        if (RAND_bytes(reinterpret_cast<uchar *>(salt.data()), kSaltSize) != 1)
+            throw DatabaseError("Aucun nombre aléatoire n'est disponible.");
         useKey(db.get(), passphrase, salt);
     }
     runScript(db.get(), "BEGIN EXCLUSIVE");
@@ -32,7 +33,7 @@ void CreateDatabase(const QString &name, const QString &connect, const QString &
         throw DatabaseError(u"Le fichier existe déjà : " + name);
     try {
         fillFile(name, passphraseOf(connect), schema);
-    } catch (const DatabaseError &) {
+    } catch (...) {
         QFile::remove(name);
         throw;
     }

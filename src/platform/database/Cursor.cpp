@@ -226,12 +226,12 @@ void Cursor::insertRow() {
 }
 
 void Cursor::updateRow() {
+    const qint64 rowid = m_rows.rowid(m_row);
     // The callers write the key of the row again with each change. Setting it would rewrite the row's place
     // in every index.
-    std::erase_if(m_changes, [this](const auto &change) {
-        return change.first < m_rows.columns() && m_rows.value(m_row, change.first) == change.second;
+    std::erase_if(m_changes, [this, rowid](const auto &change) {
+        return change.second.toLongLong() == rowid && isRowNumber(change.first);
     });
-    const qint64 rowid = m_rows.rowid(m_row);
     m_lastModified = rowid;
     if (m_changes.empty())
         return;
@@ -249,9 +249,16 @@ void Cursor::updateRow() {
         update.bind(++parameter, value);
     update.bind(++parameter, rowid);
     update.step();
+    requireChange();
 
     if (readRow(m_lastModified))
         m_rows.replace(m_row, m_lastModified, m_source.handle());
+}
+
+/// Fails when the statement just run found its row gone.
+void Cursor::requireChange() const {
+    if (sqlite3_changes(m_connection->handle()) == 0)
+        throw DatabaseError("L'enregistrement en cours a été supprimé.");
 }
 
 /// True for a column declared INTEGER PRIMARY KEY: its value is the number of the row.
@@ -271,6 +278,7 @@ void Cursor::remove() {
     Statement statement(m_connection, "DELETE FROM " + quotedName(m_table->table) + " WHERE rowid = ?");
     statement.bind(1, m_rows.rowid(m_row));
     statement.step();
+    requireChange();
     m_rows.remove(m_row);
     m_deleted = true;
 }

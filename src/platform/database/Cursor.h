@@ -47,6 +47,7 @@ private:
     bool hasCollation(const QByteArray &name) const;
     void requireRow() const;
     void requireTable() const;
+    void requireChange() const;
     void dropRow();
     void dropChange();
     void insertRow();

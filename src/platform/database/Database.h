@@ -49,14 +49,12 @@ private:
 ///                  closed; when one is open already this call fails at once
 /// @param readOnly  every change fails
 /// @param connect   ";pwd =passphrase": the passphrase of a SQLCipher 3 file with pages of 4,096 bytes;
-/// without
-///                  `pwd` the file is a plain one
+///                  without `pwd` the file is a plain one
 /// @param collation takes the place of the built-in NOCASE, so it rules the columns declared COLLATE NOCASE;
 ///                  an index on such a column must be declared COLLATE BINARY, or a program without this
 ///                  collation would corrupt it
 /// @throws DatabaseError with the engine's text, at once for a missing, locked, foreign or damaged file and
-/// for
-///         a wrong passphrase; the file is untouched then
+///         for a wrong passphrase; the file is untouched then
 ///
 /// While a database is open the process must not open its file by other means: closing any descriptor of a
 /// file drops the locks that the process holds on it (POSIX).

@@ -80,9 +80,15 @@ bool parseOrder(const std::vector<Token> &tokens, size_t at, TableQuery &query) 
     return count == 3 || query.descending || tokens[at + 3].is(u"asc");
 }
 
+QString withoutSemicolon(const QString &statement) {
+    const QString sql = statement.trimmed();
+    return sql.endsWith(u';') ? sql.chopped(1) : sql;
+}
+
 } // namespace
 
-std::optional<TableQuery> parseTableQuery(const QString &sql) {
+std::optional<TableQuery> parseTableQuery(const QString &statement) {
+    const QString sql = withoutSemicolon(statement);
     const std::vector<Token> tokens = tokenize(sql);
     if (tokens.size() < 4 || !tokens[0].is(u"select") || !tokens[1].is(u"*") || !tokens[2].is(u"from") ||
         !tokens[3].isName())
@@ -94,7 +100,9 @@ std::optional<TableQuery> parseTableQuery(const QString &sql) {
     if (at < tokens.size() && tokens[at].is(u"where")) {
         at = findOutside(tokens, 5, {u"order", u"group", u"limit", u"union", u"except", u"intersect", u";"});
         const qsizetype end = at < tokens.size() ? tokens[at].begin : sql.size();
-        query.condition = QStringView(sql).first(end).sliced(tokens[4].end).toUtf8();
+        query.condition = QStringView(sql).first(end).sliced(tokens[4].end).trimmed().toUtf8();
+        if (query.condition.isEmpty())
+            return std::nullopt;
     }
     if (at < tokens.size() && !parseOrder(tokens, at, query))
         return std::nullopt;

@@ -17,14 +17,15 @@ enum class Action {
     ParagraphEnd,
     Destination,
     SkipGroup,
-    // tables and code pages
+    // tables, fonts and code pages
     CodePage,
     DefaultFont,
     Charset,
     ColourComponent,
     Numbering,
-    // characters
     Font,
+    Plain,
+    // characters
     FontSize,
     Bold,
     Italic,
@@ -33,7 +34,6 @@ enum class Action {
     Strike,
     Foreground,
     Background,
-    Plain,
     // paragraphs
     Left,
     Right,

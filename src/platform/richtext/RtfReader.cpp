@@ -2,6 +2,7 @@
 
 #include "CodePages.h"
 #include "ListKinds.h"
+#include "RtfFormats.h"
 #include "RtfKeywords.h"
 #include "RtfLexer.h"
 #include "RtfTables.h"
@@ -19,8 +20,7 @@ constexpr qsizetype kLongestMarker = 16;
 /// What opens with a brace and ends with its partner.
 struct Group {
     Destination destination = Destination::Body;
-    CharacterStyle character;
-    ParagraphStyle paragraph;
+    RtfFormats formats;
     int font = -1;    ///< number in the font table, -1 the file's default
     int fallback = 1; ///< characters that stand in for one \u
 };
@@ -45,14 +45,14 @@ private:
     void put(char16_t c) { put(QStringView(&c, 1)); }
 
     bool takenAsFallback();
+    bool inBody() const;
     void endParagraph();
+    void endText();
     int codePage();
 
     // Each does what a control word asks for, and tells whether the word was one of its own.
     bool applyToText(const Keyword &keyword, Parameter parameter);
     bool applyToTables(const Keyword &keyword, Parameter parameter);
-    bool applyToCharacters(Action action, int parameter, bool on);
-    bool applyToParagraph(const Keyword &keyword, int parameter);
 
     void character(char16_t c);
     void unicode(int code);
@@ -72,8 +72,7 @@ private:
     int m_fallbackLeft = 0;    ///< characters still to be left out after \u
     int m_codePageOfFile = 1252;
     int m_defaultFont = 0;
-    Parameter m_codePage; ///< of the current font once looked up
-    QTextOption::TabType m_tabType = QTextOption::LeftTab;
+    Parameter m_codePage;                        ///< of the current font once looked up
     ListKind m_numbering = ListKind::None;       ///< of the \pn group being read
     ListKind m_listOfParagraph = ListKind::None; ///< told by the bullet or number written out before it
     QString m_marker;
@@ -106,10 +105,7 @@ RichContent RtfReader::read() {
             break;
         }
     }
-    // Classic controls end the last paragraph too; without that it still is one.
-    if (!m_content.atParagraphStart() || !m_content.hasParagraphs()) {
-        endParagraph();
-    }
+    endText();
     return m_content.take();
 }
 
@@ -147,7 +143,7 @@ void RtfReader::close() {
         return;
     }
     if (closed == Destination::Numbering) {
-        m_groups.back().paragraph.list = m_numbering;
+        m_groups.back().formats.paragraph.list = m_numbering;
     } else if (closed == Destination::Marker) {
         m_listOfParagraph = kindOfMarker(m_marker);
     }
@@ -213,10 +209,8 @@ void RtfReader::word(const RtfToken &token) {
     if (known == nullptr || (m_skipDepth != 0 && known->action != Action::Binary)) {
         return;
     }
-    const int number = token.parameter.value_or(0);
-    if (!applyToText(*known, token.parameter) && !applyToTables(*known, token.parameter) &&
-        !applyToCharacters(known->action, number, token.parameter != 0)) {
-        applyToParagraph(*known, number);
+    if (!applyToText(*known, token.parameter) && !applyToTables(*known, token.parameter)) {
+        m_groups.back().formats.apply(*known, token.parameter, m_colours);
     }
 }
 
@@ -231,7 +225,7 @@ bool RtfReader::takenAsFallback() {
 void RtfReader::put(QStringView text) {
     switch (m_groups.back().destination) {
     case Destination::Body:
-        m_content.append(text, m_groups.back().character);
+        m_content.append(text, m_groups.back().formats.character);
         break;
     case Destination::Fonts:
         m_fonts.addName(text, m_content);
@@ -247,17 +241,32 @@ void RtfReader::put(QStringView text) {
     }
 }
 
+bool RtfReader::inBody() const {
+    return m_skipDepth == 0 && m_groups.back().destination == Destination::Body;
+}
+
 void RtfReader::endParagraph() {
     m_fallbackLeft = 0;
-    if (m_skipDepth != 0 || m_groups.back().destination != Destination::Body) {
+    if (!inBody()) {
         return;
     }
-    ParagraphStyle style = m_groups.back().paragraph;
+    ParagraphStyle style = m_groups.back().formats.paragraph;
     if (style.list == ListKind::None) {
         style.list = m_listOfParagraph;
     }
-    m_content.endParagraph(std::move(style), m_groups.back().character);
+    m_content.endParagraph(std::move(style), m_groups.back().formats.character);
     m_listOfParagraph = ListKind::None;
+}
+
+void RtfReader::endText() {
+    // A text that was cut may end within a picture or a table, where no paragraph can.
+    while (!inBody()) {
+        close();
+    }
+    // Classic controls end the last paragraph too; without that it still is one.
+    if (!m_content.atParagraphStart() || !m_content.hasParagraphs()) {
+        endParagraph();
+    }
 }
 
 int RtfReader::codePage() {
@@ -316,87 +325,18 @@ bool RtfReader::applyToTables(const Keyword &keyword, Parameter parameter) {
     case Action::Numbering:
         m_numbering = ListKind(keyword.value);
         break;
+    case Action::Font:
+        selectFont(parameter.value_or(0));
+        break;
+    case Action::Plain:
+        m_groups.back().formats.character = {};
+        m_groups.back().font = -1;
+        break;
     default:
         return false;
     }
     m_codePage.reset();
     return true;
-}
-
-bool RtfReader::applyToCharacters(Action action, int parameter, bool on) {
-    CharacterStyle &style = m_groups.back().character;
-    switch (action) {
-    case Action::Font:
-        selectFont(parameter);
-        return true;
-    case Action::FontSize:
-        style.halfPoints = std::clamp(parameter, 0, kLargestHalfPoints);
-        return true;
-    case Action::Bold:
-        style.bold = on;
-        return true;
-    case Action::Italic:
-        style.italic = on;
-        return true;
-    case Action::Underline:
-        style.underline = on;
-        return true;
-    case Action::NoUnderline:
-        style.underline = false;
-        return true;
-    case Action::Strike:
-        style.strike = on;
-        return true;
-    case Action::Foreground:
-        style.foreground = m_colours.colour(parameter);
-        return true;
-    case Action::Background:
-        style.background = m_colours.colour(parameter);
-        return true;
-    case Action::Plain:
-        style = {};
-        m_groups.back().font = -1;
-        m_codePage.reset();
-        return true;
-    default:
-        return false;
-    }
-}
-
-bool RtfReader::applyToParagraph(const Keyword &keyword, int parameter) {
-    ParagraphStyle &style = m_groups.back().paragraph;
-    switch (keyword.action) {
-    case Action::Left:
-        style.left = parameter;
-        return true;
-    case Action::Right:
-        style.right = parameter;
-        return true;
-    case Action::FirstLine:
-        style.firstLine = parameter;
-        return true;
-    case Action::Before:
-        style.before = parameter;
-        return true;
-    case Action::After:
-        style.after = parameter;
-        return true;
-    case Action::Alignment:
-        style.alignment = Qt::AlignmentFlag(keyword.value);
-        return true;
-    case Action::TabType:
-        m_tabType = QTextOption::TabType(keyword.value);
-        return true;
-    case Action::TabStop:
-        style.addTab({parameter, m_tabType});
-        m_tabType = QTextOption::LeftTab;
-        return true;
-    case Action::ParagraphReset:
-        style = {};
-        return true;
-    default:
-        return false;
-    }
 }
 
 void RtfReader::character(char16_t c) {
@@ -442,9 +382,8 @@ void RtfReader::selectFont(int number) {
         m_fonts.begin(number);
     } else {
         m_groups.back().font = number;
-        m_groups.back().character.family = m_fonts.font(number).family;
+        m_groups.back().formats.character.family = m_fonts.font(number).family;
     }
-    m_codePage.reset();
 }
 
 } // namespace
