@@ -23,7 +23,6 @@ auto guarded(Action action) {
     } catch (const shell::FinDuProgramme &fin) {
         std::_Exit(fin.code);
     } catch (const std::exception &failure) {
-        QGuiApplication::restoreOverrideCursor();
         platform::dialogs::Message(nullptr, store::TitreProgramme.toString(),
                                    QString::fromUtf8(failure.what()), platform::dialogs::Icon::Critical);
         std::_Exit(EXIT_FAILURE);

@@ -40,9 +40,7 @@ constexpr std::array kValeurs{
 };
 constexpr Valeur kVin{u"SELECT * From VIN where NVIN = ", u" order by VIN asc", u"Teneur", 4};
 
-constexpr Twips kMarge{400};
-
-QString pointilles() {
+QString Pointilles() {
     return store::LignePointillee.toString();
 }
 
@@ -56,7 +54,7 @@ std::optional<QString> TexteDe(Database &base, QStringView requete, const Field 
 }
 
 QString OuPointilles(const QString &texte) {
-    return store::SansBlancs(texte).isEmpty() ? pointilles() : texte;
+    return store::SansBlancs(texte).isEmpty() ? Pointilles() : texte;
 }
 
 void AfficherValeur(Frmmain &frm, Database &base, Recordset &recette, const Valeur &valeur) {
@@ -121,7 +119,7 @@ QString SansGras(QString texte) {
 }
 
 void AfficherIngredient(Ribbon &bouton, const std::optional<QString> &texte) {
-    const QString sansGras = SansGras(texte ? OuPointilles(*texte) : pointilles());
+    const QString sansGras = SansGras(texte ? OuPointilles(*texte) : Pointilles());
     bouton.SetCaption(store::SansBlancs(sansGras));
     if (texte) {
         bouton.setToolTip(sansGras);
@@ -136,13 +134,24 @@ void AfficherPartie(Ribbon &bouton, const std::optional<QString> &texte) {
     bouton.show();
 }
 
+/// Shows one column of a line. A damaged reference leaves a gap in its column only.
+template <class Affichage>
+void AfficherColonne(Database &base, Ribbon &bouton, QStringView requete, const Field &reference,
+                     QStringView fin, Affichage afficher) {
+    try {
+        afficher(bouton, TexteDe(base, requete, reference, fin));
+    } catch (const DatabaseError &) {
+        bouton.show();
+    }
+}
+
 void AfficherLigne(Frmmain &frm, Database &base, Recordset &lignes, int i) {
-    AfficherIngredient(frm.Ingre(i), TexteDe(base, u"SELECT * From Ingredient where NIngredient = ",
-                                             lignes.Fields(u"NIngre"), u" order by Ingredient desc"));
-    AfficherPartie(frm.Quantite(i), TexteDe(base, u"SELECT * From Quantite where NQuantite = ",
-                                            lignes.Fields(u"NQuantite"), u" order by Quantite desc"));
-    AfficherPartie(frm.Mesure(i), TexteDe(base, u"SELECT * From Mesure where NMesure = ",
-                                          lignes.Fields(u"NMesure"), u" order by Mesure desc"));
+    AfficherColonne(base, frm.Ingre(i), u"SELECT * From Ingredient where NIngredient = ",
+                    lignes.Fields(u"NIngre"), u" order by Ingredient desc", AfficherIngredient);
+    AfficherColonne(base, frm.Quantite(i), u"SELECT * From Quantite where NQuantite = ",
+                    lignes.Fields(u"NQuantite"), u" order by Quantite desc", AfficherPartie);
+    AfficherColonne(base, frm.Mesure(i), u"SELECT * From Mesure where NMesure = ", lignes.Fields(u"NMesure"),
+                    u" order by Mesure desc", AfficherPartie);
 }
 
 void ViderLignes(Frmmain &frm) {
@@ -166,11 +175,7 @@ int RemplirLignes(Frmmain &frm, qint64 numero) {
         if (i > 0) {
             frm.ChargerLigne();
         }
-        try {
-            AfficherLigne(frm, base, lignes, i);
-        } catch (const DatabaseError &) {
-            // A damaged line leaves a gap among the others.
-        }
+        AfficherLigne(frm, base, lignes, i);
     }
     return i;
 }
@@ -179,7 +184,7 @@ int RemplirLignes(Frmmain &frm, qint64 numero) {
 void AjouterLignePointillee(Frmmain &frm, int i) {
     frm.ChargerLigne();
     for (Ribbon *bouton : {&frm.Quantite(i), &frm.Mesure(i), &frm.Ingre(i)}) {
-        bouton->SetCaption(pointilles());
+        bouton->SetCaption(Pointilles());
         bouton->show();
     }
 }
@@ -188,7 +193,7 @@ void AjouterLignePointillee(Frmmain &frm, int i) {
 
 void ChargerRecette(Frmmain &frm, qint64 numero) {
     AfficherIngredients(frm, numero);
-    frm.Scroll(0).SetScrollableHeight(kMarge);
+    frm.Scroll(0).SetScrollableHeight(kMargeFiche);
     PlacerFiche(frm);
     auto base = store::OuvrirLivre();
     auto recette = base.OpenRecordset(QStringLiteral("SELECT * From Cocktails where Numero = ") +
@@ -205,7 +210,7 @@ void ChargerRecette(Frmmain &frm, qint64 numero) {
     AfficherClasse(frm, 2, store::Cout, recette.Fields(u"Cout").Number());
     AfficherClasse(frm, 3, store::Difficulte, recette.Fields(u"difficulte").Number());
     AfficherValeur(frm, base, recette, kVin);
-    frm.Scroll(0).SetScrollableHeight(frm.Saisie(1).Bottom() + kMarge);
+    frm.Scroll(0).SetScrollableHeight(frm.Saisie(1).Bottom() + kMargeFiche);
 }
 
 void AfficherIngredients(Frmmain &frm, qint64 numero) {

@@ -1,10 +1,15 @@
 #pragma once
 
+#include "platform/controls/Twips.h"
+
 #include <QtGlobal>
 
 namespace browser {
 
 class Frmmain;
+
+/// Between the rows of the detail and at its right and lower edge.
+inline constexpr platform::controls::Twips kMargeFiche{400};
 
 /// Shows the recipe of that number in the detail; the controls keep what they held when there is none. Throws
 /// DatabaseError, and std::out_of_range for a cost or difficulty outside its vocabulary.

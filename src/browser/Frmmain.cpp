@@ -25,7 +25,7 @@ constexpr std::array kControles{
     ControlRow{"Btn_Quit", 14760, 120, 360, 360, u"", u"Fermer"},
 
     ControlRow{"Outils(0)", 150, 660, 1350, 570, u"", u"Ajouter manuellement une recette"},
-    ControlRow{"Outils(1)", 1521, 660, 1350, 570, u"", u"Ajouter une recette avec le partenaire"},
+    ControlRow{"Outils(1)", 1521, 660, 1350, 570, u"", u"Ajouter une recette avec notre partenaire"},
     ControlRow{"Outils(2)", 2892, 660, 1350, 570, u"", u"Consulter les fiches"},
     ControlRow{"Outils(3)", 4263, 660, 1350, 570, u"", u"Acquérir une image"},
     ControlRow{"Outils(4)", 5634, 660, 1350, 570, u"", u"Rechercher une recette"},
@@ -112,15 +112,15 @@ constexpr std::array kControles{
 
 constexpr Rectangle kBarreOutils{Twips(90), Twips(645), Twips(15180), Twips(1050)};
 
-QString nomme(const char *dossier, int numero) {
+QString ImageNommee(const char *dossier, int numero) {
     return QStringLiteral(":/%1-%2.png").arg(QLatin1String(dossier)).arg(numero);
 }
 
-std::vector<QPixmap> imagesDesVues() {
+std::vector<QPixmap> ImagesDesVues() {
     std::vector<QPixmap> images;
     images.reserve(kNombreDeVues);
     for (int vue = 0; vue < kNombreDeVues; ++vue) {
-        images.push_back(resourcePicture(nomme("icones/vue", vue)));
+        images.push_back(resourcePicture(ImageNommee("icones/vue", vue)));
     }
     return images;
 }
@@ -134,6 +134,7 @@ void PeindreValeur(Ribbon &bouton) {
     bouton.SetLook(Look::Value);
     bouton.setFont(interfaceFont(Face::Verdana, 8.25));
     bouton.SetForeColor(kEncre);
+    QObject::connect(&bouton, &Ribbon::toggled, &bouton, [&bouton] { bouton.SetValue(false); });
 }
 
 // Black marks the button of the current view, and the pointer leaves it black.
@@ -147,14 +148,14 @@ void Survoler(Ribbon &bouton, const QColor &couleur) {
 
 Frmmain::Frmmain()
     : SkinnedWindow(QStringLiteral("Frmmain"), kWindowSize),
-      m_img(imagesDesVues()),
+      m_img(ImagesDesVues()),
       m_main(resourcePicture(QStringLiteral(":/curseurs/main.png")), kBoutDuDoigt.x(), kBoutDuDoigt.y()),
       Embleme(this, rowNamed(kControles, "Embleme")),
       Enseigne(this, rowNamed(kControles, "Enseigne")),
-      Outils(this, kControles, "Outils"),
-      LBtn(this, kControles, "LBtn"),
       Btn_Min(this, rowNamed(kControles, "Btn_Min")),
       Btn_Quit(this, rowNamed(kControles, "Btn_Quit")),
+      Outils(this, kControles, "Outils"),
+      LBtn(this, kControles, "LBtn"),
       Bouton(this, kControles, "Bouton"),
       LTGauche(this, rowNamed(kControles, "LTGauche")),
       Liste(this, rowNamed(kControles, "Liste")),
@@ -209,8 +210,12 @@ void Frmmain::Peindre() {
     LTDroit.SetForeColor(Qt::white);
     LTCentre2.hide();
     Scroll(1).SetBackColor(QColor(kListGround));
-    // A recipe covers the theme of its group.
+    // A recipe covers the theme of its group. Nothing is shown before a view is loaded.
     Scroll(0).raise();
+    Scroll(0).hide();
+    LFilms.hide();
+    Outils(2).hide();
+    LBtn(2).hide();
 
     Chargement.SetBackColor(skin().strip);
     Pb.SetBackColor(Qt::white);
@@ -227,7 +232,7 @@ void Frmmain::PeindreOutils() {
     for (int index = 0; index < Outils.Count(); ++index) {
         Ribbon &outil = Outils(index);
         outil.SetLook(Look::Tool);
-        outil.SetPicture(resourcePicture(nomme("icones/outil", index)));
+        outil.SetPicture(resourcePicture(ImageNommee("icones/outil", index)));
     }
     LBtn.ForEach([](Panel &panneau) {
         panneau.setFont(interfaceFont(Face::SansSerif, 8.25));
@@ -295,7 +300,7 @@ void Frmmain::RemplirVocabulaires() {
 }
 
 void Frmmain::MontrerTheme(int vue) {
-    Cadre(1).SetPicture(resourcePicture(nomme("themes/vue", vue)).toImage());
+    Cadre(1).SetPicture(resourcePicture(ImageNommee("themes/vue", vue)).toImage());
     Cadre(1).show();
 }
 

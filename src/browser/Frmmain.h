@@ -54,9 +54,9 @@ public:
 
     // Title band and toolbar.
     Image Embleme, Enseigne;
+    Ribbon Btn_Min, Btn_Quit;
     Array<Ribbon> Outils;
     Array<Panel> LBtn;
-    Ribbon Btn_Min, Btn_Quit;
 
     // The views.
     Array<Ribbon> Bouton;

@@ -18,18 +18,31 @@ using platform::database::DatabaseError;
 /// The column of Cocktails that refers to the rows of a view; none for the recipes and the ingredients.
 constexpr std::array<QStringView, kNombreDeVues> kColonnes{
     u"", u"NCategorie", u"NVerre", u"Cout", u"Difficulte", u"NReal", u"", u"NDureeReal"};
-constexpr int kVueIngredients = 6;
 
 // In LFilms every row is a recipe.
 constexpr int kIconeRecette = 1;
 
 // The key with its blank behind the letter goes into the query as it is.
-QString numeroChoisi(const Frmmain &frm) {
+QString NumeroChoisi(const Frmmain &frm) {
     return frm.Liste.Key(frm.Liste.SelectedIndex()).mid(1);
 }
 
 void AjouterRecette(List::Loading &lignes, platform::database::Recordset &recette) {
     lignes.Add(store::CleDeListe(recette.Fields(0).Number()), recette.Fields(1).Text(), kIconeRecette);
+}
+
+/// Adds the recipe of an ingredient line; a damaged line is passed over, and so is a recipe that has the ingredient
+/// on two lines and is in the list already.
+void AjouterSiLisible(List::Loading &lignes, platform::database::Database &base, const QString &numero) {
+    try {
+        auto recette = base.OpenRecordset(QStringLiteral("SELECT * From Cocktails where Numero = ") + numero +
+                                          QStringLiteral(" order by Numero desc"));
+        if (recette.RecordCount() > 0) {
+            AjouterRecette(lignes, recette);
+        }
+    } catch (const DuplicateKeyError &) {
+    } catch (const DatabaseError &) {
+    }
 }
 
 } // namespace
@@ -47,7 +60,7 @@ void ChargerRecettesCritere(Frmmain &frm, const QString &table, const QString &c
     List::Loading lignes(frm.LFilms);
     auto base = store::OuvrirLivre();
     auto recettes = base.OpenRecordset(QStringLiteral("SELECT * From ") + table + QStringLiteral(" where ") +
-                                       champ + QStringLiteral(" = ") + numeroChoisi(frm) +
+                                       champ + QStringLiteral(" = ") + NumeroChoisi(frm) +
                                        QStringLiteral(" order by ") + champ + QStringLiteral(" desc"));
     for (; !recettes.AtEnd(); recettes.MoveNext()) {
         AjouterRecette(lignes, recettes);
@@ -62,18 +75,9 @@ void ChargerRecettesIngredient(Frmmain &frm) {
     try {
         auto base = store::OuvrirLivre();
         auto ingre = base.OpenRecordset(QStringLiteral("SELECT * From Ingre where NIngre = ") +
-                                        numeroChoisi(frm) + QStringLiteral(" order by NIngre desc"));
+                                        NumeroChoisi(frm) + QStringLiteral(" order by NIngre desc"));
         for (; !ingre.AtEnd(); ingre.MoveNext()) {
-            auto recette =
-                base.OpenRecordset(QStringLiteral("SELECT * From Cocktails where Numero = ") +
-                                   ingre.Fields(0).Text() + QStringLiteral(" order by Numero desc"));
-            try {
-                if (recette.RecordCount() > 0) {
-                    AjouterRecette(lignes, recette);
-                }
-            } catch (const DuplicateKeyError &) {
-                // The recipe has the ingredient on two lines and is in the list already.
-            }
+            AjouterSiLisible(lignes, base, ingre.Fields(0).Text());
         }
     } catch (const DatabaseError &) {
         // What could be read stays in the list.

@@ -9,18 +9,19 @@ namespace {
 
 using namespace platform::controls;
 
-constexpr Twips kMarge{400};
 constexpr Twips kEntreLignes{200};
 constexpr Twips kBordCadre{150};
 
 /// The widths of the detail and its two columns, from the width of the panel.
 void Aligner(Frmmain &frm) {
     const Twips largeur = frm.Scroll(0).Width();
-    const auto jusquauBord = [largeur](const auto &controle) { return largeur - controle.Left() - kMarge; };
+    const auto jusquauBord = [largeur](const auto &controle) {
+        return largeur - controle.Left() - kMargeFiche;
+    };
 
     frm.Ingre.ForEach([&](Ribbon &bouton) { bouton.SetWidth(jusquauBord(bouton)); });
     const Twips gauche = frm.Libelle(7).Left();
-    const Twips demi = IntegerHalf(largeur - kMarge) - 2 * gauche;
+    const Twips demi = IntegerHalf(largeur - kMargeFiche) - 2 * gauche;
     for (Ribbon *bouton : {&frm.Data(6), &frm.Data(0)}) {
         bouton->SetLeft(gauche);
         bouton->SetWidth(demi);
@@ -29,7 +30,7 @@ void Aligner(Frmmain &frm) {
     frm.LVerre.SetWidth(demi);
     frm.Libelle(1).SetLeft(gauche);
     frm.Saisie.ForEach([&](RichTextBox &saisie) { saisie.SetWidth(jusquauBord(saisie)); });
-    frm.CadrePhoto.SetWidth(largeur - 2 * frm.CadrePhoto.Left() - kMarge + kBordCadre);
+    frm.CadrePhoto.SetWidth(largeur - 2 * frm.CadrePhoto.Left() - kMargeFiche + kBordCadre);
     frm.CadrePhoto.SetHeight(3 * (frm.CadrePhoto.Width() / 5));
 
     const Twips seconde = gauche + demi + 2 * gauche;
@@ -86,22 +87,22 @@ void OrdonnerTabulation(Frmmain &frm) {
 } // namespace
 
 void PlacerFiche(Frmmain &frm) {
-    frm.Scroll(0).SetScrollableHeight(kMarge);
+    frm.Scroll(0).SetScrollableHeight(kMargeFiche);
     Aligner(frm);
     using Couple = std::pair<Label *, Ribbon *>;
     const auto titre = [&frm](int index) { return &frm.Libelle(index); };
     const auto valeur = [&frm](int index) { return &frm.Data(index); };
 
     Twips bas = frm.CadrePhoto.Bottom();
-    bas = Rangee<Ribbon>(bas + kMarge, {Couple(titre(7), valeur(6)), Couple(titre(5), valeur(5))});
-    bas = Rangee<Ribbon>(bas + kMarge, {Couple(titre(1), valeur(0)), Couple(titre(2), valeur(1))});
-    bas = Rangee<Ribbon>(bas + kMarge, {Couple(titre(8), valeur(2)), Couple(titre(9), valeur(3)),
-                                        Couple(titre(10), valeur(4))});
-    bas = RangerLignes(frm, bas + kMarge);
+    bas = Rangee<Ribbon>(bas + kMargeFiche, {Couple(titre(7), valeur(6)), Couple(titre(5), valeur(5))});
+    bas = Rangee<Ribbon>(bas + kMargeFiche, {Couple(titre(1), valeur(0)), Couple(titre(2), valeur(1))});
+    bas = Rangee<Ribbon>(bas + kMargeFiche, {Couple(titre(8), valeur(2)), Couple(titre(9), valeur(3)),
+                                             Couple(titre(10), valeur(4))});
+    bas = RangerLignes(frm, bas + kMargeFiche);
     bas = std::max(bas, frm.CadrePhoto.Bottom());
-    bas = Rangee<RichTextBox>(bas + kMarge, {{titre(3), &frm.Saisie(0)}});
-    bas = Rangee<RichTextBox>(bas + kMarge, {{titre(4), &frm.Saisie(1)}});
-    frm.Scroll(0).SetScrollableHeight(bas + kMarge);
+    bas = Rangee<RichTextBox>(bas + kMargeFiche, {{titre(3), &frm.Saisie(0)}});
+    bas = Rangee<RichTextBox>(bas + kMargeFiche, {{titre(4), &frm.Saisie(1)}});
+    frm.Scroll(0).SetScrollableHeight(bas + kMargeFiche);
     OrdonnerTabulation(frm);
 }
 

@@ -44,14 +44,13 @@ constexpr std::array<Vue, kNombreDeVues> kVues{
     Vue{u"Ingredient", u"NIngredient", u" Liste des Ingrédients", u" Ingrédient(s) ..."},
     Vue{u"DureeReal", u"NDureeReal", u" Durée de Réalisation", u" Durée(s) de Réalisation ..."},
 };
-constexpr int kVueIngredients = 6;
 
-const Vue *vueNumero(int vue) {
+const Vue *VueNumero(int vue) {
     return vue >= 0 && vue < kNombreDeVues ? &kVues[static_cast<std::size_t>(vue)] : nullptr;
 }
 
 // In every lookup table the text column has the name of the table.
-QString champTexte(int vue, const QString &table) {
+QString ChampTexte(int vue, const QString &table) {
     return vue == 0 ? QStringLiteral("Recette") : table;
 }
 
@@ -84,7 +83,7 @@ void OuvrirPanneau(Frmmain &frm) {
 void AjouterVocabulaire(Frmmain &frm, int vue) {
     List::Loading lignes(frm.Liste);
     int code = 0;
-    for (const QStringView classe : vueNumero(vue)->vocabulaire) {
+    for (const QStringView classe : VueNumero(vue)->vocabulaire) {
         lignes.Add(store::CleDeListe(code), classe.toString(), vue + 1);
         ++code;
     }
@@ -98,11 +97,11 @@ qsizetype AjouterTable(Frmmain &frm, const Rubrique &rubrique, int vue) {
                                      QStringLiteral(" order by ") + rubrique.champ + QStringLiteral(" asc"));
     const qsizetype nombre = fiches.RecordCount();
     for (qsizetype lues = 1; lues <= nombre; ++lues, fiches.MoveNext()) {
-        const auto champTexte = fiches.Fields(1);
-        const QString texte = champTexte.Text();
+        const auto titre = fiches.Fields(1);
+        const QString texte = titre.Text();
         // Ingredients that an import left with markup stay in the table but are not offered.
         const bool montrer =
-            !champTexte.IsNull() && (vue != kVueIngredients || !texte.contains(QStringLiteral("</")));
+            !titre.IsNull() && (vue != kVueIngredients || !texte.contains(QStringLiteral("</")));
         if (montrer) {
             lignes.AddDistinct(store::CleDeListe(fiches.Fields(0).Number()), texte, vue + 1);
         }
@@ -191,10 +190,10 @@ void PresserBouton(Frmmain &frm, int vue) {
 void TrierListe(Frmmain &frm, int vue) {
     frm.LTCentre2.hide();
     frm.Scroll(0).hide();
-    if (const Vue *choisie = vueNumero(vue)) {
+    if (const Vue *choisie = VueNumero(vue)) {
         const QString table = choisie->table.toString();
         ChargerListe(frm,
-                     {table, champTexte(vue, table), choisie->entete.toString(), choisie->suffixe.toString()},
+                     {table, ChampTexte(vue, table), choisie->entete.toString(), choisie->suffixe.toString()},
                      vue);
         ListeHaute(frm);
         if (vue == 0) {
@@ -219,7 +218,7 @@ void ChargerListe(Frmmain &frm, const Rubrique &rubrique, int vue) {
     frm.LTGauche.SetCaption(rubrique.entete);
     frm.LTGauche.SetTag(rubrique.entete);
     frm.LBGauche.SetCaption({});
-    if (vueNumero(vue)->vocabulaire.empty()) {
+    if (VueNumero(vue)->vocabulaire.empty()) {
         const qsizetype nombre = AjouterTable(frm, rubrique, vue);
         frm.LBGauche.SetCaption(QString::number(nombre) + rubrique.suffixe);
     } else {
@@ -256,7 +255,7 @@ void ListeHaute(Frmmain &frm) {
 }
 
 void ClicListe(Frmmain &frm) {
-    const Vue *vue = vueNumero(VueCourante());
+    const Vue *vue = VueNumero(VueCourante());
     const bool modifiable = vue == nullptr || vue->vocabulaire.empty();
     frm.Liste.SetLabelEdit(modifiable ? List::LabelEditMode::Automatic : List::LabelEditMode::Manual);
     FlecheListe(frm);
@@ -278,7 +277,7 @@ void ClicFilms(Frmmain &frm) {
 }
 
 void RenommerListe(Frmmain &frm, int index, const QString &texte) {
-    const Vue *vue = vueNumero(VueCourante());
+    const Vue *vue = VueNumero(VueCourante());
     if (vue != nullptr && !vue->table.isEmpty()) {
         Renommer(frm.Liste, index, texte, vue->table.toString(), vue->cle.toString());
     }

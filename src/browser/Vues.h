@@ -9,6 +9,9 @@ class Frmmain;
 /// Number of sort views.
 inline constexpr int kNombreDeVues = 8;
 
+/// The view of the ingredients, whose recipes are found through the lines.
+inline constexpr int kVueIngredients = 6;
+
 /// What Outils(2).Tag holds: which list names the current recipe.
 inline const QString kHaut = QStringLiteral("H");
 inline const QString kBas = QStringLiteral("B");

@@ -13,7 +13,7 @@ namespace {
 
 constexpr Twips kMarge{400};
 
-double quotient(Twips a, Twips b) {
+double Quotient(Twips a, Twips b) {
     return static_cast<double>(a.value()) / static_cast<double>(b.value());
 }
 
@@ -24,13 +24,13 @@ Rectangle PlaceDansCadre(Extent cadre, Extent naturelle) {
         throw std::domain_error("Division par zéro");
     }
     Rectangle place;
-    if (quotient(cadre.height, cadre.width) < quotient(naturelle.height, naturelle.width)) {
+    if (Quotient(cadre.height, cadre.width) < Quotient(naturelle.height, naturelle.width)) {
         place.height = cadre.height - kMarge;
         // From the full height: the picture comes out a little wider than its proportions.
-        place.width = quotient(naturelle.width, naturelle.height) * cadre.height;
+        place.width = Quotient(naturelle.width, naturelle.height) * cadre.height;
     } else {
         place.width = cadre.width - kMarge;
-        place.height = quotient(naturelle.height, naturelle.width) * place.width;
+        place.height = Quotient(naturelle.height, naturelle.width) * place.width;
     }
     place.left = IntegerHalf(cadre.width - place.width);
     place.top = IntegerHalf(cadre.height - place.height);

@@ -10,7 +10,11 @@ namespace pictures {
 
 namespace {
 
-QString cheminNomme(const QString &nom) {
+QString CheminNomme(const QString &nom) {
+    // ":" begins the name of a resource of the program, which is no file of the cook's.
+    if (nom.startsWith(QLatin1Char(':'))) {
+        return {};
+    }
     // Nothing is ever found from the working directory, so a relative path is no path.
     if (nom.contains(QLatin1Char('\\')) || QDir::isAbsolutePath(nom)) {
         return QDir::isAbsolutePath(nom) ? nom : QString();
@@ -28,7 +32,7 @@ QString CheminPhoto(const QString &valeur) {
     if (nom.isEmpty()) {
         return {};
     }
-    const QString chemin = cheminNomme(nom);
+    const QString chemin = CheminNomme(nom);
     return QFileInfo(chemin).isFile() ? chemin : QString();
 }
 

@@ -11,12 +11,16 @@
 #include "platform/settings/Settings.h"
 #include "store/Livre.h"
 #include "store/Programme.h"
+#include "store/Textes.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QIcon>
 #include <QScreen>
+#include <algorithm>
 #include <cstdlib>
+#include <stdexcept>
 
 namespace shell {
 
@@ -28,51 +32,77 @@ namespace settings = platform::settings;
 
 const QString kReglages = QStringLiteral("Settings");
 
-QString titre() {
+QString Titre() {
     return store::TitreProgramme.toString();
 }
 
-QString lire(const QString &section, const QString &cle, const QString &defaut) {
-    return settings::GetSetting(titre(), section, cle, defaut);
+QString Lire(const QString &section, const QString &cle, const QString &defaut) {
+    return settings::GetSetting(Titre(), section, cle, defaut);
 }
 
-[[noreturn]] void refuser(const QString &raison) {
-    dialogs::Message(nullptr, titre(), raison, dialogs::Icon::Critical);
+[[noreturn]] void Refuser(const QString &raison) {
+    dialogs::Message(nullptr, Titre(), raison, dialogs::Icon::Critical);
     throw FinDuProgramme{EXIT_FAILURE};
 }
 
 /// The screen in twips, at 15 to the pixel whatever the scale of the windows.
-Extent ecran() {
+Extent Ecran() {
     const QSize taille = QGuiApplication::primaryScreen()->size();
     return {Twips(taille.width() * kTwipsPerPixel), Twips(taille.height() * kTwipsPerPixel)};
 }
 
 void VerifierEcran() {
     constexpr Twips kLargeurMinimum{12000};
-    if (ecran().width < kLargeurMinimum) {
-        refuser(
+    if (Ecran().width < kLargeurMinimum) {
+        Refuser(
             QStringLiteral("La configuration minimum de 800*600 est nécessaire pour le fonctionnement de ") +
-            titre() + QStringLiteral(" !"));
+            Titre() + QStringLiteral(" !"));
     }
 }
 
 void VerifierInstance(const platform::desktop::SingleInstance &instance) {
     if (instance.IsRunningElsewhere()) {
-        refuser(QStringLiteral("  ") + titre() +
+        Refuser(QStringLiteral("  ") + Titre() +
                 QStringLiteral(
                     " est en cours d'utilsation sur votre machine\r\rPour pouvoir l'utiliser de nouveau, "
                     "veuillez fermer la version ouverte !"));
     }
 }
 
+/// True where the left half of a window's title band, by which it can be moved, lies in the available area of a screen.
+bool EstVisible(const QRect &fenetre) {
+    const QList<QScreen *> ecrans = QGuiApplication::screens();
+    const QRect prise(fenetre.topLeft(), QSize(fenetre.width() / 2, SkinnedWindow::kBand.pixels()));
+    return std::any_of(ecrans.begin(), ecrans.end(),
+                       [&prise](const QScreen *ecran) { return ecran->availableGeometry().contains(prise); });
+}
+
 void Placer(browser::Frmmain &frm) {
-    const Twips hauteur(frm.height() * kTwipsPerPixel);
-    const Twips largeur(frm.width() * kTwipsPerPixel);
-    const QString haut = settings::ToText(IntegerHalf(ecran().height - hauteur).value());
-    const QString gauche = settings::ToText(IntegerHalf(ecran().width - largeur).value());
-    const Twips top(settings::ToSingle(lire(kReglages, QStringLiteral("MainTop"), haut)));
-    const Twips left(settings::ToSingle(lire(kReglages, QStringLiteral("MainLeft"), gauche)));
-    frm.Move(left, top);
+    const Twips hautCentre = IntegerHalf(Ecran().height - Twips(frm.height() * kTwipsPerPixel));
+    const Twips gaucheCentre = IntegerHalf(Ecran().width - Twips(frm.width() * kTwipsPerPixel));
+    const Twips haut(
+        settings::ToSingle(Lire(kReglages, QStringLiteral("MainTop"), settings::ToText(hautCentre.value()))));
+    const Twips gauche(settings::ToSingle(
+        Lire(kReglages, QStringLiteral("MainLeft"), settings::ToText(gaucheCentre.value()))));
+    frm.Move(gauche, haut);
+    // The screen that the place was stored for may be gone.
+    if (!EstVisible(frm.geometry())) {
+        frm.Move(gaucheCentre, hautCentre);
+    }
+}
+
+// A background picture has no place in the window any more; a picture that cannot be read must not stop the start.
+void LireFondEcran() {
+    const QString fichier = Lire(kReglages, QStringLiteral("FondScreen"), {});
+    const QString dossier = Lire(kReglages, QStringLiteral("RepFondScreen"),
+                                 store::DossierProgramme() + QStringLiteral("/Fond Ecran/"));
+    if (fichier.isEmpty() || store::SansBlancs(fichier).endsWith(QDir::separator())) {
+        return;
+    }
+    try {
+        LoadPicture(dossier + fichier);
+    } catch (const PictureError &) {
+    }
 }
 
 // Storing that no view is loaded is what makes the press take effect: a sort button ignores a press of the
@@ -88,8 +118,8 @@ void ChargerPremiereListe(browser::Frmmain &frm) {
 void Fermer(browser::Frmmain &frm) {
     Quitter(frm);
     frm.Btn_Quit.Release();
-    settings::SaveSetting(titre(), kReglages, QStringLiteral("MainTop"), settings::ToText(frm.Top().value()));
-    settings::SaveSetting(titre(), kReglages, QStringLiteral("MainLeft"),
+    settings::SaveSetting(Titre(), kReglages, QStringLiteral("MainTop"), settings::ToText(frm.Top().value()));
+    settings::SaveSetting(Titre(), kReglages, QStringLiteral("MainLeft"),
                           settings::ToText(frm.Left().value()));
 }
 
@@ -113,7 +143,7 @@ void Brancher(browser::Frmmain &frm) {
 
 void PreparerApplication() {
     store::PreparerLivre();
-    QApplication::setApplicationName(titre());
+    QApplication::setApplicationName(Titre());
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication::setWindowIcon(resourcePicture(QStringLiteral(":/icones/savorel.png")));
@@ -123,9 +153,9 @@ void PreparerApplication() {
 }
 
 void ChargerFrmmain(browser::Frmmain &frm, const platform::desktop::SingleInstance &instance) {
-    frm.setWindowTitle(titre());
+    frm.setWindowTitle(Titre());
     frm.SetMode(
-        settings::ToInteger(lire(QStringLiteral("Patch"), QStringLiteral("Mode"), QStringLiteral("0"))));
+        settings::ToInteger(Lire(QStringLiteral("Patch"), QStringLiteral("Mode"), QStringLiteral("0"))));
     for (auto *groupe : {&frm.Outils, &frm.Bouton}) {
         groupe->ForEach([](Ribbon &bouton) { bouton.SetPressedPicture(bouton.Picture()); });
     }
@@ -133,6 +163,7 @@ void ChargerFrmmain(browser::Frmmain &frm, const platform::desktop::SingleInstan
     VerifierInstance(instance);
     frm.PreparerListes();
     frm.SetCouleurSelection(Qt::blue);
+    LireFondEcran();
     Placer(frm);
     for (DropList *liste : {&frm.LCategorie, &frm.LMateriel, &frm.LVerre, &frm.LCout, &frm.LDiff}) {
         liste->setCursor(frm.CurseurMain());
@@ -148,13 +179,13 @@ void ChargerFrmmain(browser::Frmmain &frm, const platform::desktop::SingleInstan
 }
 
 void Quitter(browser::Frmmain &frm) {
-    if (!dialogs::Ask(&frm, titre(),
-                      QStringLiteral("Voulez vous quitter ") + titre() + QStringLiteral(" ?"))) {
+    if (!dialogs::Ask(&frm, Titre(),
+                      QStringLiteral("Voulez vous quitter ") + Titre() + QStringLiteral(" ?"))) {
         return;
     }
-    const QString brouillon = store::DossierProgramme() + QStringLiteral("/temp.bmp");
-    if (QFile::exists(brouillon)) {
-        QFile::remove(brouillon);
+    QFile brouillon(store::DossierProgramme() + QStringLiteral("/temp.bmp"));
+    if (brouillon.exists() && !brouillon.remove()) {
+        throw std::runtime_error(brouillon.errorString().toStdString());
     }
     throw FinDuProgramme{};
 }

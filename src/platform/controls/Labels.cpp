@@ -20,11 +20,7 @@ void TextLabel::SetForeColor(const QColor &colour) {
 void TextLabel::paintEvent(QPaintEvent * /*event*/) {
     QPainter painter(this);
     painter.setPen(palette().color(foregroundRole()));
-    painter.drawText(rect(), static_cast<int>(alignment()) | Qt::TextSingleLine, text());
-}
-
-void TextLabel::mouseDoubleClickEvent(QMouseEvent * /*event*/) {
-    Q_EMIT DoubleClicked();
+    painter.drawText(rect(), static_cast<int>(alignment()) | Qt::TextSingleLine, text().left(width()));
 }
 
 CaptionPanel::CaptionPanel(QWidget *parent) : QWidget(parent) {}
@@ -71,6 +67,11 @@ void CaptionPanel::paintEvent(QPaintEvent * /*event*/) {
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, foregroundRole()));
     painter.setOpacity(isEnabled() ? 1.0 : 0.45);
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, m_caption);
+}
+
+void CaptionPanel::mousePressEvent(QMouseEvent *event) {
+    // Taken here: passed on, it would begin to move the window.
+    event->setAccepted(isEnabled());
 }
 
 void CaptionPanel::mouseReleaseEvent(QMouseEvent *event) {

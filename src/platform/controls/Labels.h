@@ -19,12 +19,8 @@ public:
 
     void SetForeColor(const QColor &colour);
 
-Q_SIGNALS:
-    void DoubleClicked();
-
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void mouseDoubleClickEvent(QMouseEvent *event) override;
 };
 
 /// A block with a caption in its middle that can be pressed and can fill up as a progress bar.
@@ -50,8 +46,6 @@ public:
     /// percentage changes.
     void SetFloodPercent(double percent);
 
-    int FloodPercent() const { return m_flood; }
-
 Q_SIGNALS:
     void Clicked();
     void RightClicked();
@@ -60,6 +54,7 @@ Q_SIGNALS:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void enterEvent(QEnterEvent *event) override;
     void leaveEvent(QEvent *event) override;

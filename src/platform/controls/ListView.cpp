@@ -29,6 +29,8 @@ protected:
     // The row that the keyboard stands on keeps the writing and the picture of its own.
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override {
         QStyledItemDelegate::initStyleOption(option, index);
+        // Cut at the edge. No letter is narrower than a pixel, and a text of millions must not be shaped whole.
+        option->text = option->text.left(m_width);
         option->palette.setColor(QPalette::HighlightedText, option->palette.color(QPalette::Text));
     }
 
@@ -47,7 +49,7 @@ ListBox::ListBox(QWidget *parent) : QListView(parent), m_model(this) {
     setModel(&m_model);
     setItemDelegate(new RowDelegate(this));
     setUniformItemSizes(true);
-    setFrameShape(QFrame::NoFrame);
+    setTextElideMode(Qt::ElideNone);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     setIconSize({kPictureSide.pixels(), kPictureSide.pixels()});
@@ -55,7 +57,6 @@ ListBox::ListBox(QWidget *parent) : QListView(parent), m_model(this) {
     SetLabelEdit(LabelEditMode::Manual);
     connect(&m_model, &ListModel::labelEdited, this,
             [this](int row, const QString &text) { Q_EMIT AfterLabelEdit(row + 1, text); });
-    connect(this, &QListView::doubleClicked, this, &ListBox::RowActivated);
 }
 
 void ListBox::SetColumn(const QString &heading, Twips width) {
@@ -84,6 +85,7 @@ void ListBox::SetBackColor(const QColor &colour) {
     colours.setColor(QPalette::Highlight, colour.lighter(118));
     setPalette(colours);
     colourScrollBar(*this, colour);
+    paintFocusFrame(*this, hasFocus());
 }
 
 int ListBox::SelectedIndex() const {
@@ -137,16 +139,23 @@ void ListBox::mouseReleaseEvent(QMouseEvent *event) {
     QListView::mouseReleaseEvent(event);
     // Dragged over the rows, the pointer selects as it goes and may be let go below the last one.
     const bool onRow = indexAt(event->position().toPoint()).isValid();
+    const bool reached = SelectedIndex() != 0 && SelectedIndex() != m_indexAtPress;
     if (event->button() == Qt::RightButton) {
         Q_EMIT RightClicked(event->globalPosition().toPoint());
-    } else if (event->button() == Qt::LeftButton && (onRow || SelectedIndex() != m_indexAtPress)) {
+    } else if (event->button() == Qt::LeftButton && (onRow || reached)) {
         Q_EMIT ItemClicked();
     }
 }
 
 void ListBox::focusInEvent(QFocusEvent *event) {
     QListView::focusInEvent(event);
+    paintFocusFrame(*this, true);
     Q_EMIT Focused();
+}
+
+void ListBox::focusOutEvent(QFocusEvent *event) {
+    QListView::focusOutEvent(event);
+    paintFocusFrame(*this, false);
 }
 
 int ListBox::checked(int index) const {

@@ -89,7 +89,6 @@ Q_SIGNALS:
     void AfterLabelEdit(int index, const QString &text);
     void Focused();
     void RightClicked(const QPoint &globalPosition);
-    void RowActivated();
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
@@ -97,6 +96,7 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
 
 private:
     int checked(int index) const;

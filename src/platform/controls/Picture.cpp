@@ -3,7 +3,6 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QImageReader>
-#include <QMouseEvent>
 #include <QPainter>
 
 namespace platform::controls {
@@ -66,17 +65,6 @@ void PictureBox::paintEvent(QPaintEvent * /*event*/) {
         m_scaled.setDevicePixelRatio(devicePixelRatio());
     }
     QPainter(this).drawPixmap(0, 0, m_scaled);
-}
-
-void PictureBox::mouseReleaseEvent(QMouseEvent *event) {
-    if (!rect().contains(event->position().toPoint())) {
-        return;
-    }
-    if (event->button() == Qt::LeftButton) {
-        Q_EMIT Clicked();
-    } else if (event->button() == Qt::RightButton) {
-        Q_EMIT RightClicked();
-    }
 }
 
 } // namespace platform::controls

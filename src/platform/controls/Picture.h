@@ -38,13 +38,8 @@ public:
     /// Width and height of the unstretched picture, in twips.
     Extent NaturalSize() const;
 
-Q_SIGNALS:
-    void Clicked();
-    void RightClicked();
-
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
     QImage m_picture;

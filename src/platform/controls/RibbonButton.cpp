@@ -31,6 +31,18 @@ void RibbonButton::SetCaption(const QString &caption) {
     if (caption != text()) {
         setText(caption);
         setShortcut({});
+        speak();
+    }
+}
+
+/// A screen reader says what the value is of, then the value; a dotted line says nothing.
+void RibbonButton::speak() {
+    if (m_title.isEmpty()) {
+        m_title = accessibleName();
+    }
+    const bool isDotted = text().count(QLatin1Char('.')) == text().size();
+    if (!m_title.isEmpty()) {
+        setAccessibleName(isDotted ? m_title : QStringLiteral("%1 : %2").arg(m_title, text()));
     }
 }
 

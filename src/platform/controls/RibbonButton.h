@@ -67,12 +67,14 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    void speak();
     void paintGround(QPainter &painter) const;
     void paintPicture(QPainter &painter) const;
     void paintCaption(QPainter &painter) const;
     QRectF pictureArea() const;
 
     Look m_look = Look::Picture;
+    QString m_title; // what the button's value is of
     QPixmap m_picture, m_pressed, m_resting, m_hover;
 };
 

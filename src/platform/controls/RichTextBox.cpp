@@ -19,7 +19,6 @@ const QColor kDarkSelection(77, 108, 166);
 } // namespace
 
 RichTextEdit::RichTextEdit(QWidget *parent) : QTextEdit(parent) {
-    setFrameShape(QFrame::NoFrame);
     setFont(interfaceFont(Face::Verdana, 9));
     setTabChangesFocus(true);
     document()->setDocumentMargin(kMargin.pixels());
@@ -35,6 +34,17 @@ void RichTextEdit::SetDefaultColor(const QColor &colour) {
     colours.setColor(QPalette::Highlight, kDarkSelection);
     colours.setColor(QPalette::HighlightedText, Qt::white);
     setPalette(colours);
+    paintFocusFrame(*this, hasFocus());
+}
+
+void RichTextEdit::focusInEvent(QFocusEvent *event) {
+    QTextEdit::focusInEvent(event);
+    paintFocusFrame(*this, true);
+}
+
+void RichTextEdit::focusOutEvent(QFocusEvent *event) {
+    QTextEdit::focusOutEvent(event);
+    paintFocusFrame(*this, false);
 }
 
 QString RichTextEdit::TextRTF() const {

@@ -44,6 +44,8 @@ Q_SIGNALS:
     void Clicked();
 
 protected:
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
 };
 

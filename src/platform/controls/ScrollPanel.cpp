@@ -3,7 +3,6 @@
 #include "Skin.h"
 
 #include <QMouseEvent>
-#include <QScrollBar>
 
 namespace platform::controls {
 
@@ -27,10 +26,6 @@ void ScrollArea::SetBackColor(const QColor &colour) {
     setPalette(colours);
     m_content->setAutoFillBackground(true);
     colourScrollBar(*this, colour);
-}
-
-void ScrollArea::ScrollToTop() {
-    verticalScrollBar()->setValue(0);
 }
 
 void ScrollArea::resizeEvent(QResizeEvent *event) {

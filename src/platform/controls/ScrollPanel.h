@@ -22,11 +22,9 @@ public:
     Twips ScrollableHeight() const { return m_height; }
 
     void SetBackColor(const QColor &colour);
-    /// Scrolls back to the top.
-    void ScrollToTop();
 
 Q_SIGNALS:
-    /// The user clicked a part of the content where no control is.
+    /// The user pressed the content, or a control of it that takes no presses.
     void Clicked();
 
 protected:

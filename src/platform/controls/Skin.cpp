@@ -1,5 +1,7 @@
 #include "Skin.h"
 
+#include "SkinnedWindow.h"
+
 #include <QAbstractScrollArea>
 #include <QLinearGradient>
 #include <QPainter>
@@ -64,6 +66,15 @@ void paintBlock(QPainter &painter, const QRectF &block, double radius, const QCo
     painter.setPen(edge.isValid() ? QPen(edge, 1) : QPen(Qt::NoPen));
     const double inset = edge.isValid() ? 0.5 : 0;
     painter.drawRoundedRect(block.adjusted(inset, inset, -inset, -inset), radius, radius);
+}
+
+void paintFocusFrame(QAbstractScrollArea &area, bool focused) {
+    area.setFrameStyle(static_cast<int>(QFrame::Box) | static_cast<int>(QFrame::Plain));
+    area.setLineWidth(2);
+    QPalette colours = area.palette();
+    colours.setColor(QPalette::WindowText,
+                     focused ? skinAround(area).accent : colours.color(QPalette::Active, QPalette::Base));
+    area.setPalette(colours);
 }
 
 void colourScrollBar(QAbstractScrollArea &area, const QColor &ground) {

@@ -31,6 +31,10 @@ inline constexpr QRgb kListGround = qRgb(148, 173, 214);
 void paintBlock(QPainter &painter, const QRectF &block, double radius, const QColor &top,
                 const QColor &bottom, const QColor &edge);
 
+/// A frame of two pixels around an area, in the colour of its ground; while the area has the focus, in the accent of
+/// its window's skin.
+void paintFocusFrame(QAbstractScrollArea &area, bool focused);
+
 /// Gives the scroll bar of an area the colours of its ground.
 void colourScrollBar(QAbstractScrollArea &area, const QColor &ground);
 

@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWindow>
+#include <algorithm>
 
 namespace platform::controls {
 
@@ -43,7 +44,11 @@ Twips SkinnedWindow::Top() const {
 
 void SkinnedWindow::Move(Twips left, Twips top) {
     // Places on the screen are in plain pixels, also where the windows themselves are shrunk to fit.
-    move(qRound(left.value() / kTwipsPerPixel), qRound(top.value() / kTwipsPerPixel));
+    static constexpr float kFarthest = 1e6F; // twips; beyond any screen, and within what a window system can take
+    const auto pixels = [](Twips place) {
+        return qRound(std::clamp(place.value(), -kFarthest, kFarthest) / kTwipsPerPixel);
+    };
+    move(pixels(left), pixels(top));
 }
 
 void SkinnedWindow::paintEvent(QPaintEvent * /*event*/) {
@@ -74,10 +79,9 @@ void SkinnedWindow::mousePressEvent(QMouseEvent *event) {
 }
 
 void SkinnedWindow::closeEvent(QCloseEvent *event) {
-    if (event->spontaneous()) {
-        event->ignore();
-        Q_EMIT CloseRequested();
-    }
+    // What closing means is for the program to say.
+    event->ignore();
+    Q_EMIT CloseRequested();
 }
 
 void SkinnedWindow::resizeEvent(QResizeEvent *event) {

@@ -37,7 +37,7 @@ public:
     static constexpr Twips kBand{600};
 
 Q_SIGNALS:
-    /// The user asked to close the window by the platform's own means (window menu, key combination).
+    /// The window was asked to close, by the window menu, a key combination or code; it stays open.
     void CloseRequested();
 
 protected:

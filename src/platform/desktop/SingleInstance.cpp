@@ -16,7 +16,7 @@ QString lockFolder() {
 
 QString lockName(const QString &application) {
     return lockFolder() + QLatin1Char('/') + application.toLower() + QLatin1Char('-') +
-           qEnvironmentVariable("USER") + QStringLiteral(".lock");
+           QString::number(QFileInfo(QDir::homePath()).ownerId()) + QStringLiteral(".lock");
 }
 
 } // namespace

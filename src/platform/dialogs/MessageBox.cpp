@@ -1,5 +1,6 @@
 #include "MessageBox.h"
 
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -21,6 +22,23 @@ QMessageBox::Icon toolkitIcon(Icon icon) {
     return QMessageBox::NoIcon;
 }
 
+/// Keeps the repeats of a key that was held down when a box came from answering it unseen.
+class FirstPressOnly : public QObject {
+public:
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override {
+        return event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->isAutoRepeat();
+    }
+};
+
+int show(QMessageBox &box) {
+    FirstPressOnly filter;
+    box.installEventFilter(&filter);
+    for (QAbstractButton *button : box.buttons()) {
+        button->installEventFilter(&filter);
+    }
+    return box.exec();
+}
+
 void prepare(QMessageBox &box, const QString &title, const QString &text, Icon icon) {
     box.setObjectName(QStringLiteral("Message"));
     box.setWindowTitle(title);
@@ -37,7 +55,7 @@ void Message(QWidget *parent, const QString &title, const QString &text, Icon ic
     QMessageBox box(parent);
     prepare(box, title, text, icon);
     box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
-    box.exec();
+    show(box);
 }
 
 bool Ask(QWidget *parent, const QString &title, const QString &question) {
@@ -47,7 +65,7 @@ bool Ask(QWidget *parent, const QString &title, const QString &question) {
     QPushButton *no = box.addButton(QStringLiteral("&Non"), QMessageBox::NoRole);
     box.setDefaultButton(yes);
     box.setEscapeButton(no);
-    box.exec();
+    show(box);
     return box.clickedButton() == yes;
 }
 
