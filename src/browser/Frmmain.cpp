@@ -244,7 +244,7 @@ void Frmmain::PeindreOutils() {
     for (int vue = 0; vue < Bouton.Count(); ++vue) {
         Ribbon &bouton = Bouton(vue);
         bouton.SetLook(Look::Sort);
-        bouton.setFont(interfaceFont(Face::Comic, 9.5, true));
+        bouton.setFont(interfaceFont(Face::Comic, 9, true));
         bouton.SetForeColor(Qt::white);
         bouton.SetPicture(m_img[static_cast<std::size_t>(vue)]);
     }
