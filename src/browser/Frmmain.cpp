@@ -19,8 +19,8 @@ constexpr std::u16string_view kChangerImage = u"Cliquer ICI pour modifier l'imag
 // Places in twips; those of the detail (from CadrePhoto on) are inside Scroll(0), and PlacerFiche stacks
 // them.
 constexpr std::array kControles{
-    ControlRow{"Embleme", 150, 60, 480, 480},
-    ControlRow{"Enseigne", 6180, 15, 3000, 540},
+    ControlRow{"Embleme", 150, 60, 480, 480, u"", u"", u"Emblème de Savorel"},
+    ControlRow{"Enseigne", 6180, 15, 3000, 540, u"", u"", u"Enseigne"},
     ControlRow{"Btn_Min", 14190, 120, 360, 360, u"", u"Minimiser"},
     ControlRow{"Btn_Quit", 14760, 120, 360, 360, u"", u"Fermer"},
 
@@ -63,13 +63,13 @@ constexpr std::array kControles{
     ControlRow{"LFilms", 2100, 6405, 4950, 4000, u"", u"", u"Recettes du groupe"},
     ControlRow{"LBGauche", 2160, 10435, 4890, 300},
 
-    ControlRow{"Icone_DEco", 7230, 1755, 420, 420},
+    ControlRow{"Icone_DEco", 7230, 1755, 420, 420, u"", u"", u"Vue choisie"},
     ControlRow{"LTDroit", 7740, 1755, 7470, 420},
-    ControlRow{"Scroll(0)", 7200, 2250, 8010, 8485},
-    ControlRow{"Scroll(1)", 7200, 2250, 8010, 8485},
-    ControlRow{"Cadre(1)", 105, 60, 7770, 8368},
+    ControlRow{"Scroll(0)", 7200, 2250, 8010, 8485, u"", u"", u"Recette"},
+    ControlRow{"Scroll(1)", 7200, 2250, 8010, 8485, u"", u"", u"Thème"},
+    ControlRow{"Cadre(1)", 105, 60, 7770, 8368, u"", u"", u"Illustration du thème"},
 
-    ControlRow{"CadrePhoto", 150, 150, 7460, 4476, u"Pas de photo"},
+    ControlRow{"CadrePhoto", 150, 150, 7460, 4476, u"Pas de photo", u"", u"Photo de la recette"},
     ControlRow{"Photo", 200, 200, 6960, 4016, u"", kChangerImage},
     ControlRow{"ImageTemp", 0, 0, 15, 15},
     ControlRow{"Libelle(0)", 150, 0, 3600, 270, u"Ingrédients"},

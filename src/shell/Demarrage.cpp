@@ -154,6 +154,7 @@ void PreparerApplication() {
 
 void ChargerFrmmain(browser::Frmmain &frm, const platform::desktop::SingleInstance &instance) {
     frm.setWindowTitle(Titre());
+    frm.setAccessibleName(Titre());
     frm.SetMode(
         settings::ToInteger(Lire(QStringLiteral("Patch"), QStringLiteral("Mode"), QStringLiteral("0"))));
     for (auto *groupe : {&frm.Outils, &frm.Bouton}) {

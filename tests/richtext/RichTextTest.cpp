@@ -322,7 +322,7 @@ void RichTextTest::readsEveryBeginningOfAText() {
 }
 
 void RichTextTest::readsRandomText() {
-    const QString pieces[] = {
+    const QStringList pieces{
         QStringLiteral("{"),       QStringLiteral("}"),         QStringLiteral("\\"),
         QStringLiteral("\\b"),     QStringLiteral("\\par "),    QStringLiteral("\\'"),
         QStringLiteral("e9"),      QStringLiteral("\\u"),       QStringLiteral("-70000 "),
@@ -336,7 +336,7 @@ void RichTextTest::readsRandomText() {
         QString source = rtf("");
         for (int i = 0; i < 60; ++i) {
             source += random.bounded(4) == 0 ? QString(QChar(char16_t(random.bounded(0x10000))))
-                                             : pieces[random.bounded(int(std::size(pieces)))];
+                                             : pieces[random.bounded(int(pieces.size()))];
         }
         QTextDocument document;
         load(document, source);

@@ -12,6 +12,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTextDocument>
 #include <QVariant>
@@ -99,6 +100,9 @@ RecipeRow recipeRow(const RecipeText &recipe, Vocabularies &vocabularies, const 
     row.picture = pictures + u'/' + recipe.drawing.text + u".jpg";
     if (!QFileInfo::exists(row.picture))
         throw SourceError(recipe.drawing, u"no picture %1"_s.arg(row.picture));
+    // The picture is a file of that name, which a list of the build must be able to hold.
+    if (recipe.title.text.contains(QRegularExpression(u"[/;\\[\\]\\\\]"_s)))
+        throw SourceError(recipe.title, u"a title without / \\ ; [ ] is expected"_s);
     row.photo = recipe.title.text + u".jpg";
     row.columns = {
         storedTitle(recipe.title.text),
