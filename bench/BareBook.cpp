@@ -34,8 +34,9 @@ int compareFrench(void * /*unused*/, int leftSize, const void *left, int rightSi
 }
 
 void check(sqlite3 *connection, int result) {
-    if (result != SQLITE_OK && result != SQLITE_ROW && result != SQLITE_DONE)
+    if (result != SQLITE_OK && result != SQLITE_ROW && result != SQLITE_DONE) {
         throw std::runtime_error(sqlite3_errmsg(connection));
+    }
 }
 
 } // namespace
@@ -50,8 +51,9 @@ void FinalizeStatement::operator()(sqlite3_stmt *statement) const {
 
 BareBook::BareBook(const QString &path) : m_path(path.toUtf8()) {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
         throw std::runtime_error(file.errorString().toStdString());
+    }
     m_rawKey = rawKey(file.read(kSaltSize));
 }
 

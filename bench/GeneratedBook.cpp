@@ -98,8 +98,9 @@ void insertLines(sqlite3 *book, int recipes, int ingredients) {
 
 void fill(sqlite3 *connection, const GeneratedBook &book) {
     execute(connection, "PRAGMA synchronous = OFF; PRAGMA cache_size = -262144; BEGIN");
-    for (const Lookup &lookup : kLookups)
+    for (const Lookup &lookup : kLookups) {
         insertLookup(connection, lookup.table, lookup.rows);
+    }
     insertLookup(connection, "Ingredient", book.ingredients);
     insertRecipes(connection, book.recipes);
     insertLines(connection, book.recipes, book.ingredients);
@@ -115,8 +116,9 @@ void writeTitles(sqlite3 *connection, const QString &path) {
         file.write(reinterpret_cast<const char *>(sqlite3_column_text(titles.get(), 0)));
         file.write("\n");
     }
-    if (!file.commit())
+    if (!file.commit()) {
         throw std::runtime_error(file.errorString().toStdString());
+    }
 }
 
 bool isCurrent(const QString &file) {
@@ -146,8 +148,9 @@ int GeneratedBook::recipeOfTwelveLines(int index) const {
 GeneratedBook generateBook(const QString &below, int recipes, int ingredients) {
     GeneratedBook book{below + u'/' + QString::number(recipes), recipes, ingredients};
     // The list of titles is written last: where it is, the book is complete.
-    if (isCurrent(book.titles()))
+    if (isCurrent(book.titles())) {
         return book;
+    }
     std::fprintf(stderr, "Making a book of %d recipes ...\n", recipes);
     QDir(book.folder).removeRecursively();
     QDir().mkpath(book.folder + QStringLiteral("/translations"));

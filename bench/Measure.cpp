@@ -31,8 +31,9 @@ Times alternate(const Action &ours, const Action &bare, int turns, const Action 
         double bareTime = oursFirst ? 0 : milliseconds(bare);
         before();
         const double oursTime = milliseconds(ours);
-        if (oursFirst)
+        if (oursFirst) {
             bareTime = milliseconds(bare);
+        }
         if (turn >= 0) {
             oursTimes.push_back(oursTime);
             bareTimes.push_back(bareTime);

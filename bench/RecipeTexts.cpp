@@ -51,12 +51,13 @@ constexpr std::size_t kStride = 7919;
 QByteArray escaped(QStringView text) {
     QByteArray rtf;
     for (const QChar c : text) {
-        if (c == u'œ')
+        if (c == u'œ') {
             rtf += "\\'9c"; // of code page 1252
-        else if (c.unicode() < 0x80)
+        } else if (c.unicode() < 0x80) {
             rtf += c.toLatin1();
-        else
+        } else {
             rtf += "\\'" + QByteArray::number(c.unicode(), 16);
+        }
     }
     return rtf;
 }

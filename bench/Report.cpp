@@ -34,8 +34,9 @@ QString goalText(const Result &result) {
 
 void printLine(const QString &scenario, const QString &book, const QStringList &columns) {
     QString line = scenario.leftJustified(44) + book.leftJustified(20);
-    for (const QString &column : columns)
+    for (const QString &column : columns) {
         line += column.rightJustified(10);
+    }
     std::puts(qUtf8Printable(line));
     std::fflush(stdout);
 }
@@ -83,11 +84,13 @@ bool Report::allReached() const {
 
 void Report::writeJson(const QString &path) const {
     QJsonArray rows;
-    for (const Result &result : m_results)
+    for (const Result &result : m_results) {
         rows.append(toJson(result));
+    }
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(QJsonDocument(rows).toJson()) < 0)
+    if (!file.open(QIODevice::WriteOnly) || file.write(QJsonDocument(rows).toJson()) < 0) {
         throw std::runtime_error(file.errorString().toStdString());
+    }
 }
 
 } // namespace bench

@@ -31,14 +31,16 @@ namespace {
 class EndAfterPaint : public QObject {
 public:
     bool eventFilter(QObject * /*watched*/, QEvent *event) override {
-        if (event->type() == QEvent::Paint)
+        if (event->type() == QEvent::Paint) {
             QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+        }
         return false;
     }
 
     bool event(QEvent *event) override {
-        if (event->type() == QEvent::User)
+        if (event->type() == QEvent::User) {
             finish();
+        }
         return QObject::event(event);
     }
 };
@@ -54,8 +56,9 @@ int startOurs(int argc, char **argv, const QString &folder) {
     frmmain.Liste.viewport()->installEventFilter(&end);
     shell::ChargerFrmmain(frmmain, instance);
     // A start that was broken off leaves no view in the settings, and so no list.
-    if (frmmain.Liste.Count() == 0)
+    if (frmmain.Liste.Count() == 0) {
         return EXIT_FAILURE;
+    }
     return QApplication::exec();
 }
 

@@ -24,8 +24,9 @@ double startOnce(const GeneratedBook &book, const char *which, const QProcessEnv
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process.start(QCoreApplication::applicationFilePath(),
                   {QLatin1String(kStartCommand), QLatin1String(which), book.folder});
-    if (!process.waitForFinished() || process.exitCode() != 0)
+    if (!process.waitForFinished() || process.exitCode() != 0) {
         throw std::runtime_error("the start of the program failed");
+    }
     return process.readAllStandardOutput().trimmed().toDouble() / 1024;
 }
 
@@ -73,8 +74,9 @@ private:
 void measureStart(const GeneratedBook &book, Report &report) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     measureOn(QStringLiteral("offscreen"), environment, book, report);
-    if (QStandardPaths::findExecutable(QStringLiteral("Xvfb")).isEmpty())
+    if (QStandardPaths::findExecutable(QStringLiteral("Xvfb")).isEmpty()) {
         return;
+    }
     const VirtualDisplay display;
     environment.insert(QStringLiteral("DISPLAY"), display.name());
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));

@@ -30,10 +30,12 @@ bool measureAll(const QString &resultFile) {
     bench::Report report;
     // First, while this process is small and quick to fork.
     bench::measureStart(large, report);
-    for (const bench::GeneratedBook &book : {small, large})
+    for (const bench::GeneratedBook &book : {small, large}) {
         bench::measureDatabase(book, report);
-    for (const bench::GeneratedBook &book : {small, large})
+    }
+    for (const bench::GeneratedBook &book : {small, large}) {
         bench::measureList(book, report);
+    }
     bench::measureIngredients(large, report);
     bench::measureRecipe(small, large, report);
     report.writeJson(resultFile);
@@ -43,8 +45,9 @@ bool measureAll(const QString &resultFile) {
 } // namespace
 
 int main(int argc, char *argv[]) {
-    if (argc == 4 && qstrcmp(argv[1], bench::kStartCommand) == 0)
+    if (argc == 4 && qstrcmp(argv[1], bench::kStartCommand) == 0) {
         return bench::start(argc, argv, QString::fromUtf8(argv[2]), QString::fromUtf8(argv[3]));
+    }
     const QTemporaryDir folder;
     isolate(folder);
     QApplication::setStyle(QStringLiteral("Fusion"));

@@ -61,8 +61,9 @@ Choix LireChoix(const QString &table, const QString &ordre) {
     Choix choix{{}, fiches.RecordCount() == 0};
     for (qsizetype compteur = 0; compteur < fiches.RecordCount(); ++compteur, fiches.MoveNext()) {
         const QString texte = SansBlancs(fiches.Fields(1).Text());
-        if (!texte.isEmpty() && !porteBalise(texte))
+        if (!texte.isEmpty() && !porteBalise(texte)) {
             choix.textes.append(texte);
+        }
     }
     return choix;
 }
@@ -73,8 +74,9 @@ QStringList LireListeSimple(const QString &table, const QString &ordre, int posi
     QStringList textes;
     for (qsizetype compteur = 0; compteur < fiches.RecordCount(); ++compteur, fiches.MoveNext()) {
         const QString texte = fiches.Fields(position).Text();
-        if (!porteBalise(texte))
+        if (!porteBalise(texte)) {
             textes.append(SansBlancs(texte));
+        }
     }
     return textes;
 }
@@ -91,8 +93,9 @@ std::vector<Resultat> LireResultats(const QString &requete, bool enTete, const Q
     std::vector<Resultat> resultats;
     for (qsizetype compteur = 0; compteur < fiches.RecordCount(); ++compteur, fiches.MoveNext()) {
         const QString texte = fiches.Fields(1).Text();
-        if (!texte.contains(u"</") && garde(texte))
+        if (!texte.contains(u"</") && garde(texte)) {
             resultats.push_back({CleDeListe(fiches.Fields(0).Number()), texte});
+        }
     }
     return resultats;
 }
@@ -103,14 +106,16 @@ void ModifierLibelle(const QString &table, qint64 cle, const QString &texte, con
 
 void ModifierChamp(const QString &table, qint64 cle, QVariant &valeur, const QString &colonneCle,
                    int position) {
-    if (valeur.toString().isEmpty())
+    if (valeur.toString().isEmpty()) {
         valeur = QStringLiteral(" ");
+    }
     ecrireFiche(table, cle, colonneCle, position, valeur);
 }
 
 void ModifierSiRenseigne(QVariant &valeur, const QString &table, qint64 cle, int position) {
-    if (valeur.toString().isEmpty())
+    if (valeur.toString().isEmpty()) {
         return;
+    }
     const bool recette = table == u"Cocktails";
     ModifierChamp(table, cle, valeur, recette ? QStringLiteral("Numero") : QStringLiteral("NVerre"),
                   position);
@@ -118,12 +123,14 @@ void ModifierSiRenseigne(QVariant &valeur, const QString &table, qint64 cle, int
 
 void RemplacerLigneIngre(qint64 recette, const LigneIngre &ancienne, const LigneIngre &nouvelle) {
     Database base = OuvrirLivre();
-    if (Recordset lignes = base.OpenRecordset(ligneIngre(recette, ancienne)); lignes.RecordCount() > 0)
+    if (Recordset lignes = base.OpenRecordset(ligneIngre(recette, ancienne)); lignes.RecordCount() > 0) {
         lignes.Delete();
+    }
 
     Recordset lignes = base.OpenRecordset(ligneIngre(recette, nouvelle));
-    if (lignes.RecordCount() > 0)
+    if (lignes.RecordCount() > 0) {
         return;
+    }
     lignes.AddNew();
     lignes.Fields(u"Numero") = recette;
     lignes.Fields(u"NQuantite") = nouvelle.quantite;
@@ -136,8 +143,9 @@ void SupprimerFiches(const QString &table, qint64 valeur, const QString &colonne
     Database base = OuvrirLivre();
     while (true) {
         Recordset fiches = base.OpenRecordset(fichesDeCle(table, colonne, valeur));
-        if (fiches.RecordCount() == 0)
+        if (fiches.RecordCount() == 0) {
             return;
+        }
         fiches.Delete();
     }
 }
@@ -150,8 +158,9 @@ void AjouterFiche(const QString &texte, const QString &table, const QString &col
     fiches.Fields(0) = numero;
     fiches.Fields(1) = texte;
     if (table == u"Verre") {
-        for (int position = 2; position <= 4; ++position)
+        for (int position = 2; position <= 4; ++position) {
             fiches.Fields(position) = QStringLiteral(" ");
+        }
     }
     valider(fiches);
 }
@@ -160,8 +169,9 @@ void RechercherNumero(const QString &texte, qint64 &numero, const QString &table
     Database base = OuvrirLivre();
     Recordset trouvees = base.OpenRecordset(u"SELECT * From " + table + u" where " + table + u" = '" +
                                             DoublerApostrophes(texte) + u"' order by " + table + u" asc");
-    if (texte.isEmpty())
+    if (texte.isEmpty()) {
         return;
+    }
     if (trouvees.RecordCount() > 0) {
         numero = trouvees.Fields(0).Number();
         return;

@@ -53,8 +53,9 @@ template <ListeDeChoix L>
 void ChargerCombo(L &liste, const QString &table, const QString &ordre) {
     liste.Clear();
     const Choix choix = LireChoix(table, ordre);
-    if (!choix.vide)
+    if (!choix.vide) {
         liste.AddItems(choix.textes + QStringList(LignePointillee.toString()));
+    }
 }
 
 /// Adds the texts of a table to a list, which is not cleared.
@@ -68,8 +69,9 @@ template <typename Icone, ListeDeResultats<Icone> L>
 void ChargerResultats(const QString &requete, L &liste, const Icone &icone, bool enTete,
                       const QString &filtre) {
     liste.Clear();
-    for (const Resultat &ligne : LireResultats(requete, enTete, filtre))
+    for (const Resultat &ligne : LireResultats(requete, enTete, filtre)) {
         liste.AddItem(ligne.cle, ligne.texte, icone);
+    }
 }
 
 /// Gives a row of a lookup table another text: writes the key into column 0 and the text into column 1.

@@ -31,13 +31,15 @@ constexpr char32_t kOctetInvalide = 0x110000;
 /// Takes what follows the first byte of a character beyond ASCII off a text.
 char32_t prendreSuite(unsigned char premier, std::string_view &texte) {
     const size_t suite = premier >= 0xF0 ? 3 : premier >= 0xE0 ? 2 : 1;
-    if (premier < 0xC2 || premier > 0xF4 || texte.size() < suite)
+    if (premier < 0xC2 || premier > 0xF4 || texte.size() < suite) {
         return kOctetInvalide + premier;
+    }
     char32_t caractere = premier & (0x3Fu >> suite);
     for (size_t i = 0; i < suite; ++i) {
         const auto octet = static_cast<unsigned char>(texte[i]);
-        if ((octet & 0xC0) != 0x80)
+        if ((octet & 0xC0) != 0x80) {
             return kOctetInvalide + premier;
+        }
         caractere = caractere << 6 | (octet & 0x3Fu);
     }
     texte.remove_prefix(suite);
@@ -53,10 +55,12 @@ inline char32_t prendre(std::string_view &texte) {
 
 /// The small letter of a capital of Latin-1 or Latin Extended-A.
 char32_t minusculeAccentuee(char32_t c) {
-    if (c >= 0xC0 && c <= 0xDE)
+    if (c >= 0xC0 && c <= 0xDE) {
         return c == 0xD7 ? c : c + 0x20;
-    if (c == 0x178)
+    }
+    if (c == 0x178) {
         return 0xFF;
+    }
     const bool capitalePaire = (c >= 0x100 && c <= 0x137 && c != 0x130) || (c >= 0x14A && c <= 0x177);
     const bool capitaleImpaire = (c >= 0x139 && c <= 0x148) || (c >= 0x179 && c <= 0x17E);
     const bool capitale = c % 2 == 0 ? capitalePaire : capitaleImpaire;
@@ -64,8 +68,9 @@ char32_t minusculeAccentuee(char32_t c) {
 }
 
 inline char32_t minuscule(char32_t c) {
-    if (c < 0x80)
+    if (c < 0x80) {
         return c >= U'A' && c <= U'Z' ? c + 0x20 : c;
+    }
     return minusculeAccentuee(c);
 }
 
@@ -104,10 +109,12 @@ public:
 
     /// The next letter plus 1; 0 at the end.
     char32_t suivante() {
-        if (m_seconde != 0)
+        if (m_seconde != 0) {
             return std::exchange(m_seconde, 0) + 1;
-        if (m_texte.empty())
+        }
+        if (m_texte.empty()) {
             return 0;
+        }
         const Base b = base(minuscule(prendre(m_texte)));
         m_seconde = b.seconde;
         return b.premiere + 1;
@@ -133,8 +140,9 @@ inline char *ecrire(char *cle, char32_t c) {
     } else {
         *cle++ = static_cast<char>(0xC0 | c >> 6);
     }
-    if (c >= 0x800)
+    if (c >= 0x800) {
         *cle++ = static_cast<char>(0x80 | (c >> 6 & 0x3F));
+    }
     *cle++ = static_cast<char>(0x80 | (c & 0x3F));
     return cle;
 }
@@ -151,16 +159,19 @@ int ComparerFrancais(std::string_view gauche, std::string_view droite) {
     while (true) {
         const char32_t g = basesGauche.suivante();
         const char32_t d = basesDroite.suivante();
-        if (g != d)
+        if (g != d) {
             return signe(g, d);
-        if (g == 0)
+        }
+        if (g == 0) {
             break;
+        }
     }
     while (!gauche.empty() && !droite.empty()) {
         const char32_t g = minuscule(prendre(gauche));
         const char32_t d = minuscule(prendre(droite));
-        if (g != d)
+        if (g != d) {
             return signe(g, d);
+        }
     }
     return int(droite.empty()) - int(gauche.empty());
 }
@@ -181,14 +192,16 @@ void AjouterCleDeTri(std::string_view texte, std::string &cles) {
         const char32_t c = minuscule(prendre(reste));
         const Base b = base(c);
         fin = ecrire(fin, b.premiere + 1);
-        if (b.seconde != 0)
+        if (b.seconde != 0) {
             fin = ecrire(fin, b.seconde + 1);
+        }
         accents = accents || b.premiere != c;
     }
     *fin++ = '\0';
     // A text without accents comes before all others of the same base letters, so it needs nothing more.
-    for (; accents && !texte.empty();)
+    for (; accents && !texte.empty();) {
         fin = ecrire(fin, minuscule(prendre(texte)) + 1);
+    }
     cles.resize(static_cast<size_t>(fin - cles.data()));
 }
 

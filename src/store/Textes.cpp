@@ -10,10 +10,12 @@ QString DoublerApostrophes(const QString &texte) {
 }
 
 QString SansBlancs(QStringView texte) {
-    while (texte.startsWith(u' '))
+    while (texte.startsWith(u' ')) {
         texte = texte.sliced(1);
-    while (texte.endsWith(u' '))
+    }
+    while (texte.endsWith(u' ')) {
         texte.chop(1);
+    }
     return texte.toString();
 }
 

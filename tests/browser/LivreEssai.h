@@ -18,8 +18,9 @@
 class LivreEssai {
 public:
     LivreEssai() {
-        if (!QDir(m_folder.path()).mkdir(QStringLiteral("photos")))
+        if (!QDir(m_folder.path()).mkdir(QStringLiteral("photos"))) {
             throw std::runtime_error("no temporary folder");
+        }
         store::DefinirDossierProgramme(m_folder.path());
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, path(QStringLiteral("reglages")));
         store::CreerLivre(store::CheminBase());
@@ -30,15 +31,17 @@ public:
     /// The bytes of db.mdb.
     static QByteArray bytes() {
         QFile book(store::CheminBase());
-        if (!book.open(QIODevice::ReadOnly))
+        if (!book.open(QIODevice::ReadOnly)) {
             throw std::runtime_error("no book");
+        }
         return book.readAll();
     }
 
     static void execute(const QStringList &statements) {
         auto book = store::OuvrirLivre();
-        for (const QString &statement : statements)
+        for (const QString &statement : statements) {
             book.Execute(statement);
+        }
     }
 
     /// The second column of the first row of a query.
@@ -71,8 +74,9 @@ inline void clickRow(platform::controls::List &list, int index, Qt::MouseButton 
 /// The texts of a list, with commas between them.
 inline QString texts(const platform::controls::List &list) {
     QStringList all;
-    for (int index = 1; index <= list.Count(); ++index)
+    for (int index = 1; index <= list.Count(); ++index) {
         all += list.Text(index);
+    }
     return all.join(QStringLiteral(", "));
 }
 
@@ -83,8 +87,9 @@ inline void openView(browser::Frmmain &frm, int view) {
     frm.RemplirVocabulaires();
     frm.move(1, 1); // the wait below is long for a window at the origin
     frm.show();
-    if (!QTest::qWaitForWindowActive(&frm))
+    if (!QTest::qWaitForWindowActive(&frm)) {
         throw std::runtime_error("no active window");
+    }
     browser::EnregistrerVue(browser::kVueAucune);
     frm.Bouton(view).SetValue(true);
 }

@@ -33,8 +33,9 @@ private:
     /// Adds lines of recipe 1, the oldest first: "ingredient, quantity, measure" as they stand in a
     /// statement.
     static void addLines(const QStringList &lines) {
-        for (const QString &line : lines)
+        for (const QString &line : lines) {
             LivreEssai::execute({u"INSERT INTO Ingre VALUES (1, "_qs + line + u")"_qs});
+        }
     }
 
     /// What the row of buttons shows; a hidden one as "-".
@@ -76,8 +77,9 @@ private Q_SLOTS:
         show();
         const QStringList expected{u"4 personnes"_qs, u"Entrée"_qs, u"Peu Cher"_qs, u"Facile"_qs,
                                    u"Chinon"_qs,      u"20 mn"_qs,  u" 10 mn "_qs};
-        for (int i = 0; i < expected.size(); ++i)
+        for (int i = 0; i < expected.size(); ++i) {
             QCOMPARE(m_window->Data(i).Caption(), expected[i]);
+        }
 
         ChargerRecette(*m_window, 99); // gone meanwhile: the values stay
         QCOMPARE(m_window->Data(0).Caption(), expected[0]);
@@ -86,8 +88,9 @@ private Q_SLOTS:
     void absentValuesAreDotted() {
         for (const QString &key : {u"NULL"_qs, u"9"_qs}) { // 9 dangles
             show(u"NCategorie = %1, NDureeReal = %1, Nverre = %1, Nreal = %1, Teneur = %1"_qs.arg(key));
-            for (const int i : {0, 1, 4, 5, 6})
+            for (const int i : {0, 1, 4, 5, 6}) {
                 QCOMPARE(m_window->Data(i).Caption(), kDots);
+            }
         }
         show(u"NCategorie = 2, Nverre = 1"_qs); // a blank text
         QCOMPARE(m_window->Data(6).Caption(), kDots);
@@ -97,8 +100,9 @@ private Q_SLOTS:
     void classesOutsideTheirVocabulary() {
         show(u"Cout = 5"_qs);
         QCOMPARE(m_window->Data(2).Caption(), QString());
-        for (const QString &columns : {u"Cout = 6"_qs, u"Cout = -1"_qs, u"Cout = 0, difficulte = 6"_qs})
+        for (const QString &columns : {u"Cout = 6"_qs, u"Cout = -1"_qs, u"Cout = 0, difficulte = 6"_qs}) {
             QVERIFY_THROWS_EXCEPTION(std::out_of_range, show(columns));
+        }
         show(u"difficulte = 5"_qs); // the book was left closed
         QCOMPARE(m_window->Data(3).Caption(), u"Très Difficile"_qs);
     }
@@ -153,8 +157,9 @@ private Q_SLOTS:
         LivreEssai::execute({u"DELETE * FROM Ingre"_qs});
         addLines(QStringList(2, u"1, 1, 1"_qs));
         show();
-        for (const auto *column : {&m_window->Quantite, &m_window->Mesure, &m_window->Ingre})
+        for (const auto *column : {&m_window->Quantite, &m_window->Mesure, &m_window->Ingre}) {
             QCOMPARE(column->Count(), 3);
+        }
         QCOMPARE(m_window->Scroll(0).Content()->findChild<QWidget *>(u"Ingre(3)"_qs), nullptr);
         const Twips row = m_window->Ingre(0).Height() + Twips(200);
         QVERIFY(tall - m_window->Scroll(0).ScrollableHeight() == 6 * row);
@@ -227,8 +232,9 @@ private Q_SLOTS:
         show(u"preparation = 'Cuire', Deco = ' '"_qs);
         QSignalSpy method(&m_window->Saisie(0), &Frmmain::RichTextBox::Change);
         QSignalSpy notes(&m_window->Saisie(1), &Frmmain::RichTextBox::Change);
-        for (const int i : {0, 1})
+        for (const int i : {0, 1}) {
             QTest::keyClick(&m_window->Saisie(i), Qt::Key_Z, Qt::ControlModifier);
+        }
         QCOMPARE(m_window->Saisie(0).Text(), u"Cuire"_qs);
         QCOMPARE(method.count() + notes.count(), 0);
     }
@@ -245,10 +251,12 @@ private Q_SLOTS:
 
         QVERIFY(frm.Data(0).Left() == left && frm.Data(6).Left() == left && frm.Libelle(1).Left() == left);
         QVERIFY(frm.Data(6).Width() == IntegerHalf(width - kMargin) - 2 * left);
-        for (const auto *control : {&frm.Data(5), &frm.Data(1)})
+        for (const auto *control : {&frm.Data(5), &frm.Data(1)}) {
             QVERIFY(control->Left() == 3 * left + frm.Data(6).Width());
-        for (const auto *control : {&frm.Data(5), &frm.Data(1), &frm.Data(4), &frm.Ingre(0), &frm.Ingre(1)})
+        }
+        for (const auto *control : {&frm.Data(5), &frm.Data(1), &frm.Data(4), &frm.Ingre(0), &frm.Ingre(1)}) {
             QVERIFY(control->Left() + control->Width() + kMargin == width);
+        }
         QVERIFY(frm.LVerre.Width() == frm.Data(0).Width() && frm.LTeneur.Width() == frm.Data(4).Width());
     }
 

@@ -198,8 +198,9 @@ private Q_SLOTS:
         QCOMPARE(frm.LTDroit.Caption(), u"Tarte"_qs);
         QCOMPARE(frm.Saisie(0).Text(), u"Cuire"_qs);
         QVERIFY(!frm.LCategorie.isVisible());
-        for (int row = 0; row < 3; ++row)
+        for (int row = 0; row < 3; ++row) {
             QCOMPARE(frm.Liste.model()->index(row, 0).data(Qt::FontRole).isValid(), row == 2);
+        }
 
         QTest::mouseClick(&frm.Bouton(1), Qt::LeftButton);
         QTest::keyClick(&frm.Liste, Qt::Key_Down);
@@ -283,8 +284,9 @@ private Q_SLOTS:
             QTest::mouseClick(&frm.Bouton(view), Qt::LeftButton);
             for (int row = 1; row <= frm.Liste.Count(); ++row) {
                 clickRow(frm.Liste, row);
-                if (view > 0 && frm.LFilms.Count() > 0)
+                if (view > 0 && frm.LFilms.Count() > 0) {
                     clickRow(frm.LFilms, frm.LFilms.Count());
+                }
             }
         }
         QCOMPARE(method.count() + notes.count(), 0);
@@ -295,12 +297,14 @@ private Q_SLOTS:
         fill();
         Frmmain &frm = opened(0);
         QStringList expected;
-        for (int view = 0; view < kNombreDeVues; ++view)
+        for (int view = 0; view < kNombreDeVues; ++view) {
             expected += u"Bouton(%1)"_qs.arg(view);
+        }
         expected += {u"Liste"_qs,   u"Data(6)"_qs, u"Data(5)"_qs, u"Data(0)"_qs,
                      u"Data(1)"_qs, u"Data(2)"_qs, u"Data(3)"_qs, u"Data(4)"_qs};
-        for (int line = 0; line < 2; ++line) // Bisque has one, and the dotted one
+        for (int line = 0; line < 2; ++line) { // Bisque has one, and the dotted one
             expected += {u"Quantite(%1)"_qs.arg(line), u"Mesure(%1)"_qs.arg(line), u"Ingre(%1)"_qs.arg(line)};
+        }
         expected += {u"Saisie(0)"_qs, u"Saisie(1)"_qs};
 
         frm.Bouton(0).setFocus();

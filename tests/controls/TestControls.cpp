@@ -24,9 +24,11 @@ constexpr ControlRow kRow{"Controle", 0, 0, 3000, 450};
 QImage halves(Qt::GlobalColor left, Qt::GlobalColor right) {
     QImage picture(32, 16, QImage::Format_RGB32);
     picture.fill(right);
-    for (int x = 0; x < 16; ++x)
-        for (int y = 0; y < 16; ++y)
+    for (int x = 0; x < 16; ++x) {
+        for (int y = 0; y < 16; ++y) {
             picture.setPixelColor(x, y, left);
+        }
+    }
     return picture;
 }
 
@@ -74,8 +76,9 @@ private:
         auto *control = new Control(m_window.get(), kRow);
         m_window->move(1, 1); // the wait below is long for a window at the origin
         m_window->show();
-        if (!QTest::qWaitForWindowActive(m_window.get()))
+        if (!QTest::qWaitForWindowActive(m_window.get())) {
             throw std::runtime_error("no active window");
+        }
         control->setFocus();
         return *control;
     }
@@ -83,8 +86,9 @@ private:
     QString file(const QByteArray &content) {
         QString path = m_folder.filePath(u"image.txt"_qs);
         QFile out(path);
-        if (!out.open(QIODevice::WriteOnly) || out.write(content) != content.size())
+        if (!out.open(QIODevice::WriteOnly) || out.write(content) != content.size()) {
             throw std::runtime_error("cannot write");
+        }
         return path;
     }
 
@@ -182,8 +186,9 @@ private Q_SLOTS:
     void dropListRaisesOnlyForTheUser() {
         auto &list = shown<DropList>();
         QSignalSpy clicks(&list, &DropList::Click);
-        for (const QString &text : {u"beurre"_qs, u"farine"_qs, u"sel"_qs})
+        for (const QString &text : {u"beurre"_qs, u"farine"_qs, u"sel"_qs}) {
             list.AddItems({text});
+        }
         QCOMPARE(list.ListIndex(), -1);
         QCOMPARE(list.Text(), QString());
         list.SetText(u"poivre"_qs);
@@ -260,8 +265,9 @@ private Q_SLOTS:
 
     void filesThatAreNoPictures() {
         const QByteArray cut = encoded(halves(Qt::red, Qt::blue), "PNG").left(40);
-        for (const QByteArray &content : {QByteArray(), QByteArray("recette"), cut, hugeBitmap(20'000)})
+        for (const QByteArray &content : {QByteArray(), QByteArray("recette"), cut, hugeBitmap(20'000)}) {
             QVERIFY_THROWS_EXCEPTION(PictureError, LoadPicture(file(content)));
+        }
         QVERIFY_THROWS_EXCEPTION(PictureError, LoadPicture(m_folder.filePath(u"absent"_qs)));
     }
 };

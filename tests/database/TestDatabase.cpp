@@ -45,8 +45,9 @@ constexpr Collation kVowelBlind{
 /// The end of a child process that runs a function.
 int exitCodeOf(const std::function<int()> &function) {
     const pid_t child = fork();
-    if (child == 0)
+    if (child == 0) {
         _exit(function());
+    }
     int status = 0;
     waitpid(child, &status, 0);
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
@@ -73,8 +74,9 @@ private:
 
     static QString texts(Recordset rows, int column) {
         QStringList list;
-        for (; !rows.AtEnd(); rows.MoveNext())
+        for (; !rows.AtEnd(); rows.MoveNext()) {
             list.append(rows.Fields(column).Text());
+        }
         return list.join(u' ');
     }
 
@@ -114,8 +116,9 @@ private Q_SLOTS:
         QFETCH(const QString, connect);
         QFETCH(const QString, text);
         QByteArray content = bytes().first(size);
-        if (damagedByte >= 0)
+        if (damagedByte >= 0) {
             content[damagedByte] = char(~content[damagedByte]);
+        }
         QFile file(path());
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(content);
@@ -203,13 +206,15 @@ private Q_SLOTS:
                 rows.Fields(0) = number;
                 rows.Fields(2) = QString(9000, u'x');
                 rows.Update();
-                if (write(ends[1], &number, sizeof number) < 0)
+                if (write(ends[1], &number, sizeof number) < 0) {
                     _exit(1);
+                }
             }
         }
         qint64 committed = 0;
-        while (committed < 40)
+        while (committed < 40) {
             QCOMPARE(read(ends[0], &committed, sizeof committed), qint64(sizeof committed));
+        }
         kill(child, SIGKILL);
         waitpid(child, nullptr, 0);
         ::close(ends[1]);

@@ -24,8 +24,9 @@ const QString kDelivered = QStringLiteral(BOOK_FOLDER);
 
 QSet<qint64> numbersOf(Database &book, const QString &table) {
     QSet<qint64> numbers;
-    for (Recordset rows = book.OpenRecordset(u"SELECT * From "_s + table); !rows.AtEnd(); rows.MoveNext())
+    for (Recordset rows = book.OpenRecordset(u"SELECT * From "_s + table); !rows.AtEnd(); rows.MoveNext()) {
         numbers.insert(rows.Fields(0).Number());
+    }
     return numbers;
 }
 
@@ -113,8 +114,9 @@ void TestLivre::recipesReferToWhatIsThere() {
     const std::map<int, QString> tables{
         {2, u"Categorie"_s}, {3, u"Verre"_s}, {5, u"Realisation"_s}, {10, u"VIN"_s}, {11, u"DureeReal"_s}};
     QSet<qint64> withLines;
-    for (Recordset lines = book.OpenRecordset(u"SELECT * From Ingre"_s); !lines.AtEnd(); lines.MoveNext())
+    for (Recordset lines = book.OpenRecordset(u"SELECT * From Ingre"_s); !lines.AtEnd(); lines.MoveNext()) {
         withLines.insert(lines.Fields(0).Number());
+    }
 
     Recordset recipes = book.OpenRecordset(u"SELECT * From Cocktails order by Numero asc"_s);
     QCOMPARE(recipes.RecordCount(), 12);

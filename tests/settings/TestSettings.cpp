@@ -117,8 +117,9 @@ private Q_SLOTS:
     }
 
     void textsThatAreNoIntegers() {
-        for (const char *text : {"abc", "", " ", "5x", "1 2", "nan", "inf", "99999", "32767,5", "-32769"})
+        for (const char *text : {"abc", "", " ", "5x", "1 2", "nan", "inf", "99999", "32767,5", "-32769"}) {
             QVERIFY_THROWS_EXCEPTION(ConversionError, ToInteger(QString::fromLatin1(text)));
+        }
         QVERIFY_THROWS_EXCEPTION(ConversionError, ToLong(u"2147483648"_qs));
     }
 

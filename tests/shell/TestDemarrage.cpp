@@ -33,14 +33,17 @@ public:
 private:
     void press() {
         auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        if (box == nullptr)
+        if (box == nullptr) {
             return;
+        }
         m_timer.stop();
         title = box->windowTitle();
         text = box->text();
-        for (QAbstractButton *button : box->buttons())
-            if (box->buttonRole(button) == m_role)
+        for (QAbstractButton *button : box->buttons()) {
+            if (box->buttonRole(button) == m_role) {
                 button->click();
+            }
+        }
     }
 
     QMessageBox::ButtonRole m_role;
@@ -90,8 +93,9 @@ private Q_SLOTS:
     void laterRunTakesUpThePlaceAndTheView() {
         for (const auto &[key, value] :
              {std::pair(u"Tris"_qs, u"1"_qs), std::pair(u"MainTop"_qs, u"150.5"_qs),
-              std::pair(u"MainLeft"_qs, u"300"_qs)})
+              std::pair(u"MainLeft"_qs, u"300"_qs)}) {
             LivreEssai::setSetting(key, value);
+        }
         start();
         QCOMPARE(m_window->pos(), QPoint(20, 10));
         QCOMPARE(LivreEssai::setting(u"Tris"_qs), u"1"_qs);

@@ -45,8 +45,9 @@ private:
         QStringList lignes;
         for (; !fiches.AtEnd(); fiches.MoveNext()) {
             QStringList ligne;
-            for (int i = 0; i < colonnes; ++i)
+            for (int i = 0; i < colonnes; ++i) {
                 ligne.append(fiches.Fields(i).IsNull() ? u"-"_qs : fiches.Fields(i).Text());
+            }
             lignes.append(ligne.join(u'|'));
         }
         return lignes;
@@ -85,8 +86,9 @@ private Q_SLOTS:
         QTest::newRow("lines") << u"Ingre"_qs << u"Numero NIngre NQuantite NMesure"_qs;
         QTest::newRow("persons") << u"verre"_qs << u"Nverre VERRE Verre2 Verre3 Verre4"_qs;
         for (const QString &table : {u"Categorie"_qs, u"DureeReal"_qs, u"Realisation"_qs, u"Vin"_qs,
-                                     u"Ingredient"_qs, u"Quantite"_qs, u"Mesure"_qs})
+                                     u"Ingredient"_qs, u"Quantite"_qs, u"Mesure"_qs}) {
             QTest::newRow(qPrintable(table)) << table << QString(u'N' + table + u' ' + table);
+        }
     }
 
     void columnsStandInTheirPlaces() {
@@ -96,12 +98,14 @@ private Q_SLOTS:
         Database base = OuvrirLivre();
         Recordset rows = base.OpenRecordset(u"SELECT * From " + table);
         rows.AddNew();
-        for (int i = 0; i < names.size(); ++i)
+        for (int i = 0; i < names.size(); ++i) {
             rows.Fields(QStringView(names[i])) = i;
+        }
         rows.Update();
         rows.SetBookmark(rows.LastModified());
-        for (int i = 0; i < names.size(); ++i)
+        for (int i = 0; i < names.size(); ++i) {
             QCOMPARE(rows.Fields(i).Number(), i);
+        }
         QVERIFY_EXCEPTION_THROWN(rows.Fields(int(names.size())).IsNull(), DatabaseError);
     }
 

@@ -41,13 +41,16 @@ private Q_SLOTS:
         std::vector<std::pair<int, std::string>> ranked;
         int rank = 0;
         for (const QString &step : texts.split(u'<')) {
-            for (const QString &text : step.split(u'='))
+            for (const QString &text : step.split(u'=')) {
                 ranked.emplace_back(rank, text.toStdString());
+            }
             ++rank;
         }
-        for (const auto &[leftRank, left] : ranked)
-            for (const auto &[rightRank, right] : ranked)
+        for (const auto &[leftRank, left] : ranked) {
+            for (const auto &[rightRank, right] : ranked) {
                 check(left, right, leftRank - rightRank);
+            }
+        }
     }
 
     void bytesThatAreNoUtf8HaveTheirPlaceToo() {
@@ -61,9 +64,11 @@ private Q_SLOTS:
                                               "\xC3\x28",
                                               "\xE2\x82",
                                               "\xFF"};
-        for (size_t i = 0; i < rising.size(); ++i)
-            for (size_t j = 0; j < rising.size(); ++j)
+        for (size_t i = 0; i < rising.size(); ++i) {
+            for (size_t j = 0; j < rising.size(); ++j) {
                 check(rising[i], rising[j], int(i) - int(j));
+            }
+        }
     }
 
 private:

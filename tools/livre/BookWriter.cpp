@@ -69,8 +69,9 @@ QString storedTitle(const QString &title) {
 template <typename Classes>
 int codeOf(const SourceText &word, const Classes &classes) {
     const auto *const found = std::ranges::find(classes, QStringView(word.text));
-    if (found == classes.end())
+    if (found == classes.end()) {
         throw SourceError(word, u"\"%1\" is no class of cost or difficulty"_s.arg(word.text));
+    }
     return static_cast<int>(found - classes.begin());
 }
 
@@ -98,11 +99,13 @@ std::vector<IngredientRow> ingredientRows(const RecipeText &recipe, Vocabularies
 RecipeRow recipeRow(const RecipeText &recipe, Vocabularies &vocabularies, const QString &pictures) {
     RecipeRow row;
     row.picture = pictures + u'/' + recipe.drawing.text + u".jpg";
-    if (!QFileInfo::exists(row.picture))
+    if (!QFileInfo::exists(row.picture)) {
         throw SourceError(recipe.drawing, u"no picture %1"_s.arg(row.picture));
+    }
     // The picture is a file of that name, which a list of the build must be able to hold.
-    if (recipe.title.text.contains(QRegularExpression(u"[/;\\[\\]\\\\]"_s)))
+    if (recipe.title.text.contains(QRegularExpression(u"[/;\\[\\]\\\\]"_s))) {
         throw SourceError(recipe.title, u"a title without / \\ ; [ ] is expected"_s);
+    }
     row.photo = recipe.title.text + u".jpg";
     row.columns = {
         storedTitle(recipe.title.text),
@@ -124,8 +127,9 @@ RecipeRow recipeRow(const RecipeText &recipe, Vocabularies &vocabularies, const 
 std::vector<RecipeRow> readRecipes(const BookPlaces &places, Vocabularies &vocabularies) {
     std::vector<RecipeRow> rows;
     const QDir folder(places.sources + u"/recettes");
-    for (const QString &name : folder.entryList({u"*.txt"_s}, QDir::Files, QDir::Name))
+    for (const QString &name : folder.entryList({u"*.txt"_s}, QDir::Files, QDir::Name)) {
         rows.push_back(recipeRow(readRecipe(folder.filePath(name)), vocabularies, places.pictures));
+    }
     return rows;
 }
 
@@ -142,8 +146,9 @@ void writeVocabulary(Database &book, const Vocabulary &vocabulary) {
         rows.Fields(1) = text;
         if (vocabulary.table() == u"Verre") {
             // Three columns without a meaning, which hold a blank in the rows that the program makes.
-            for (int position = 2; position <= 4; ++position)
+            for (int position = 2; position <= 4; ++position) {
                 rows.Fields(position) = u" "_s;
+            }
         }
         rows.Update();
     }
@@ -167,8 +172,9 @@ void writeRecipes(Database &book, const std::vector<RecipeRow> &rows) {
     for (const RecipeRow &row : rows) {
         recipes.AddNew();
         recipes.Fields(0) = ++number;
-        for (int position = 0; position < row.columns.size(); ++position)
+        for (int position = 0; position < row.columns.size(); ++position) {
             recipes.Fields(position + 1) = row.columns[position];
+        }
         recipes.Update();
         writeIngredients(lines, number, row.ingredients);
     }
@@ -194,8 +200,9 @@ std::filesystem::path nativePath(const QString &path) {
 
 void copyPhotos(const std::vector<RecipeRow> &recipes, const QString &folder) {
     std::filesystem::create_directory(nativePath(folder));
-    for (const RecipeRow &recipe : recipes)
+    for (const RecipeRow &recipe : recipes) {
         std::filesystem::copy_file(nativePath(recipe.picture), nativePath(folder + u'/' + recipe.photo));
+    }
 }
 
 } // namespace
@@ -207,8 +214,9 @@ void writeBook(const BookPlaces &places) {
     // Made in memory where there is such a place, since every row is committed and waits for the disk.
     const QString memory = u"/dev/shm"_s;
     const QTemporaryDir work((QFileInfo(memory).isWritable() ? memory : QDir::tempPath()) + u"/livre-XXXXXX");
-    if (!work.isValid())
+    if (!work.isValid()) {
         throw std::runtime_error(work.errorString().toStdString());
+    }
     writeDatabase(work.path(), vocabularies, recipes);
 
     // Moved into place when complete, so that a build that is broken off leaves no half book.

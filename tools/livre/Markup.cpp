@@ -28,8 +28,9 @@ qsizetype stepMarkLength(const QString &line) {
 }
 
 void checkStep(const SourceText &line, int expected) {
-    if (line.text.section(u'.', 0, 0).toInt() != expected)
+    if (line.text.section(u'.', 0, 0).toInt() != expected) {
         throw SourceError(line, u"step %1 is expected here"_s.arg(expected));
+    }
 }
 
 std::vector<Paragraph> split(const std::vector<SourceText> &lines) {
@@ -39,16 +40,18 @@ std::vector<Paragraph> split(const std::vector<SourceText> &lines) {
     for (const SourceText &line : lines) {
         const bool bullet = line.text.startsWith(u"- ");
         const bool step = stepMarkLength(line.text) > 0;
-        if (step)
+        if (step) {
             checkStep(line, ++steps);
-        if (bullet)
+        }
+        if (bullet) {
             paragraphs.push_back({Kind::Bullet, {line.text.mid(2), line.file, line.line}});
-        else if (step)
+        } else if (step) {
             paragraphs.push_back({Kind::Step, line});
-        else if (!goesOn && !line.text.isEmpty())
+        } else if (!goesOn && !line.text.isEmpty()) {
             paragraphs.push_back({Kind::Plain, line});
-        else if (!line.text.isEmpty())
+        } else if (!line.text.isEmpty()) {
             paragraphs.back().source.text += u' ' + line.text;
+        }
         goesOn = !line.text.isEmpty();
     }
     return paragraphs;
@@ -64,13 +67,15 @@ void insertMarked(QTextCursor &cursor, const SourceText &source) {
         const QRegularExpressionMatch match = marks.next();
         cursor.insertText(text.mid(from, match.capturedStart() - from), format);
         from = match.capturedEnd();
-        if (match.capturedLength() == 2)
+        if (match.capturedLength() == 2) {
             format.setFontWeight(format.fontWeight() == QFont::Bold ? QFont::Normal : QFont::Bold);
-        else
+        } else {
             format.setFontItalic(!format.fontItalic());
+        }
     }
-    if (format.fontWeight() == QFont::Bold || format.fontItalic())
+    if (format.fontWeight() == QFont::Bold || format.fontItalic()) {
         throw SourceError(source, u"a * or ** of this paragraph is not closed"_s);
+    }
     cursor.insertText(text.mid(from), format);
 }
 
@@ -105,22 +110,25 @@ void renderMarkup(const std::vector<SourceText> &lines, QTextDocument &document)
     QTextList *list = nullptr;
     bool first = true;
     for (const Paragraph &paragraph : split(lines)) {
-        if (!first)
+        if (!first) {
             cursor.insertBlock(QTextBlockFormat(), QTextCharFormat());
+        }
         first = false;
         const bool bullet = paragraph.kind == Kind::Bullet;
-        if (!bullet)
+        if (!bullet) {
             list = nullptr;
-        else if (list == nullptr)
+        } else if (list == nullptr) {
             list = cursor.createList(QTextListFormat::ListDisc);
-        else
+        } else {
             list->add(cursor.block());
+        }
         QTextBlockFormat distance;
         distance.setBottomMargin(bullet ? kBelowBullet : kBelowParagraph);
         cursor.mergeBlockFormat(distance);
-        if (paragraph.kind == Kind::Step)
+        if (paragraph.kind == Kind::Step) {
             insertStep(cursor, paragraph.source);
-        else
+        } else {
             insertMarked(cursor, paragraph.source);
+        }
     }
 }

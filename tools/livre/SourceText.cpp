@@ -10,8 +10,9 @@ SourceError::SourceError(const SourceText &where, const QString &reason)
 
 std::vector<SourceText> readLines(const QString &file) {
     QFile source(file);
-    if (!source.open(QIODevice::ReadOnly))
+    if (!source.open(QIODevice::ReadOnly)) {
         throw SourceError({{}, file, 1}, source.errorString());
+    }
 
     std::vector<SourceText> lines;
     QStringDecoder utf8(QStringDecoder::Utf8);
@@ -19,8 +20,9 @@ std::vector<SourceText> readLines(const QString &file) {
         const QByteArray bytes = source.readLine();
         const int number = static_cast<int>(lines.size()) + 1;
         const QString text = utf8.decode(bytes);
-        if (utf8.hasError())
+        if (utf8.hasError()) {
             throw SourceError({{}, file, number}, u"not UTF-8"_s);
+        }
         lines.push_back({text.trimmed(), file, number});
     }
     return lines;

@@ -12,13 +12,16 @@ Vocabulary::Vocabulary(const QString &folder, const QString &table) : m_table(ta
     // The look-ups of the program do not tell capitals from small letters.
     QSet<QString> seen;
     for (const SourceText &line : readLines(folder + u'/' + table.toLower() + u".txt")) {
-        if (line.text.isEmpty() || line.text.startsWith(u'#'))
+        if (line.text.isEmpty() || line.text.startsWith(u'#')) {
             continue;
-        if (line.text.contains(u'<'))
+        }
+        if (line.text.contains(u'<')) {
             throw SourceError(line, u"a text with markup would appear in no choice list"_s);
+        }
         const QString folded = line.text.toCaseFolded();
-        if (seen.contains(folded))
+        if (seen.contains(folded)) {
             throw SourceError(line, u"\"%1\" is there already"_s.arg(line.text));
+        }
         seen.insert(folded);
         add(line.text);
     }
@@ -26,14 +29,16 @@ Vocabulary::Vocabulary(const QString &folder, const QString &table) : m_table(ta
 
 int Vocabulary::numberOf(const SourceText &text) const {
     const auto found = m_numbers.constFind(text.text);
-    if (found == m_numbers.cend())
+    if (found == m_numbers.cend()) {
         throw SourceError(text, u"\"%1\" is not in the vocabulary %2"_s.arg(text.text, m_table));
+    }
     return *found;
 }
 
 int Vocabulary::numberOfBlank() {
-    if (!m_numbers.contains(kBlank))
+    if (!m_numbers.contains(kBlank)) {
         add(kBlank);
+    }
     return m_numbers.value(kBlank);
 }
 

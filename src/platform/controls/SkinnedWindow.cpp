@@ -44,7 +44,8 @@ Twips SkinnedWindow::Top() const {
 
 void SkinnedWindow::Move(Twips left, Twips top) {
     // Places on the screen are in plain pixels, also where the windows themselves are shrunk to fit.
-    static constexpr float kFarthest = 1e6F; // twips; beyond any screen, and within what a window system can take
+    static constexpr float kFarthest =
+        1e6F; // twips; beyond any screen, and within what a window system can take
     const auto pixels = [](Twips place) {
         return qRound(std::clamp(place.value(), -kFarthest, kFarthest) / kTwipsPerPixel);
     };

@@ -24,8 +24,9 @@ void SqliteCloser::operator()(sqlite3 *db) const {
 QByteArray passphraseOf(const QString &connect) {
     for (const QString &part : connect.split(u';')) {
         const qsizetype equals = part.indexOf(u'=');
-        if (QStringView(part).first(qMax(equals, 0)).trimmed().compare(u"pwd", Qt::CaseInsensitive) == 0)
+        if (QStringView(part).first(qMax(equals, 0)).trimmed().compare(u"pwd", Qt::CaseInsensitive) == 0) {
             return part.mid(equals + 1).toUtf8();
+        }
     }
     return {};
 }
@@ -34,8 +35,9 @@ SqliteHandle openFile(const QString &name, int flags) {
     sqlite3 *db = nullptr;
     const int result = sqlite3_open_v2(name.toUtf8().constData(), &db, flags | SQLITE_OPEN_NOMUTEX, nullptr);
     SqliteHandle handle(db);
-    if (result != SQLITE_OK)
+    if (result != SQLITE_OK) {
         throw DatabaseError(db ? sqlite3_errmsg(db) : sqlite3_errstr(result));
+    }
     return handle;
 }
 
@@ -44,11 +46,13 @@ QByteArray readSalt(sqlite3 *db) {
     // connection of this process holds.
     sqlite3_file *file = nullptr;
     sqlite3_file_control(db, "main", SQLITE_FCNTL_FILE_POINTER, static_cast<void *>(&file));
-    if (!file || !file->pMethods)
+    if (!file || !file->pMethods) {
         throw DatabaseError(sqlite3_errstr(SQLITE_CANTOPEN));
+    }
     QByteArray salt(kSaltSize, Qt::Uninitialized);
-    if (file->pMethods->xRead(file, salt.data(), kSaltSize, 0) != SQLITE_OK)
+    if (file->pMethods->xRead(file, salt.data(), kSaltSize, 0) != SQLITE_OK) {
         throw DatabaseError(sqlite3_errstr(SQLITE_NOTADB));
+    }
     return salt;
 }
 
@@ -59,8 +63,9 @@ void useKey(sqlite3 *db, const QByteArray &passphrase, const QByteArray &salt) {
 }
 
 void runScript(sqlite3 *db, const char *sql) {
-    if (sqlite3_exec(db, sql, nullptr, nullptr, nullptr) != SQLITE_OK)
+    if (sqlite3_exec(db, sql, nullptr, nullptr, nullptr) != SQLITE_OK) {
         throw DatabaseError(sqlite3_errmsg(db));
+    }
 }
 
 Connection::Connection(const QString &name, const Options &options)
@@ -68,8 +73,9 @@ Connection::Connection(const QString &name, const Options &options)
       m_collation(options.collation),
       m_exclusive(options.exclusive) {
     sqlite3 *db = m_db.get();
-    if (const QByteArray salt = readSalt(db); !options.passphrase.isEmpty())
+    if (const QByteArray salt = readSalt(db); !options.passphrase.isEmpty()) {
         useKey(db, options.passphrase, salt);
+    }
     sqlite3_create_collation(db, "NOCASE", SQLITE_UTF8, &m_collation, compareTexts);
     if (m_exclusive && options.readOnly) {
         // A file that cannot be written cannot be locked for writing either: the lasting lock of a reader keeps
@@ -89,19 +95,23 @@ Connection::~Connection() {
 }
 
 void Connection::close() {
-    if (!m_db)
+    if (!m_db) {
         return;
-    while (sqlite3_stmt *statement = sqlite3_next_stmt(m_db.get(), nullptr))
+    }
+    while (sqlite3_stmt *statement = sqlite3_next_stmt(m_db.get(), nullptr)) {
         sqlite3_finalize(statement);
-    if (m_exclusive)
+    }
+    if (m_exclusive) {
         sqlite3_exec(m_db.get(), "PRAGMA locking_mode = NORMAL; PRAGMA journal_mode = DELETE", nullptr,
                      nullptr, nullptr);
+    }
     m_db.reset();
 }
 
 sqlite3 *Connection::handle() const {
-    if (!m_db)
+    if (!m_db) {
         throw DatabaseError("La base de données est fermée.");
+    }
     return m_db.get();
 }
 

@@ -17,8 +17,9 @@ void fillFile(const QString &name, const QByteArray &passphrase, const QString &
     const SqliteHandle db = openFile(name, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
     if (!passphrase.isEmpty()) {
         QByteArray salt(kSaltSize, Qt::Uninitialized);
-        if (RAND_bytes(reinterpret_cast<uchar *>(salt.data()), kSaltSize) != 1)
+        if (RAND_bytes(reinterpret_cast<uchar *>(salt.data()), kSaltSize) != 1) {
             throw DatabaseError("Aucun nombre aléatoire n'est disponible.");
+        }
         useKey(db.get(), passphrase, salt);
     }
     runScript(db.get(), "BEGIN EXCLUSIVE");
@@ -29,8 +30,9 @@ void fillFile(const QString &name, const QByteArray &passphrase, const QString &
 } // namespace
 
 void CreateDatabase(const QString &name, const QString &connect, const QString &schema) {
-    if (QFile::exists(name))
+    if (QFile::exists(name)) {
         throw DatabaseError(u"Le fichier existe déjà : " + name);
+    }
     try {
         fillFile(name, passphraseOf(connect), schema);
     } catch (...) {

@@ -27,34 +27,40 @@ Cursor::Cursor(const std::shared_ptr<Connection> &connection, const QString &sql
       m_table(parseTableQuery(sql)),
       m_source(connection, sourceSql(m_table, sql)),
       m_rows(m_table ? std::min(kListColumns, m_source.columnCount()) : m_source.columnCount()) {
-    if (m_table)
+    if (m_table) {
         readTable();
-    else
+    } else {
         readSnapshot();
+    }
 }
 
 void Cursor::readSnapshot() {
-    while (m_source.step())
+    while (m_source.step()) {
         m_rows.append(m_rows.count(), m_source.handle());
+    }
 }
 
 void Cursor::readTable() {
     QByteArray sql = "SELECT rowid";
-    for (int column = 0; column < m_rows.columns(); ++column)
+    for (int column = 0; column < m_rows.columns(); ++column) {
         sql += ", " + quotedName(m_source.columnName(column));
+    }
 
     const QByteArray order = quotedName(m_table->orderColumn);
     const bool textOrder = !m_table->orderColumn.isEmpty() && hasCollation(m_table->orderColumn);
-    if (textOrder)
+    if (textOrder) {
         sql += ", " + order;
+    }
     sql += " FROM " + quotedName(m_table->table);
-    if (!m_table->condition.isEmpty())
+    if (!m_table->condition.isEmpty()) {
         sql += " WHERE (" + m_table->condition + ")";
+    }
     if (!textOrder) {
         const QByteArray direction = m_table->descending ? " DESC" : " ASC";
         sql += " ORDER BY ";
-        if (!m_table->orderColumn.isEmpty())
+        if (!m_table->orderColumn.isEmpty()) {
             sql += order + direction + ", ";
+        }
         sql += "rowid" + direction;
     }
 
@@ -62,13 +68,15 @@ void Cursor::readTable() {
     RowCache::TextOrder texts(m_connection->collation());
     while (rows.step()) {
         m_rows.append(sqlite3_column_int64(rows.handle(), 0), rows.handle(), 1);
-        if (textOrder)
+        if (textOrder) {
             texts.append(m_rows, rows.handle(), 1 + m_rows.columns());
+        }
     }
     // Keys made once are compared as bytes: several times as fast as the engine's sorter, which calls the
     // collation for each comparison.
-    if (textOrder)
+    if (textOrder) {
         texts.apply(m_rows, m_table->descending);
+    }
 }
 
 /// True for a column declared COLLATE NOCASE. The engine would take an unknown name in quotes for a text, so
@@ -77,8 +85,9 @@ bool Cursor::hasCollation(const QByteArray &name) const {
     const char *collation = nullptr;
     if (sqlite3_table_column_metadata(m_connection->handle(), nullptr, m_table->table.constData(),
                                       name.constData(), nullptr, &collation, nullptr, nullptr,
-                                      nullptr) != SQLITE_OK)
+                                      nullptr) != SQLITE_OK) {
         m_connection->fail();
+    }
     return qstricmp(collation, "NOCASE") == 0;
 }
 
@@ -93,15 +102,18 @@ void Cursor::moveNext() {
 }
 
 void Cursor::requireRow() const {
-    if (m_deleted)
+    if (m_deleted) {
         throw DatabaseError("L'enregistrement en cours a été supprimé.");
-    if (atEnd())
+    }
+    if (atEnd()) {
         throw DatabaseError("Aucun enregistrement en cours.");
+    }
 }
 
 void Cursor::requireTable() const {
-    if (!m_table)
+    if (!m_table) {
         throw DatabaseError("Les lignes de cette requête ne peuvent pas être modifiées.");
+    }
 }
 
 /// Puts m_source on a row of the table; false when it is not there any more.
@@ -113,8 +125,9 @@ bool Cursor::readRow(qint64 rowid) {
 }
 
 void Cursor::dropRow() {
-    if (m_table && m_sourceOnRow)
+    if (m_table && m_sourceOnRow) {
         m_source.reset();
+    }
     m_sourceOnRow = false;
 }
 
@@ -124,30 +137,36 @@ void Cursor::dropChange() {
 }
 
 int Cursor::column(int position) const {
-    if (position < 0 || position >= m_source.columnCount())
+    if (position < 0 || position >= m_source.columnCount()) {
         throw DatabaseError("Élément non trouvé dans cette collection.");
+    }
     return position;
 }
 
 int Cursor::column(QStringView name) const {
     for (int position = 0; position < m_source.columnCount(); ++position) {
         const QUtf8StringView candidate(m_source.columnName(position));
-        if (QAnyStringView::compare(candidate, name, Qt::CaseInsensitive) == 0)
+        if (QAnyStringView::compare(candidate, name, Qt::CaseInsensitive) == 0) {
             return position;
+        }
     }
     throw DatabaseError(u"Élément non trouvé dans cette collection : " + name.toString());
 }
 
 QVariant Cursor::value(int column) {
-    if (const auto change = m_changes.find(column); change != m_changes.end())
+    if (const auto change = m_changes.find(column); change != m_changes.end()) {
         return change->second;
-    if (m_change == Change::Add)
+    }
+    if (m_change == Change::Add) {
         return {};
+    }
     requireRow();
-    if (column < m_rows.columns())
+    if (column < m_rows.columns()) {
         return m_rows.value(m_row, column);
-    if (!m_sourceOnRow && !readRow(m_rows.rowid(m_row)))
+    }
+    if (!m_sourceOnRow && !readRow(m_rows.rowid(m_row))) {
         throw DatabaseError("L'enregistrement en cours a été supprimé.");
+    }
     return columnValue(m_source.handle(), column);
 }
 
@@ -157,22 +176,25 @@ bool Cursor::isCached(int column) const {
 }
 
 QString Cursor::text(int column) {
-    if (!isCached(column))
+    if (!isCached(column)) {
         return value(column).toString();
+    }
     requireRow();
     return m_rows.text(m_row, column);
 }
 
 bool Cursor::isNull(int column) {
-    if (!isCached(column))
+    if (!isCached(column)) {
         return value(column).isNull();
+    }
     requireRow();
     return m_rows.isNull(m_row, column);
 }
 
 void Cursor::setValue(int column, const QVariant &value) {
-    if (m_change == Change::None)
+    if (m_change == Change::None) {
         throw DatabaseError("Aucune modification de l'enregistrement n'a été commencée.");
+    }
     m_changes[column] = value;
 }
 
@@ -191,12 +213,14 @@ void Cursor::edit() {
 
 void Cursor::update() {
     dropRow();
-    if (m_change == Change::None)
+    if (m_change == Change::None) {
         throw DatabaseError("Aucune modification de l'enregistrement n'a été commencée.");
-    if (m_change == Change::Add)
+    }
+    if (m_change == Change::Add) {
         insertRow();
-    else
+    } else {
         updateRow();
+    }
     dropChange();
 }
 
@@ -215,13 +239,15 @@ void Cursor::insertRow() {
         names.isEmpty() ? QByteArray("DEFAULT VALUES") : "(" + names + ") VALUES (" + marks + ")";
     Statement insert(m_connection, "INSERT INTO " + quotedName(m_table->table) + " " + values);
     int parameter = 0;
-    for (const auto &[column, value] : m_changes)
+    for (const auto &[column, value] : m_changes) {
         insert.bind(++parameter, value);
+    }
     insert.step();
 
     m_lastModified = sqlite3_last_insert_rowid(m_connection->handle());
-    if (readRow(m_lastModified))
+    if (readRow(m_lastModified)) {
         m_rows.append(m_lastModified, m_source.handle());
+    }
     dropRow();
 }
 
@@ -233,32 +259,37 @@ void Cursor::updateRow() {
         return change.second.toLongLong() == rowid && isRowNumber(change.first);
     });
     m_lastModified = rowid;
-    if (m_changes.empty())
+    if (m_changes.empty()) {
         return;
+    }
 
     QByteArray assignments;
     for (const auto &[column, value] : m_changes) {
         assignments += (assignments.isEmpty() ? "" : ", ") + columnName(column) + " = ?";
-        if (isRowNumber(column))
+        if (isRowNumber(column)) {
             m_lastModified = value.toLongLong();
+        }
     }
     Statement update(m_connection,
                      "UPDATE " + quotedName(m_table->table) + " SET " + assignments + " WHERE rowid = ?");
     int parameter = 0;
-    for (const auto &[column, value] : m_changes)
+    for (const auto &[column, value] : m_changes) {
         update.bind(++parameter, value);
+    }
     update.bind(++parameter, rowid);
     update.step();
     requireChange();
 
-    if (readRow(m_lastModified))
+    if (readRow(m_lastModified)) {
         m_rows.replace(m_row, m_lastModified, m_source.handle());
+    }
 }
 
 /// Fails when the statement just run found its row gone.
 void Cursor::requireChange() const {
-    if (sqlite3_changes(m_connection->handle()) == 0)
+    if (sqlite3_changes(m_connection->handle()) == 0) {
         throw DatabaseError("L'enregistrement en cours a été supprimé.");
+    }
 }
 
 /// True for a column declared INTEGER PRIMARY KEY: its value is the number of the row.
@@ -290,8 +321,9 @@ RowMark Cursor::bookmark() const {
 
 void Cursor::setBookmark(RowMark mark) {
     const qsizetype row = m_rows.find(qint64(mark));
-    if (row < 0)
+    if (row < 0) {
         throw DatabaseError("Cet enregistrement ne fait pas partie de la requête.");
+    }
     dropChange();
     dropRow();
     m_row = row;

@@ -34,14 +34,16 @@ void Database::Execute(const QString &sql) {
 }
 
 void Database::Close() {
-    if (m_connection)
+    if (m_connection) {
         m_connection->close();
+    }
     m_connection.reset();
 }
 
 const std::shared_ptr<Connection> &Database::open() const {
-    if (!m_connection)
+    if (!m_connection) {
         throw DatabaseError("La base de données est fermée.");
+    }
     return m_connection;
 }
 

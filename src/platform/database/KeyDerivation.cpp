@@ -35,10 +35,11 @@ class Hmac {
 public:
     explicit Hmac(const QByteArray &key) {
         Block padded{};
-        if (key.size() > SHA_CBLOCK)
+        if (key.size() > SHA_CBLOCK) {
             SHA1(reinterpret_cast<const uchar *>(key.constData()), size_t(key.size()), padded.data());
-        else
+        } else {
             std::copy(key.cbegin(), key.cend(), padded.begin());
+        }
         m_inner = stateAfter(padded, 0x36);
         m_outer = stateAfter(padded, 0x5c);
         m_block[SHA_DIGEST_LENGTH] = 0x80;
@@ -63,8 +64,9 @@ public:
 
 private:
     static SHA_CTX stateAfter(Block padded, uchar mask) {
-        for (uchar &byte : padded)
+        for (uchar &byte : padded) {
             byte ^= mask;
+        }
         SHA_CTX state{};
         SHA1_Init(&state);
         SHA1_Update(&state, padded.data(), padded.size());
@@ -93,8 +95,9 @@ QByteArray pbkdf2Sha1(const QByteArray &passphrase, const QByteArray &salt, int 
         Digest sum = link;
         for (int round = 1; round < rounds; ++round) {
             link = hmac(link);
-            for (size_t i = 0; i < sum.size(); ++i)
+            for (size_t i = 0; i < sum.size(); ++i) {
                 sum[i] ^= link[i];
+            }
         }
         std::array<uchar, SHA_DIGEST_LENGTH> bytes{};
         store(sum, bytes.data());
@@ -112,15 +115,17 @@ KeyCache &KeyCache::instance() {
 QByteArray KeyCache::key(const QByteArray &passphrase, const QByteArray &salt) {
     const std::lock_guard lock(m_mutex);
     QByteArray &key = m_keys[{passphrase, salt}];
-    if (key.isEmpty())
+    if (key.isEmpty()) {
         key = pbkdf2Sha1(passphrase, salt, kCipherRounds, kKeySize);
+    }
     return key;
 }
 
 void KeyCache::prepare(const QByteArray &passphrase, std::function<QByteArray()> readSalt) {
     m_threads.emplace_back([this, passphrase, readSalt = std::move(readSalt)] {
-        if (const QByteArray salt = readSalt(); !salt.isEmpty())
+        if (const QByteArray salt = readSalt(); !salt.isEmpty()) {
             key(passphrase, salt);
+        }
     });
 }
 

@@ -36,9 +36,11 @@ qsizetype endOfToken(QStringView sql, qsizetype begin) {
         return close < 0 ? sql.size() : close + 1;
     }
     qsizetype end = begin + 1;
-    if (isWordCharacter(first))
-        while (end < sql.size() && isWordCharacter(sql[end]))
+    if (isWordCharacter(first)) {
+        while (end < sql.size() && isWordCharacter(sql[end])) {
             ++end;
+        }
+    }
     return end;
 }
 
@@ -62,9 +64,11 @@ size_t findOutside(const std::vector<Token> &tokens, size_t from, std::initializ
     int depth = 0;
     for (size_t i = from; i < tokens.size(); ++i) {
         depth += int(tokens[i].is(u"(")) - int(tokens[i].is(u")"));
-        for (const QStringView word : words)
-            if (depth == 0 && tokens[i].is(word))
+        for (const QStringView word : words) {
+            if (depth == 0 && tokens[i].is(word)) {
                 return i;
+            }
+        }
     }
     return tokens.size();
 }
@@ -73,8 +77,9 @@ size_t findOutside(const std::vector<Token> &tokens, size_t from, std::initializ
 bool parseOrder(const std::vector<Token> &tokens, size_t at, TableQuery &query) {
     const size_t count = tokens.size() - at;
     if (count < 3 || count > 4 || !tokens[at].is(u"order") || !tokens[at + 1].is(u"by") ||
-        !tokens[at + 2].isName())
+        !tokens[at + 2].isName()) {
         return false;
+    }
     query.orderColumn = tokens[at + 2].name();
     query.descending = count == 4 && tokens[at + 3].is(u"desc");
     return count == 3 || query.descending || tokens[at + 3].is(u"asc");
@@ -91,8 +96,9 @@ std::optional<TableQuery> parseTableQuery(const QString &statement) {
     const QString sql = withoutSemicolon(statement);
     const std::vector<Token> tokens = tokenize(sql);
     if (tokens.size() < 4 || !tokens[0].is(u"select") || !tokens[1].is(u"*") || !tokens[2].is(u"from") ||
-        !tokens[3].isName())
+        !tokens[3].isName()) {
         return std::nullopt;
+    }
 
     TableQuery query;
     query.table = tokens[3].name();
@@ -101,18 +107,21 @@ std::optional<TableQuery> parseTableQuery(const QString &statement) {
         at = findOutside(tokens, 5, {u"order", u"group", u"limit", u"union", u"except", u"intersect", u";"});
         const qsizetype end = at < tokens.size() ? tokens[at].begin : sql.size();
         query.condition = QStringView(sql).first(end).sliced(tokens[4].end).trimmed().toUtf8();
-        if (query.condition.isEmpty())
+        if (query.condition.isEmpty()) {
             return std::nullopt;
+        }
     }
-    if (at < tokens.size() && !parseOrder(tokens, at, query))
+    if (at < tokens.size() && !parseOrder(tokens, at, query)) {
         return std::nullopt;
+    }
     return query;
 }
 
 QString withoutDeleteStar(const QString &sql) {
     const std::vector<Token> tokens = tokenize(sql);
-    if (tokens.size() > 2 && tokens[0].is(u"delete") && tokens[1].is(u"*") && tokens[2].is(u"from"))
+    if (tokens.size() > 2 && tokens[0].is(u"delete") && tokens[1].is(u"*") && tokens[2].is(u"from")) {
         return u"DELETE " + sql.sliced(tokens[2].begin);
+    }
     return sql;
 }
 

@@ -33,8 +33,9 @@ Recordset &Recordset::operator=(Recordset &&) noexcept = default;
 Recordset::~Recordset() = default;
 
 Cursor &Recordset::cursor() const {
-    if (!m_cursor)
+    if (!m_cursor) {
         throw DatabaseError("Le jeu d'enregistrements est fermé.");
+    }
     return *m_cursor;
 }
 

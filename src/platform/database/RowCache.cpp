@@ -60,8 +60,9 @@ RowCache::Cell RowCache::store(sqlite3_stmt *statement, int column) {
 
 RowCache::Row RowCache::read(qint64 rowid, sqlite3_stmt *statement, int firstColumn) {
     const Row row{rowid, m_cells.size()};
-    for (int column = 0; column < m_columns; ++column)
+    for (int column = 0; column < m_columns; ++column) {
         m_cells.push_back(store(statement, firstColumn + column));
+    }
     return row;
 }
 
@@ -122,8 +123,9 @@ void RowCache::TextOrder::append(const RowCache &cache, sqlite3_stmt *statement,
 /// The bytes of a sort key from a depth on, 0 behind its end, as a number that is in their order.
 quint64 RowCache::TextOrder::wordAt(const Text &text, size_t depth) const {
     quint64 bytes = 0;
-    if (depth < text.size)
+    if (depth < text.size) {
         std::memcpy(&bytes, m_bytes.data() + text.offset + depth, std::min(text.size - depth, sizeof bytes));
+    }
     return qFromBigEndian(bytes);
 }
 
@@ -132,8 +134,9 @@ quint64 RowCache::TextOrder::wordAt(const Text &text, size_t depth) const {
 bool RowCache::TextOrder::before(const Key &left, const Key &right, size_t depth) const {
     const Text &a = m_texts[left.text];
     const Text &b = m_texts[right.text];
-    if (a.present != b.present)
+    if (a.present != b.present) {
         return b.present;
+    }
     const std::string_view bytes(m_bytes);
     const auto rest = [&](const Text &text) {
         const size_t equal = std::min(depth, text.size);
@@ -153,25 +156,29 @@ void RowCache::TextOrder::sortFrom(std::span<Key> keys, size_t depth) {
                   [this, depth](const Key &a, const Key &b) { return before(a, b, depth); });
         return;
     }
-    for (Key &key : keys)
+    for (Key &key : keys) {
         key.word = wordAt(m_texts[key.text], depth);
+    }
     std::sort(keys.begin(), keys.end(), [](const Key &a, const Key &b) { return a.word < b.word; });
     for (auto first = keys.begin(); first != keys.end();) {
         const auto last =
             std::find_if(first, keys.end(), [first](const Key &key) { return key.word != first->word; });
-        if (last - first > 1)
+        if (last - first > 1) {
             sortFrom({first, last}, depth + sizeof(quint64));
+        }
         first = last;
     }
 }
 
 void RowCache::TextOrder::apply(RowCache &cache, bool descending) {
     std::vector<Key> keys(m_texts.size());
-    for (size_t text = 0; text < keys.size(); ++text)
+    for (size_t text = 0; text < keys.size(); ++text) {
         keys[text] = {0, text};
+    }
     sortFrom(keys, 0);
-    if (descending)
+    if (descending) {
         std::reverse(keys.begin(), keys.end());
+    }
     std::transform(keys.begin(), keys.end(), cache.m_rows.begin(),
                    [this](const Key &key) { return m_texts[key.text].row; });
 }

@@ -10,8 +10,9 @@
 namespace platform::database {
 
 void Statement::Finalizer::operator()(sqlite3_stmt *statement) const {
-    if (connection->isOpen())
+    if (connection->isOpen()) {
         sqlite3_finalize(statement);
+    }
 }
 
 Statement::Statement(const std::shared_ptr<Connection> &connection, const QByteArray &sql)
@@ -20,11 +21,13 @@ Statement::Statement(const std::shared_ptr<Connection> &connection, const QByteA
     const char *rest = nullptr;
     const int result =
         sqlite3_prepare_v2(connection->handle(), sql.constData(), int(sql.size()) + 1, &statement, &rest);
-    if (result != SQLITE_OK)
+    if (result != SQLITE_OK) {
         connection->fail();
+    }
     m_statement.reset(statement);
-    if (!statement || !QByteArrayView(rest).trimmed().isEmpty())
+    if (!statement || !QByteArrayView(rest).trimmed().isEmpty()) {
         throw DatabaseError("Une seule instruction SQL est attendue.");
+    }
 }
 
 sqlite3_stmt *Statement::handle() const {
@@ -33,8 +36,9 @@ sqlite3_stmt *Statement::handle() const {
 }
 
 void Statement::check(int result) const {
-    if (result != SQLITE_OK)
+    if (result != SQLITE_OK) {
         m_statement.get_deleter().connection->fail();
+    }
 }
 
 void Statement::bind(int parameter, qint64 number) {
@@ -71,8 +75,9 @@ void Statement::bind(int parameter, const QVariant &value) {
 
 bool Statement::step() {
     const int result = sqlite3_step(handle());
-    if (result != SQLITE_ROW && result != SQLITE_DONE)
+    if (result != SQLITE_ROW && result != SQLITE_DONE) {
         m_statement.get_deleter().connection->fail();
+    }
     return result == SQLITE_ROW;
 }
 
