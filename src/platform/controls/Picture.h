@@ -19,8 +19,7 @@ public:
 QImage LoadPicture(const QString &path);
 
 /// A picture of the program's own resources, in the resolution of the screen: ":/icones/vue-0.png", or its
-/// double
-/// ":/icones/vue-0@2x.png" where pixels are small. Null when there is none.
+/// double ":/icones/vue-0@2x.png" where pixels are small. Null when there is none.
 QPixmap resourcePicture(const QString &path);
 
 /// Shows a picture stretched over its whole area, smooth, in the resolution of the screen.
