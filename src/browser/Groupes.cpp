@@ -1,11 +1,9 @@
 #include "Frmmain.h"
-#include "Vues.h"
+#include "TableDesVues.h"
 
 #include "platform/database/DatabaseError.h"
 #include "store/Livre.h"
 #include "store/Textes.h"
-
-#include <array>
 
 namespace browser {
 
@@ -14,10 +12,6 @@ namespace {
 using platform::controls::DuplicateKeyError;
 using platform::controls::List;
 using platform::database::DatabaseError;
-
-/// The column of Cocktails that refers to the rows of a view; none for the recipes and the ingredients.
-constexpr std::array<QStringView, kNombreDeVues> kColonnes{
-    u"", u"NCategorie", u"NVerre", u"Cout", u"Difficulte", u"NReal", u"", u"NDureeReal"};
 
 // In LFilms every row is a recipe.
 constexpr int kIconeRecette = 1;
@@ -48,11 +42,11 @@ void AjouterSiLisible(List::Loading &lignes, platform::database::Database &base,
 } // namespace
 
 void ChargerRecettesVue(Frmmain &frm, int vue) {
+    const Vue *choisie = VueNumero(vue);
     if (vue == kVueIngredients) {
         ChargerRecettesIngredient(frm);
-    } else if (vue > 0 && vue < kNombreDeVues) {
-        ChargerRecettesCritere(frm, QStringLiteral("Cocktails"),
-                               kColonnes[static_cast<std::size_t>(vue)].toString());
+    } else if (choisie != nullptr && !choisie->colonne.isEmpty()) {
+        ChargerRecettesCritere(frm, QStringLiteral("Cocktails"), choisie->colonne.toString());
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "Fiche.h"
 #include "Frmmain.h"
+#include "TableDesVues.h"
 
 #include "platform/controls/WaitPointer.h"
 #include "platform/settings/Conversion.h"
@@ -10,10 +11,6 @@
 #include "store/Livre.h"
 #include "store/Programme.h"
 #include "store/Textes.h"
-#include "store/Vocabulaires.h"
-
-#include <array>
-#include <span>
 
 namespace browser {
 
@@ -24,30 +21,6 @@ namespace settings = platform::settings;
 
 const QString kSection = QStringLiteral("Settings");
 const QString kTris = QStringLiteral("Tris");
-
-/// One sort view. A view of a fixed vocabulary has no table; its rows cannot be renamed.
-struct Vue {
-    QStringView table, cle, entete, suffixe;
-    std::span<const QStringView> vocabulaire{};
-};
-
-// The last slot of Cout has never held a class.
-constexpr std::span<const QStringView> kCouts = std::span(store::Cout).first(5);
-
-constexpr std::array<Vue, kNombreDeVues> kVues{
-    Vue{u"Cocktails", u"Numero", u" Liste des Recettes ", u" Recette(s) ..."},
-    Vue{u"Categorie", u"NCategorie", u" Liste des Durées de Cuisson ", u" Durée(s)  de Cuisson ..."},
-    Vue{u"Verre", u"NVerre", u" Liste des Nombres de Personnes", u" Nombre(s) de Personnes ..."},
-    Vue{u"", u"", u"  Coûts ", u"", kCouts},
-    Vue{u"", u"", u" Niveaux de difficulté", u"", store::Difficulte},
-    Vue{u"Realisation", u"NRealisation", u" Types de Plats", u""},
-    Vue{u"Ingredient", u"NIngredient", u" Liste des Ingrédients", u" Ingrédient(s) ..."},
-    Vue{u"DureeReal", u"NDureeReal", u" Durée de Réalisation", u" Durée(s) de Réalisation ..."},
-};
-
-const Vue *VueNumero(int vue) {
-    return vue >= 0 && vue < kNombreDeVues ? &kVues[static_cast<std::size_t>(vue)] : nullptr;
-}
 
 // In every lookup table the text column has the name of the table.
 QString ChampTexte(int vue, const QString &table) {
