@@ -1,6 +1,7 @@
 #include "MessageBox.h"
 
-#include <QKeyEvent>
+#include "FirstPressOnly.h"
+
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -22,21 +23,9 @@ QMessageBox::Icon toolkitIcon(Icon icon) {
     return QMessageBox::NoIcon;
 }
 
-/// Keeps the repeats of a key that was held down when a box came from answering it unseen.
-class FirstPressOnly : public QObject {
-public:
-    bool eventFilter(QObject * /*watched*/, QEvent *event) override {
-        return event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->isAutoRepeat();
-    }
-};
-
-int show(QMessageBox &box) {
-    FirstPressOnly filter;
-    box.installEventFilter(&filter);
-    for (QAbstractButton *button : box.buttons()) {
-        button->installEventFilter(&filter);
-    }
-    return box.exec();
+void show(QMessageBox &box) {
+    const FirstPressOnly guard(box);
+    box.exec();
 }
 
 void prepare(QMessageBox &box, const QString &title, const QString &text, Icon icon) {

@@ -1,0 +1,52 @@
+#include "FileDialog.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+
+namespace platform::dialogs {
+
+namespace {
+
+QStringList nameFilters(const QString &filter) {
+    const QStringList parts = filter.split(QLatin1Char('|'));
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        const QString patterns = QString(parts[i + 1]).replace(QLatin1Char(';'), QLatin1Char(' '));
+        // The dialog shows all before the last bracket, so no blank stands there.
+        filters.append(parts[i] + QLatin1Char('(') + patterns + QLatin1Char(')'));
+    }
+    return filters;
+}
+
+QString choose(QFileDialog &dialog, const QString &filter, const QString &start) {
+    constexpr QSize kSize(720, 480); // pixels; on the smallest screen it leaves the window in sight
+    dialog.resize(kSize);
+    dialog.setViewMode(QFileDialog::List);
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.setNameFilters(nameFilters(filter));
+    if (const QFileInfo place(start); place.isDir()) {
+        dialog.setDirectory(start);
+    } else {
+        dialog.setDirectory(place.path());
+        dialog.selectFile(place.fileName());
+    }
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+} // namespace
+
+QString ShowOpen(QWidget *parent, const QString &title, const QString &filter, const QString &start) {
+    QFileDialog dialog(parent, title);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return choose(dialog, filter, start);
+}
+
+QString ShowSave(QWidget *parent, const QString &title, const QString &filter, const QString &start,
+                 const QString &suffix) {
+    QFileDialog dialog(parent, title);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(suffix);
+    return choose(dialog, filter, start);
+}
+
+} // namespace platform::dialogs

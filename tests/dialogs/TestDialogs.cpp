@@ -1,0 +1,187 @@
+#include "platform/dialogs/ColourDialog.h"
+#include "platform/dialogs/FileDialog.h"
+#include "platform/dialogs/InputBox.h"
+#include "platform/dialogs/MessageBox.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QColorDialog>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QMessageBox>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <memory>
+
+using namespace platform::dialogs;
+
+namespace {
+
+/// Runs a function on the next modal dialog of a class, and closes it if that left it open, so that a failed check
+/// does not block the test.
+template <class Dialog, class Function>
+std::unique_ptr<QTimer> answering(Function answer) {
+    auto timer = std::make_unique<QTimer>();
+    QObject::connect(timer.get(), &QTimer::timeout, timer.get(), [answer, &timer = *timer] {
+        auto *dialog = qobject_cast<Dialog *>(QApplication::activeModalWidget());
+        if (dialog && dialog->isActiveWindow()) {
+            timer.stop();
+            answer(*dialog);
+            if (dialog->isVisible()) {
+                dialog->reject();
+            }
+        }
+    });
+    timer->start(10);
+    return timer;
+}
+
+void holdKey(QWidget *widget, Qt::Key key, const QString &text = {}) {
+    QKeyEvent repeat(QEvent::KeyPress, key, Qt::NoModifier, text, true);
+    QApplication::sendEvent(widget, &repeat);
+}
+
+QLineEdit *nameField(QFileDialog &dialog) {
+    return dialog.findChild<QLineEdit *>(u"fileNameEdit"_qs);
+}
+
+QStringList filesShown(QFileDialog &dialog) {
+    auto *view = dialog.findChild<QListView *>(u"listView"_qs);
+    QStringList names;
+    for (int row = 0; row < view->model()->rowCount(view->rootIndex()); ++row) {
+        names.append(view->model()->index(row, 0, view->rootIndex()).data().toString());
+    }
+    names.sort();
+    return names;
+}
+
+const QString kFilter = u"Images (*.bmp,*.jpg)|*.bmp;*.jpg|Tout|*"_qs;
+
+} // namespace
+
+class TestDialogs : public QObject {
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_folder;
+
+    QString path(const QString &name) const { return m_folder.filePath(name); }
+
+    /// The path that the save dialog gives for a typed name, and whether it asked before, being answered so.
+    std::pair<QString, bool> save(const QString &name,
+                                  QMessageBox::StandardButton answer = QMessageBox::Yes) {
+        bool asked = false;
+        const auto user = answering<QFileDialog>([&](QFileDialog &dialog) {
+            const auto replacing = answering<QMessageBox>([&](QMessageBox &question) {
+                asked = true;
+                question.button(answer)->click();
+            });
+            nameField(dialog)->setText(name);
+            QTest::keyClick(nameField(dialog), Qt::Key_Return);
+        });
+        const QString chosen = ShowSave(nullptr, u"Enregistrer"_qs, kFilter, m_folder.path(), u"bmp"_qs);
+        return {chosen, asked};
+    }
+
+private Q_SLOTS:
+
+    void initTestCase() {
+        // The file dialog remembers its places in the user's settings.
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, path(u"reglages"_qs));
+        QDir(m_folder.path()).mkdir(u"images"_qs);
+        for (const QString &name :
+             {u"images/A.JPG"_qs, u"images/l'été b.bmp"_qs, u"images/c.txt"_qs, u"vieux.bmp"_qs}) {
+            QVERIFY(QFile(path(name)).open(QIODevice::WriteOnly));
+        }
+    }
+
+    void heldKeyAnswersNoQuestion() {
+        const auto user = answering<QMessageBox>([](QMessageBox &box) {
+            for (QWidget *widget : {QApplication::focusWidget(), static_cast<QWidget *>(&box)}) {
+                holdKey(widget, Qt::Key_Return);
+                holdKey(widget, Qt::Key_Escape);
+            }
+            QVERIFY(box.isVisible());
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        });
+        QVERIFY(Ask(nullptr, u"Titre"_qs, u"Question ?"_qs));
+    }
+
+    void heldKeyGoesIntoTheInputOnly() {
+        const auto user = answering<QInputDialog>([](QInputDialog &box) {
+            auto *field = box.findChild<QLineEdit *>();
+            QVERIFY(field->hasFocus());
+            holdKey(field, Qt::Key_Return);
+            holdKey(field, Qt::Key_Escape);
+            holdKey(field, Qt::Key_A, u"a"_qs);
+            QVERIFY(box.isVisible());
+            QTest::keyClick(field, Qt::Key_Return);
+        });
+        QCOMPARE(InputBox(nullptr, u"Titre"_qs, u"Texte"_qs), std::optional(u"a"_qs));
+    }
+
+    void inputKeepsTheTextWhole() {
+        const QString text = u"  L'été \"d'or\" & <b>🍓</b> %1 "_qs + QString(50'000, u'x');
+        const auto user = answering<QInputDialog>([&](QInputDialog &box) {
+            QCOMPARE(box.findChild<QLabel *>()->textFormat(), Qt::PlainText);
+            box.findChild<QLineEdit *>()->insert(text);
+            box.accept();
+        });
+        QCOMPARE(InputBox(nullptr, u"Titre"_qs, u"<b>Saisir</b>"_qs), std::optional(text));
+    }
+
+    void emptyInputIsNotCancelling() {
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+            const auto user =
+                answering<QInputDialog>([key](QInputDialog &box) { QTest::keyClick(&box, key); });
+            QCOMPARE(InputBox(nullptr, u"Titre"_qs, u"Texte"_qs).has_value(), key == Qt::Key_Return);
+        }
+    }
+
+    void filterShowsItsDescriptionAndFitsAnyCase() {
+        QWidget hidden;
+        const auto user = answering<QFileDialog>([](QFileDialog &dialog) {
+            auto *types = dialog.findChild<QComboBox *>(u"fileTypeCombo"_qs);
+            QCOMPARE(types->itemText(0), u"Images (*.bmp,*.jpg)"_qs);
+            QCOMPARE(types->itemText(1), u"Tout"_qs);
+            QTRY_COMPARE(filesShown(dialog), (QStringList{u"A.JPG"_qs, u"l'été b.bmp"_qs}));
+            nameField(dialog)->setText(u"l'été b.bmp"_qs);
+            QTest::keyClick(nameField(dialog), Qt::Key_Return);
+        });
+        QCOMPARE(ShowOpen(&hidden, u"Ouvrir"_qs, kFilter, path(u"images"_qs)),
+                 path(u"images/l'été b.bmp"_qs));
+    }
+
+    void cancelledOpeningGivesNothing() {
+        const auto user = answering<QFileDialog>([](QFileDialog &dialog) {
+            // The file given as the start is the one proposed.
+            QCOMPARE(dialog.directory().dirName(), u"images"_qs);
+            QCOMPARE(nameField(dialog)->text(), u"A.JPG"_qs);
+            dialog.reject();
+        });
+        QCOMPARE(ShowOpen(nullptr, u"Ouvrir"_qs, kFilter, path(u"images/A.JPG"_qs)), QString());
+    }
+
+    void savingCompletesTheNameBeforeItAsks() {
+        QCOMPARE(save(u"neuf"_qs), std::pair(path(u"neuf.bmp"_qs), false));
+        QCOMPARE(save(u"neuf.ico"_qs), std::pair(path(u"neuf.ico"_qs), false));
+        QCOMPARE(save(u"vieux"_qs), std::pair(path(u"vieux.bmp"_qs), true));
+        QCOMPARE(save(u"vieux"_qs, QMessageBox::No), std::pair(QString(), true));
+    }
+
+    void cancelledColourIsNotBlack() {
+        const auto user = answering<QColorDialog>([](QColorDialog &dialog) { dialog.reject(); });
+        QCOMPARE(ShowColor(nullptr, Qt::black), std::nullopt);
+    }
+};
+
+QTEST_MAIN(TestDialogs)
+#include "TestDialogs.moc"
