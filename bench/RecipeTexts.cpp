@@ -45,6 +45,7 @@ constexpr std::array kSteps{
 
 constexpr int kShortestText = 1100; // bytes of RTF
 constexpr int kLongestText = 3900;
+constexpr int kLongText = 14'000;
 // Prime, so that neighbours in number are not neighbours in the alphabet, and no title comes twice.
 constexpr std::size_t kStride = 7919;
 
@@ -60,6 +61,18 @@ QByteArray escaped(QStringView text) {
         }
     }
     return rtf;
+}
+
+QByteArray rtfOfSize(std::mt19937 &random, int size) {
+    QByteArray rtf = "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fnil\\fcharset0 Verdana;}}\r\n"
+                     "{\\colortbl ;\\red160\\green250\\blue255;\\red255\\green255\\blue0;}\r\n"
+                     "\\viewkind4\\uc1\\pard\\cf1\\lang1036\\f0\\fs18 ";
+    for (int paragraph = 1; rtf.size() < size; ++paragraph) {
+        const auto &step = kSteps[random() % kSteps.size()];
+        rtf += "\\cf2\\b " + QByteArray::number(paragraph) + ".\\cf1\\b0  " + escaped(step) + ' ' +
+               escaped(kSteps[random() % kSteps.size()]) + "\\par\r\n";
+    }
+    return rtf + "}\r\n";
 }
 
 } // namespace
@@ -84,15 +97,12 @@ QByteArray lookupText(int number) {
 QByteArray recipeRtf(int seed) {
     std::mt19937 random(static_cast<unsigned>(seed));
     const int size = std::uniform_int_distribution(kShortestText, kLongestText)(random);
-    QByteArray rtf = "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fnil\\fcharset0 Verdana;}}\r\n"
-                     "{\\colortbl ;\\red160\\green250\\blue255;\\red255\\green255\\blue0;}\r\n"
-                     "\\viewkind4\\uc1\\pard\\cf1\\lang1036\\f0\\fs18 ";
-    for (int paragraph = 1; rtf.size() < size; ++paragraph) {
-        const auto &step = kSteps[random() % kSteps.size()];
-        rtf += "\\cf2\\b " + QByteArray::number(paragraph) + ".\\cf1\\b0  " + escaped(step) + ' ' +
-               escaped(kSteps[random() % kSteps.size()]) + "\\par\r\n";
-    }
-    return rtf + "}\r\n";
+    return rtfOfSize(random, size);
+}
+
+QByteArray longRecipeRtf() {
+    std::mt19937 random;
+    return rtfOfSize(random, kLongText);
 }
 
 } // namespace bench

@@ -14,4 +14,7 @@ QByteArray lookupText(int number);
 /// @param seed texts of different seeds differ in length and words
 QByteArray recipeRtf(int seed);
 
+/// The same with a text of 10,000 characters.
+QByteArray longRecipeRtf();
+
 } // namespace bench

@@ -15,6 +15,9 @@ void measureIngredients(const GeneratedBook &book, Report &report);
 /// A recipe displayed and painted, in a small and in a large book.
 void measureRecipe(const GeneratedBook &small, const GeneratedBook &large, Report &report);
 
+/// A key pressed in a long text, alone and with the text stored.
+void measureKeyStroke(const GeneratedBook &book, Report &report);
+
 /// From the start of the process to the painted main window, and the memory it has taken by then; offscreen,
 /// and on a virtual X display where there is one.
 void measureStart(const GeneratedBook &book, Report &report);

@@ -38,6 +38,7 @@ bool measureAll(const QString &resultFile) {
     }
     bench::measureIngredients(large, report);
     bench::measureRecipe(small, large, report);
+    bench::measureKeyStroke(large, report);
     report.writeJson(resultFile);
     return report.allReached();
 }

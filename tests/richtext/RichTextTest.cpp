@@ -1,97 +1,21 @@
+#include "Described.h"
+
 #include "platform/richtext/RichText.h"
 
 #include <QElapsedTimer>
-#include <QHash>
 #include <QRandomGenerator>
 #include <QTest>
-#include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
-#include <QTextList>
 
 using namespace platform::richtext;
 
 namespace {
 
-QString onOneLine(QString text) {
-    return text.replace(u'\n', u'|').replace(QChar::LineSeparator, u'/');
-}
-
-void describeLength(QString &result, const char *name, qreal pixels) {
-    if (pixels != 0) {
-        result += QLatin1String(name) + QString::number(qRound(pixels * 15)) + u' ';
-    }
-}
-
-QString describe(const QTextBlock &block) {
-    static const QHash<int, QString> alignments{{Qt::AlignRight, QStringLiteral("right ")},
-                                                {Qt::AlignHCenter, QStringLiteral("centre ")},
-                                                {Qt::AlignJustify, QStringLiteral("justified ")}};
-    static const QHash<int, QString> lists{{QTextListFormat::ListDisc, QStringLiteral("bullet ")},
-                                           {QTextListFormat::ListDecimal, QStringLiteral("number ")},
-                                           {QTextListFormat::ListLowerAlpha, QStringLiteral("letter ")},
-                                           {QTextListFormat::ListUpperRoman, QStringLiteral("ROMAN ")}};
-    const QTextBlockFormat format = block.blockFormat();
-    QString result = alignments.value(int(format.alignment()));
-    if (block.textList() != nullptr) {
-        result += lists.value(block.textList()->format().style());
-    }
-    describeLength(result, "li", format.leftMargin());
-    describeLength(result, "ri", format.rightMargin());
-    describeLength(result, "fi", format.textIndent());
-    describeLength(result, "sb", format.topMargin());
-    describeLength(result, "sa", format.bottomMargin());
-    for (const QTextOption::Tab &tab : format.tabPositions()) {
-        describeLength(result, tab.type == QTextOption::RightTab ? "rtab" : "tab", tab.position);
-    }
-    return result.trimmed();
-}
-
-/// What a format sets, and nothing of what it leaves to the document.
-QString describe(const QTextCharFormat &format) {
-    QString result;
-    for (const QString &family : format.fontFamilies().toStringList()) {
-        result += family + u' ';
-    }
-    if (format.hasProperty(QTextFormat::FontPointSize)) {
-        result += QString::number(format.fontPointSize()) + QStringLiteral("pt ");
-    }
-    if (format.hasProperty(QTextFormat::ForegroundBrush)) {
-        result += format.foreground().color().name() + u' ';
-    }
-    if (format.hasProperty(QTextFormat::BackgroundBrush)) {
-        result += QStringLiteral("on ") + format.background().color().name() + u' ';
-    }
-    result += format.hasProperty(QTextFormat::FontWeight) ? QStringLiteral("bold ") : QString();
-    result += format.hasProperty(QTextFormat::FontItalic) ? QStringLiteral("italic ") : QString();
-    result +=
-        format.underlineStyle() != QTextCharFormat::NoUnderline ? QStringLiteral("underline ") : QString();
-    result += format.hasProperty(QTextFormat::FontStrikeOut) ? QStringLiteral("strike ") : QString();
-    return result.trimmed();
-}
-
-/// A document as text: "<paragraph format>" where one is set, runs as "[format:text]" where one is set, and
-/// the format of the paragraph's end as "[format]"; paragraphs parted by "|".
-QString describe(const QTextDocument &document) {
-    QStringList blocks;
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        const QString paragraph = describe(block);
-        QString text = paragraph.isEmpty() ? QString() : u'<' + paragraph + u'>';
-        for (auto part = block.begin(); !part.atEnd(); ++part) {
-            const QString format = describe(part.fragment().charFormat());
-            const QString run = part.fragment().text();
-            text += format.isEmpty() ? run : u'[' + format + u':' + run + u']';
-        }
-        const QString mark = describe(block.charFormat());
-        blocks += mark.isEmpty() ? text : text + u'[' + mark + u']';
-    }
-    return onOneLine(blocks.join(u'|'));
-}
-
 QString described(const QString &stored) {
     QTextDocument document;
     load(document, stored);
-    return describe(document);
+    return described(document);
 }
 
 QString rtf(const char *body) {
@@ -271,8 +195,8 @@ void RichTextTest::writesAndReadsBack() {
 
     QTextDocument second;
     load(second, toRtf(first));
-    QCOMPARE(describe(second), describe(first));
-    QCOMPARE(described(toRtf(second)), describe(first));
+    QCOMPARE(described(second), described(first));
+    QCOMPARE(described(toRtf(second)), described(first));
 }
 
 void RichTextTest::writesWhatOtherProgramsRead() {
@@ -302,7 +226,7 @@ void RichTextTest::replacesWhatWasThere() {
     load(document, rtf("{\\pntext\\'B7}\\b a\\par b}"));
     QTextCursor(&document).insertText(QStringLiteral("typed"));
     load(document, QStringLiteral("c"));
-    QCOMPARE(describe(document), QStringLiteral("c"));
+    QCOMPARE(described(document), QStringLiteral("c"));
     QVERIFY(document.isUndoRedoEnabled());
     QVERIFY(!document.isUndoAvailable());
     QVERIFY(!document.isModified());
@@ -317,7 +241,7 @@ void RichTextTest::readsEveryBeginningOfAText() {
         QTextDocument again;
         load(again, written);
         QCOMPARE(toRtf(again), written);
-        QCOMPARE(describe(again), describe(document));
+        QCOMPARE(described(again), described(document));
     }
 }
 

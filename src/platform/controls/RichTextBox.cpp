@@ -3,10 +3,16 @@
 #include "Fonts.h"
 #include "Skin.h"
 
+#include "platform/richtext/PastedText.h"
 #include "platform/richtext/RichText.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
+#include <QTextBlock>
+#include <algorithm>
+#include <array>
 
 namespace platform::controls {
 
@@ -16,6 +22,39 @@ constexpr Twips kMargin{120};
 const QColor kDarkGround(30, 42, 68);
 const QColor kDarkSelection(77, 108, 166);
 
+bool isBold(const QTextCharFormat &format) {
+    return format.fontWeight() >= QFont::DemiBold;
+}
+
+bool isItalic(const QTextCharFormat &format) {
+    return format.fontItalic();
+}
+
+bool isUnderlined(const QTextCharFormat &format) {
+    return format.fontUnderline();
+}
+
+/// True when all characters of the selection are so; without any, when what is typed next will be.
+bool isAll(const QTextEdit &box, bool (*isSo)(const QTextCharFormat &format)) {
+    const QTextCursor selection = box.textCursor();
+    const int start = selection.selectionStart();
+    const int end = selection.selectionEnd();
+    bool any = false;
+    for (QTextBlock block = box.document()->findBlock(start); block.isValid() && block.position() < end;
+         block = block.next()) {
+        for (auto part = block.begin(); !part.atEnd(); ++part) {
+            const QTextFragment run = part.fragment();
+            if (run.position() < end && run.position() + run.length() > start) {
+                if (!isSo(run.charFormat())) {
+                    return false;
+                }
+                any = true;
+            }
+        }
+    }
+    return any || isSo(box.currentCharFormat());
+}
+
 } // namespace
 
 RichTextEdit::RichTextEdit(QWidget *parent) : QTextEdit(parent) {
@@ -24,7 +63,9 @@ RichTextEdit::RichTextEdit(QWidget *parent) : QTextEdit(parent) {
     document()->setDocumentMargin(kMargin.pixels());
     colourScrollBar(*this, kDarkGround.lighter(150));
     SetDefaultColor(Qt::white);
-    connect(this, &QTextEdit::textChanged, this, &RichTextEdit::Change);
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    m_content = richtext::toRtf(*document());
+    connect(document(), &QTextDocument::contentsChanged, this, &RichTextEdit::followContent);
 }
 
 void RichTextEdit::SetDefaultColor(const QColor &colour) {
@@ -47,14 +88,26 @@ void RichTextEdit::focusOutEvent(QFocusEvent *event) {
     paintFocusFrame(*this, false);
 }
 
-QString RichTextEdit::TextRTF() const {
-    return richtext::toRtf(*document());
-}
-
 void RichTextEdit::SetTextRTF(const QString &text) {
     const QSignalBlocker quiet(this);
-    richtext::load(*document(), text);
+    {
+        const QScopedValueRollback loading(m_loading, true);
+        richtext::load(*document(), text);
+    }
+    followContent();
     moveCursor(QTextCursor::Start);
+}
+
+/// The document tells of acts that change nothing, too: the content itself decides.
+void RichTextEdit::followContent() {
+    if (m_loading) {
+        return;
+    }
+    QString content = richtext::toRtf(*document());
+    if (content != m_content) {
+        m_content = std::move(content);
+        Q_EMIT Change();
+    }
 }
 
 void RichTextEdit::Select(int start, int length) {
@@ -65,17 +118,113 @@ void RichTextEdit::Select(int start, int length) {
     setTextCursor(cursor);
 }
 
+void RichTextEdit::format(const QTextCharFormat &changes) {
+    mergeCurrentCharFormat(changes);
+    if (signalsBlocked()) {
+        document()->clearUndoRedoStacks();
+    }
+}
+
 void RichTextEdit::SetSelColor(const QColor &colour) {
-    setTextColor(colour);
+    QTextCharFormat changes;
+    changes.setForeground(colour);
+    format(changes);
 }
 
 void RichTextEdit::SetSelBold(bool bold) {
-    setFontWeight(bold ? QFont::Bold : QFont::Normal);
+    QTextCharFormat changes;
+    changes.setFontWeight(bold ? QFont::Bold : QFont::Normal);
+    format(changes);
+}
+
+void RichTextEdit::toggleBold() {
+    SetSelBold(!isAll(*this, isBold));
+}
+
+void RichTextEdit::toggleItalic() {
+    QTextCharFormat changes;
+    changes.setFontItalic(!isAll(*this, isItalic));
+    format(changes);
+}
+
+void RichTextEdit::toggleUnderline() {
+    QTextCharFormat changes;
+    changes.setFontUnderline(!isAll(*this, isUnderlined));
+    format(changes);
+}
+
+RichTextEdit::KeyAction RichTextEdit::actionOf(const QKeyEvent &event) {
+    struct Key {
+        QKeyCombination keys;
+        KeyAction act = nullptr;
+    };
+
+    // Ctrl+U deletes the line on some platforms, and Ctrl+Y or Ctrl+Shift+Z does nothing on others.
+    static constexpr std::array keys{
+        Key{Qt::CTRL | Qt::Key_B, &RichTextEdit::toggleBold},
+        Key{Qt::CTRL | Qt::Key_I, &RichTextEdit::toggleItalic},
+        Key{Qt::CTRL | Qt::Key_U, &RichTextEdit::toggleUnderline},
+        Key{Qt::CTRL | Qt::Key_Y, &RichTextEdit::redo},
+        Key{Qt::CTRL | Qt::SHIFT | Qt::Key_Z, &RichTextEdit::redo},
+    };
+    const auto *found = std::find_if(keys.begin(), keys.end(),
+                                     [&event](const Key &key) { return key.keys == event.keyCombination(); });
+    return found == keys.end() ? nullptr : found->act;
+}
+
+bool RichTextEdit::event(QEvent *event) {
+    // A shortcut of the window must not take the keys of the box.
+    if (event->type() == QEvent::ShortcutOverride && actionOf(static_cast<QKeyEvent &>(*event)) != nullptr) {
+        event->accept();
+        return true;
+    }
+    return QTextEdit::event(event);
+}
+
+void RichTextEdit::keyPressEvent(QKeyEvent *event) {
+    if (const KeyAction act = actionOf(*event); act != nullptr && !isReadOnly()) {
+        (this->*act)();
+        event->accept();
+        return;
+    }
+    QTextEdit::keyPressEvent(event);
+}
+
+bool RichTextEdit::canInsertFromMimeData(const QMimeData *source) const {
+    return richtext::holdsText(*source);
+}
+
+void RichTextEdit::insertFromMimeData(const QMimeData *source) {
+    if (source == nullptr || isReadOnly()) {
+        return;
+    }
+    QTextCursor cursor = textCursor();
+    richtext::paste(cursor, *source, kDarkGround);
+    setTextCursor(cursor);
+    ensureCursorVisible();
+}
+
+void RichTextEdit::mousePressEvent(QMouseEvent *event) {
+    if (event->button() != Qt::RightButton) {
+        QTextEdit::mousePressEvent(event);
+    }
+}
+
+void RichTextEdit::mouseDoubleClickEvent(QMouseEvent *event) {
+    if (event->button() != Qt::RightButton) {
+        QTextEdit::mouseDoubleClickEvent(event);
+    }
 }
 
 void RichTextEdit::mouseReleaseEvent(QMouseEvent *event) {
-    QTextEdit::mouseReleaseEvent(event);
+    const bool right = event->button() == Qt::RightButton;
+    if (!right) {
+        QTextEdit::mouseReleaseEvent(event);
+    }
     Q_EMIT Clicked();
+    if (right && viewport()->rect().contains(event->position().toPoint())) {
+        Q_EMIT RightReleased();
+    }
 }
 
 } // namespace platform::controls

@@ -6,7 +6,10 @@
 
 namespace platform::controls {
 
-/// A box of formatted text on a dark ground. Positions count characters from 0.
+/// A box of formatted text on a dark ground, edited in place: Ctrl+B, I and U set bold, italic and underline, and
+/// what is pasted or dropped keeps only what the box can show. Positions count characters from 0. What the
+/// programme does to the content with the signals of the box blocked is none of the user's changes, and cannot be
+/// undone.
 class RichTextEdit : public QTextEdit {
     Q_OBJECT
 
@@ -18,8 +21,9 @@ public:
 
     QString Text() const { return toPlainText(); }
 
-    /// The content in RTF form; setting takes RTF or plain text, and does not raise Change.
-    QString TextRTF() const;
+    /// The content in RTF form; setting takes RTF or plain text, does not raise Change, and cannot be undone.
+    QString TextRTF() const { return m_content; }
+
     void SetTextRTF(const QString &text);
 
     int SelStart() const { return textCursor().selectionStart(); }
@@ -39,14 +43,38 @@ public:
     void SetSelBold(bool bold);
 
 Q_SIGNALS:
-    /// The user changed the content.
+    /// The content has become another one by an act of the user: its characters or their formats.
     void Change();
+    /// A mouse button was let go.
     void Clicked();
+    /// The right button was let go over the box. Neither its press nor its release moves the caret.
+    void RightReleased();
 
 protected:
+    bool event(QEvent *event) override;
+    bool canInsertFromMimeData(const QMimeData *source) const override;
+    void insertFromMimeData(const QMimeData *source) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+
+private:
+    using KeyAction = void (RichTextEdit::*)();
+
+    /// What a key does that the text box of Qt does otherwise; null for all others.
+    static KeyAction actionOf(const QKeyEvent &event);
+
+    void followContent();
+    void format(const QTextCharFormat &changes);
+    void toggleBold();
+    void toggleItalic();
+    void toggleUnderline();
+
+    QString m_content; ///< in RTF form
+    bool m_loading = false;
 };
 
 using RichTextBox = Placed<RichTextEdit>;

@@ -83,7 +83,7 @@ QTextListFormat listFormat(ListKind kind) {
     return format;
 }
 
-/// Puts the content into an empty document, at the cursor.
+/// Puts the content into a document, at the cursor.
 class Filler {
 public:
     Filler(QTextCursor &cursor, const RichContent &content) : m_cursor(cursor), m_content(content) {
@@ -108,35 +108,53 @@ public:
     }
 
 private:
+    /// The list that goes on at a margin.
+    struct OpenList {
+        int left;
+        ListKind kind;
+        QTextList *list; ///< owned by the document
+    };
+
     void beginBlock(const RichContent::Paragraph &paragraph, bool first) {
+        const ParagraphStyle &style = m_content.paragraphStyles[size_t(paragraph.style)];
         const QTextBlockFormat &format = m_blockFormats[size_t(paragraph.style)];
         const QTextCharFormat &mark = m_characterFormats[size_t(paragraph.mark)];
-        if (first) {
+        if (!first) {
+            m_cursor.insertBlock(format, mark);
+        } else if (m_cursor.document()->isEmpty()) {
             m_cursor.setBlockFormat(format);
             m_cursor.setBlockCharFormat(mark);
+        } else if (style.list != ListKind::None && m_cursor.block().length() == 1) {
+            m_cursor.setBlockFormat(format);
         } else {
-            m_cursor.insertBlock(format, mark);
+            return; // goes on with the paragraph that it is put into
         }
-        joinList(m_content.paragraphStyles[size_t(paragraph.style)].list);
+        joinList(style);
     }
 
-    void joinList(ListKind kind) {
-        if (kind == ListKind::None) {
-            m_listKind = kind;
-        } else if (kind == m_listKind && m_list->count() < kLongestList) {
-            m_list->add(m_cursor.block());
-        } else {
-            m_listKind = kind;
-            m_list = m_cursor.createList(listFormat(kind));
+    /// Items go on with the list of their margin, past those of a deeper one.
+    void joinList(const ParagraphStyle &style) {
+        while (!m_lists.empty() && (style.list == ListKind::None || m_lists.back().left > style.left)) {
+            m_lists.pop_back();
         }
+        if (style.list == ListKind::None) {
+            return;
+        }
+        if (!m_lists.empty() && m_lists.back().left == style.left) {
+            if (m_lists.back().kind == style.list && m_lists.back().list->count() < kLongestList) {
+                m_lists.back().list->add(m_cursor.block());
+                return;
+            }
+            m_lists.pop_back();
+        }
+        m_lists.push_back({style.left, style.list, m_cursor.createList(listFormat(style.list))});
     }
 
     QTextCursor &m_cursor;
     const RichContent &m_content;
     std::vector<QTextCharFormat> m_characterFormats;
     std::vector<QTextBlockFormat> m_blockFormats;
-    QTextList *m_list = nullptr; ///< the list of the block before, owned by the document
-    ListKind m_listKind = ListKind::None;
+    std::vector<OpenList> m_lists; ///< by growing margin
 };
 
 } // namespace
@@ -151,6 +169,27 @@ void build(QTextDocument &document, const RichContent &content) {
     cursor.endEditBlock();
     document.setUndoRedoEnabled(undo);
     document.setModified(false);
+}
+
+void insert(QTextCursor &cursor, const RichContent &content) {
+    cursor.beginEditBlock();
+    cursor.removeSelectedText();
+    Filler(cursor, content).fill();
+    cursor.endEditBlock();
+}
+
+void insertPlain(QTextCursor &cursor, const RichContent &content) {
+    cursor.beginEditBlock();
+    cursor.removeSelectedText();
+    qsizetype start = 0;
+    for (const RichContent::Paragraph &paragraph : content.paragraphs) {
+        if (&paragraph != &content.paragraphs.front()) {
+            cursor.insertBlock();
+        }
+        cursor.insertText(content.text.mid(start, paragraph.end - start));
+        start = paragraph.end;
+    }
+    cursor.endEditBlock();
 }
 
 } // namespace platform::richtext

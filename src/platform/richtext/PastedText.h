@@ -1,0 +1,18 @@
+#pragma once
+
+class QColor;
+class QMimeData;
+class QTextCursor;
+
+namespace platform::richtext {
+
+/// True when the data holds text that paste() can read.
+bool holdsText(const QMimeData &data);
+
+/// Puts the text of the clipboard, or of a drag, in place of the selection, as one step of undo: HTML, RTF or
+/// plain text, the first that gives any. Of formatted text stay bold, italic, underline, lists, paragraphs and
+/// line breaks, and colours that can be read on the ground of the box; all the rest is left to the document.
+/// Plain text takes the format of the cursor. Data without text changes nothing. Reads no file and no network.
+void paste(QTextCursor &cursor, const QMimeData &data, const QColor &ground);
+
+} // namespace platform::richtext

@@ -1,0 +1,243 @@
+#include "platform/controls/RichTextBox.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QSignalBlocker>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+
+using namespace platform::controls;
+
+namespace {
+
+constexpr ControlRow kRow{"Saisie", 0, 0, 6000, 1500};
+
+QMimeData *html(const QString &source) {
+    auto *data = new QMimeData;
+    data->setHtml(source);
+    return data;
+}
+
+} // namespace
+
+class TestRichTextBox : public QObject {
+    Q_OBJECT
+
+private:
+    void press(int key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
+        QTest::keyClick(m_box, Qt::Key(key), modifiers);
+    }
+
+    /// How many changes were raised since the last call.
+    qsizetype raised() {
+        const qsizetype count = m_changes->count();
+        m_changes->clear();
+        return count;
+    }
+
+    /// The body of the stored text, formats and characters alike.
+    QString stored() const {
+        const QString text = m_box->TextRTF();
+        const qsizetype start = text.indexOf(u"\\pard") + 5;
+        return text.mid(start, text.lastIndexOf(u"\\par") - start).trimmed();
+    }
+
+    std::unique_ptr<QWidget> m_window;
+    RichTextBox *m_box = nullptr;
+    std::unique_ptr<QSignalSpy> m_changes;
+
+private Q_SLOTS:
+
+    void init() {
+        m_window = std::make_unique<QWidget>();
+        m_box = new RichTextBox(m_window.get(), kRow);
+        m_changes = std::make_unique<QSignalSpy>(m_box, &RichTextBox::Change);
+        m_window->move(1, 1); // the wait below is long for a window at the origin
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        m_box->setFocus();
+    }
+
+    void programmeRaisesNoChange() {
+        m_box->SetTextRTF(u"{\\rtf1\\ansi Cuire \\b 10\\b0  min\\par\\par}"_qs);
+        const QString loaded = m_box->TextRTF();
+        m_box->Select(0, 5);
+        m_box->SetDefaultColor(Qt::yellow);
+        m_box->resize(150, 200);
+        m_box->clearFocus();
+        m_box->setFocus();
+        QTest::qWait(1);
+        QCOMPARE(m_box->TextRTF(), loaded);
+        {
+            const QSignalBlocker programme(m_box);
+            m_box->SetSelColor(Qt::white);
+        }
+        QVERIFY(m_box->TextRTF() != loaded);
+        QVERIFY(m_box->SelColor() == QColor(Qt::white));
+        press(Qt::Key_Z);
+        QVERIFY2(m_box->TextRTF() != loaded, "undo takes back an act of the programme");
+        QCOMPARE(raised(), 0);
+    }
+
+    void actsThatChangeNothingRaiseNoChange() {
+        m_box->SetTextRTF(u"{\\rtf1\\ansi\\b Gras\\b0}"_qs);
+        m_box->Select(1, 2);
+        m_box->SetSelBold(true);
+        m_box->Select(4, 0);
+        press(Qt::Key_B);
+        press(Qt::Key_I);
+        press(Qt::Key_U);
+        m_box->SetSelColor(Qt::red);
+        press(Qt::Key_C);
+        press(Qt::Key_Right, Qt::NoModifier);
+        press(Qt::Key_Delete, Qt::NoModifier);
+        QApplication::clipboard()->setMimeData(html(u"<img src='x.png'>"_qs));
+        press(Qt::Key_V);
+        QCOMPARE(raised(), 0);
+
+        m_box->SetTextRTF(QString());
+        press(Qt::Key_B);
+        QCOMPARE(raised(), 0);
+        m_box->SetTextRTF(QString());
+        QTest::keyClicks(m_box, u"a"_qs);
+        QCOMPARE(stored(), u"a"_qs);
+    }
+
+    void everyChangeOfTheUserIsRaised() {
+        m_box->SetTextRTF(u"un deux"_qs);
+        QTest::keyClicks(m_box, u"a "_qs);
+        QCOMPARE(raised(), 2);
+        press(Qt::Key_Backspace, Qt::NoModifier);
+        QCOMPARE(raised(), 1);
+        press(Qt::Key_Return, Qt::NoModifier);
+        QCOMPARE(raised(), 1);
+        QCOMPARE(m_box->Text(), u"a\nun deux"_qs);
+
+        m_box->Select(2, 2);
+        press(Qt::Key_X);
+        QCOMPARE(raised(), 1);
+        press(Qt::Key_Insert, Qt::ShiftModifier);
+        QCOMPARE(raised(), 1);
+        QCOMPARE(m_box->Text(), u"a\nun deux"_qs);
+
+        m_box->Select(0, 1);
+        m_box->SetSelColor(Qt::red);
+        QCOMPARE(raised(), 1);
+        const QString red = m_box->TextRTF();
+        press(Qt::Key_Z);
+        QCOMPARE(raised(), 1);
+        QCOMPARE(m_box->Text(), u"a\nun deux"_qs);
+        QVERIFY(!m_box->TextRTF().contains(u"\\cf1"));
+        press(Qt::Key_Y);
+        QCOMPARE(m_box->TextRTF(), red);
+        press(Qt::Key_Z);
+        press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(m_box->TextRTF(), red);
+        QCOMPARE(raised(), 3);
+    }
+
+    void keysFormat_data() {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<QString>("on");
+        QTest::addColumn<QString>("off");
+        QTest::addRow("bold") << int(Qt::Key_B) << u"\\b"_qs << u"\\b0"_qs;
+        QTest::addRow("italic") << int(Qt::Key_I) << u"\\i"_qs << u"\\i0"_qs;
+        QTest::addRow("underline") << int(Qt::Key_U) << u"\\ul"_qs << u"\\ulnone"_qs;
+    }
+
+    void keysFormat() {
+        QFETCH(const int, key);
+        QFETCH(const QString, on);
+        QFETCH(const QString, off);
+        m_box->SetTextRTF(u"{\\rtf1 abc\\par d}"_qs);
+        m_box->Select(1, 1);
+        press(key);
+        QCOMPARE(stored(), u"a"_qs + on + u" b" + off + u" c\\par\r\nd");
+        m_box->Select(0, 5); // mixed, over two paragraphs
+        press(key);
+        QVERIFY2(stored().startsWith(on + u" abc"), "a mixed selection is not set");
+        QVERIFY(stored().endsWith(on + u" d"));
+        m_box->Select(1, 1);
+        press(key);
+        QVERIFY(stored().startsWith(on + u" a" + off + u" b" + on + u" c"));
+        QCOMPARE(raised(), 3);
+
+        m_box->SetTextRTF(u"a"_qs);
+        m_box->Select(1, 0);
+        press(key);
+        QTest::keyClicks(m_box, u"b"_qs);
+        press(key);
+        QTest::keyClicks(m_box, u"c"_qs);
+        QCOMPARE(stored(), u"a" + on + u" b" + off + u" c");
+        QCOMPARE(raised(), 2);
+    }
+
+    void boxesExchangeTheirFormats() {
+        m_box->SetTextRTF(
+            u"{\\rtf1{\\colortbl;\\red255\\green255\\blue0;}\\cf1 l'\\b \"\\'9cuf\" \\i  1\\b0  2}"_qs);
+        const QString before = stored();
+        m_box->selectAll();
+        press(Qt::Key_C);
+        press(Qt::Key_Delete, Qt::NoModifier);
+        press(Qt::Key_V);
+        QCOMPARE(stored().section(u"2"_qs, 0, 0), before.section(u"2"_qs, 0, 0));
+        QCOMPARE(raised(), 2);
+    }
+
+    void droppedTextIsCleaned() {
+        m_box->SetTextRTF(QString());
+        const std::unique_ptr<QMimeData> data(
+            html(u"<h1 style='color:black'>Gratin</h1><img src='a.png'>"_qs));
+        const QPoint place = m_box->viewport()->rect().center();
+        QDragEnterEvent enters(place, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(m_box->viewport(), &enters);
+        QDropEvent drops(place, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(m_box->viewport(), &drops);
+        QCOMPARE(stored(), u"\\b Gratin\\b0"_qs);
+        QCOMPARE(raised(), 1);
+    }
+
+    void rightButtonLeavesSelectionAndCaret() {
+        QSignalSpy right(m_box, &RichTextBox::RightReleased);
+        QSignalSpy any(m_box, &RichTextBox::Clicked);
+        m_box->SetTextRTF(u"un deux trois"_qs);
+        m_box->Select(3, 4);
+        QWidget *view = m_box->viewport();
+        QTest::mouseClick(view, Qt::RightButton, {}, {3, 8});
+        QTest::mouseDClick(view, Qt::RightButton, {}, {3, 8});
+        QCOMPARE(m_box->SelStart(), 3);
+        QCOMPARE(m_box->SelLength(), 4);
+        QCOMPARE(right.count(), 1);
+        QCOMPARE(any.count(), 1);
+
+        QTest::mousePress(view, Qt::RightButton, {}, {3, 8});
+        QTest::mouseRelease(view, Qt::RightButton, {}, {3, -20});
+        QTest::mouseClick(view, Qt::LeftButton, {}, {3, 8});
+        QCOMPARE(right.count(), 1);
+        QCOMPARE(any.count(), 3);
+        QCOMPARE(m_box->SelLength(), 0);
+        QVERIFY(QApplication::activePopupWidget() == nullptr);
+        QCOMPARE(raised(), 0);
+    }
+
+    void longTextWithAllCharactersIsStoredWhole() {
+        const QString typed = u"L'\u0153uf \"\u00e0 la coque\" {\\b} \U0001F373"_qs;
+        const QString pasted = u"\U0001F373é\u2019 l'ail; "_qs.repeated(800);
+        m_box->SetTextRTF(QString());
+        QTest::sendKeyEvent(QTest::Click, m_box, Qt::Key_unknown, typed, Qt::NoModifier);
+        QApplication::clipboard()->setText(pasted);
+        press(Qt::Key_V);
+        QCOMPARE(m_box->Text(), typed + pasted);
+        const QString text = m_box->TextRTF();
+        m_box->SetTextRTF(text);
+        QCOMPARE(m_box->Text(), typed + pasted);
+        QCOMPARE(m_box->TextRTF(), text);
+    }
+};
+
+QTEST_MAIN(TestRichTextBox)
+#include "TestRichTextBox.moc"

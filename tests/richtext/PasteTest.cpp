@@ -1,0 +1,213 @@
+#include "Described.h"
+
+#include "platform/richtext/PastedText.h"
+#include "platform/richtext/RichText.h"
+
+#include <QColor>
+#include <QElapsedTimer>
+#include <QMimeData>
+#include <QTest>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextDocumentFragment>
+
+using namespace platform::richtext;
+
+namespace {
+
+const QColor kGround(30, 42, 68);
+
+void pasteHtml(QTextDocument &document, const QString &html) {
+    QMimeData data;
+    data.setHtml(html);
+    QTextCursor cursor(&document);
+    cursor.movePosition(QTextCursor::End);
+    paste(cursor, data, kGround);
+}
+
+QString read(const QMimeData &data) {
+    QTextDocument document;
+    QTextCursor cursor(&document);
+    paste(cursor, data, kGround);
+    return described(document);
+}
+
+const char *const kWordHtml = R"(<html xmlns:o="urn:schemas-microsoft-com:office:office"><head>
+<meta http-equiv=Content-Type content="text/html; charset=utf-8"><style>
+<!-- /* Style Definitions */
+@font-face {font-family:Calibri;}
+p.MsoNormal, li.MsoNormal {margin:0cm; font-size:11.0pt; color:black;}
+span.Gras {font-weight:bold;} @page WordSection1 {size:595.3pt 841.9pt;} --></style>
+<!--[if gte mso 9]><xml><w:View>Normal</w:View></xml><![endif]--></head><body lang=FR><!--StartFragment-->
+<p class=MsoNormal><span class=Gras>Pâte</span><span style='color:windowtext;mso-spacerun:yes'> brisée<o:p></o:p></span></p>
+<p class=MsoListParagraph style='margin-left:36.0pt;mso-list:l0 level1 lfo1'><![if !supportLists]><span
+style='font-family:Symbol'><span style='mso-list:Ignore'>·<span style='font:7.0pt "Times New Roman"'>&nbsp;&nbsp;
+</span></span></span><![endif]>200&nbsp;g de farine</p>
+<p class=MsoListParagraph style='mso-list:l0 level2 lfo1'><span style='mso-list:Ignore'>1.<span>&nbsp;</span></span>tamisée</p>
+<p class=MsoNormal><b><u><span style='color:#FFC000;background:yellow'>Cuire</span></u></b></p><!--EndFragment--></body></html>)";
+
+} // namespace
+
+class PasteTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+
+    void keepsWhatTheBoxCanShow_data() {
+        QTest::addColumn<QString>("html");
+        QTest::addColumn<QString>("expected");
+        const auto row = [](const char *fault, const char *html, const char *expected) {
+            QTest::addRow("%s", fault) << QString::fromUtf8(html) << QString::fromUtf8(expected);
+        };
+        row("word processor", kWordHtml,
+            "[bold:Pâte] brisée|<bullet li360>200\u00a0g de farine|<number li720>tamisée|"
+            "[#ffc000 bold underline:Cuire]");
+        row("inline formats", "a <b>b <i>c</i></b> <u>d</u><s>e</s>",
+            "a [bold:b ][bold italic:c] [underline:d]e");
+        row("formats of style attributes",
+            "<b style='font-weight:normal'>a<span style='font-weight:700;FONT-STYLE:italic'>b</span></b>"
+            "<span style=\"text-decoration-line:underline\">c</span>",
+            "a[bold italic:b][underline:c]");
+        row("fonts, sizes, grounds, margins, alignment",
+            "<h2 align=center style='margin-left:9px'>a</h2><p style='font:20px "
+            "Un;background:#fff;text-indent:9px'>"
+            "<font face=Un size=7>b</font></p>",
+            "[bold:a]|b");
+        row("colour that cannot be read",
+            "<span style='color:#333'>a</span><font color=navy>b</font><font color='#ff0'>c</font>"
+            "<span style='color:rgb(160, 250, 255)'>d</span><span style='color:rgba(0,0,0,.5)'>e</span>",
+            "ab[#ffff00:c][#a0faff:d]e");
+        row("link keeps its look",
+            "a <a href='http://x/' style='color:#ff0'><u style='color:yellow'>b</u></a><a "
+            "name=n><u>c</u></a>",
+            "a b[underline:c]");
+        row("paragraphs and breaks",
+            "<p>a<br>b</p>\n <div><div>c<br></div></div><p></p><div><br></div>d<hr>e", "a/b|c||d|e");
+        row("blanks", "  a\n\t b<b> c </b> d&nbsp; e <pre>f  g\nh</pre>", "a b[bold: c ]d\u00a0 e|f  g/h");
+        row("lists", "<ol type=a><li>a<ul><li><p>b</p><p>c</p></ul><li>d</ol><ol><li>e<li><b>f</b></ol>g",
+            "<letter li360>a|<bullet li720>b/c|<letter li360>d|<number li360>e|<number li360>[bold:f]|g");
+        row("table",
+            "<table><tr><th>a<th>b</tr><tr><td><p>c</p></td>\n<td></td><td><div>d</div></td></tr></table>e",
+            "[bold:a] [bold:b]|c d|e");
+        row("images, scripts and hidden text",
+            "a<img src='http://x/y.png' alt=z><script>if (a</b) b</script><span style='display:none'>c</span>"
+            "<svg><text>d</text></svg><title>e</title><!-- f > --><style>p{}</style>g",
+            "ag");
+        row("entities", "&eacute;&#x1F600;&#8217;&#146;&amp;lt;&nosuch;&#0;&#xFFFC;&#xD800; &copy a &",
+            "é😀’’&lt;&nosuch;&#xD800; &copy a &");
+        row("damaged source", "a<b>b</i>c</p></b>d < e <3 <u", "a[bold:bc]|d < e <3");
+    }
+
+    void keepsWhatTheBoxCanShow() {
+        QFETCH(const QString, html);
+        QFETCH(const QString, expected);
+        QTextDocument document;
+        pasteHtml(document, html);
+        QCOMPARE(described(document), expected);
+
+        QTextDocument stored;
+        load(stored, toRtf(document));
+        QCOMPARE(described(stored), expected);
+        QCOMPARE(toRtf(stored), toRtf(document));
+    }
+
+    void readsRtfAndPlainText() {
+        const QByteArray rtf = "{\\rtf1\\ansi{\\fonttbl{\\f0 Un;}}{\\colortbl;\\red255\\green255;\\red9;}"
+                               "\\qc\\f0\\fs40\\cf2 a\\cf1\\b b\\par\\pard\\li900 {\\pict 00}\\'e9\\par}";
+        for (const QString &type : {QStringLiteral("text/rtf"), QStringLiteral("application/rtf"),
+                                    QStringLiteral("text/richtext")}) {
+            QMimeData data;
+            data.setData(type, rtf);
+            QVERIFY(holdsText(data));
+            QCOMPARE(read(data),
+                     QStringLiteral("a[#ffff00 bold:b][#ffff00 bold]|[#ffff00 bold:é][#ffff00 bold]"));
+        }
+
+        QMimeData plain;
+        plain.setText(QStringLiteral("<b>l'œuf</b>\r\n\"{\\rtf1\" \U0001F373\ufffc\u00a0!"));
+        QCOMPARE(read(plain), QStringLiteral("<b>l'œuf</b>|\"{\\rtf1\" \U0001F373\u00a0!"));
+
+        QMimeData picture;
+        picture.setHtml(QStringLiteral("<img src='x.png'>"));
+        QCOMPARE(read(picture), QString());
+        picture.setText(QStringLiteral("Légende"));
+        QCOMPARE(read(picture), QStringLiteral("Légende"));
+    }
+
+    void plainTextTakesTheFormatOfTheCursor() {
+        QTextDocument document;
+        load(document, QStringLiteral("{\\rtf1\\b ab}"));
+        QMimeData data;
+        data.setText(QStringLiteral("1\n2"));
+        QTextCursor cursor(&document);
+        cursor.setPosition(1);
+        paste(cursor, data, kGround);
+        QCOMPARE(described(document), QStringLiteral("[bold:a1][bold]|[bold:2b][bold]"));
+    }
+
+    void goesOnWithTheParagraphAndIsOneStepOfUndo() {
+        QTextDocument document;
+        load(document, QStringLiteral("un deux trois"));
+        QMimeData data;
+        data.setHtml(QStringLiteral("<p><b>2</b></p><ul><li>x</ul>"));
+        QTextCursor cursor(&document);
+        cursor.setPosition(3);
+        cursor.setPosition(7, QTextCursor::KeepAnchor);
+        paste(cursor, data, kGround);
+        QCOMPARE(described(document), QStringLiteral("un [bold:2]|<bullet li360>x trois"));
+        document.undo();
+        QCOMPARE(described(document), QStringLiteral("un deux trois"));
+        QVERIFY(!document.isUndoAvailable());
+    }
+
+    void innerListLeavesTheCountOfTheOuterOne() {
+        QTextDocument document;
+        pasteHtml(document, QStringLiteral("<ol><li>a<ol><li>b</ol><li>c</ol>"));
+        QTextDocument stored;
+        load(stored, toRtf(document));
+        // Two lists, so that the third item is number 2 and not 3.
+        QCOMPARE(stored.toHtml().count(QStringLiteral("<ol")), 2);
+    }
+
+    void whatABoxCopiesStaysAsItIs() {
+        const QString text = QStringLiteral("{\\rtf1\\ansi{\\colortbl;\\red160\\green250\\blue255;}\\cf1 a  "
+                                            "{\\b b}\\line \\i c\\i0\\par\\par "
+                                            "{\\*\\pn\\pnlvlbody\\pndec}\\li300 d\\par\\li700 "
+                                            "\\u-10179?\\u-8704?\\par\\pard\\ul e'\"\\ulnone "
+                                            "f\\par}");
+        QTextDocument original;
+        load(original, text);
+        QMimeData data;
+        data.setHtml(QTextDocumentFragment(&original).toHtml());
+        QTextDocument copy;
+        QTextCursor cursor(&copy);
+        paste(cursor, data, kGround);
+        const QString marks = QStringLiteral("[#a0faff]");
+        QCOMPARE(described(copy).remove(marks), described(original).remove(marks));
+    }
+
+    void takesTimeInProportion_data() {
+        QTest::addColumn<QString>("piece");
+        QTest::addRow("page") << QStringLiteral(
+            "<p style='color:#333;margin:0'>Mettre le <b>beurre</b>.</p>\n");
+        QTest::addRow("list items") << QStringLiteral("<ul><li>un<li>deux</ul>");
+        QTest::addRow("rows") << QStringLiteral("<tr><td>un</td><td>deux</td></tr>");
+        QTest::addRow("elements without end") << QStringLiteral("<b>x ");
+        QTest::addRow("quotes without end") << QStringLiteral("<a b=\"");
+        QTest::addRow("signs") << QStringLiteral("<&");
+        QTest::addRow("style elements without end") << QStringLiteral("<style>/*");
+    }
+
+    void takesTimeInProportion() {
+        QFETCH(const QString, piece);
+        QTextDocument document;
+        QElapsedTimer timer;
+        timer.start();
+        pasteHtml(document, piece.repeated((1 << 18) / piece.size()));
+        // Many times what it takes, sanitizers included; growth by the square would need minutes.
+        QVERIFY2(timer.elapsed() < 20000, qPrintable(QString::number(timer.elapsed())));
+    }
+};
+
+QTEST_MAIN(PasteTest)
+#include "PasteTest.moc"
