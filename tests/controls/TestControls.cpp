@@ -8,6 +8,7 @@
 #include <QBuffer>
 #include <QFile>
 #include <QLineEdit>
+#include <QListView>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -196,13 +197,19 @@ private Q_SLOTS:
         QCOMPARE(list.Text(), u"farine"_qs);
         QCOMPARE(clicks.count(), 0);
 
-        QTest::keyClick(&list, Qt::Key_Down);
-        QCOMPARE(clicks.count(), 1);
-        QCOMPARE(list.Text(), u"sel"_qs);
+        QTest::keyClick(&list, Qt::Key_Down); // opens the list
+        QTRY_VERIFY(list.view()->isVisible());
+        QTest::keyClick(list.view(), Qt::Key_Return);
+        QCOMPARE(clicks.count(), 1); // also for the row that was chosen already
+        QCOMPARE(list.Text(), u"farine"_qs);
 
-        list.SetText(u"sucre"_qs);
+        QSignalSpy enter(&list, &DropList::EnterPressed);
+        list.SetText(u"sel"_qs); // a row, but not chosen
         QTest::keyClick(list.lineEdit(), Qt::Key_Return);
+        list.clearFocus();
         QCOMPARE(list.Count(), 3);
+        QCOMPARE(enter.count(), 1);
+        QCOMPARE(clicks.count(), 1);
 
         list.Clear();
         QCOMPARE(list.Count(), 0);

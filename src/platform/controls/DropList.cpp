@@ -2,8 +2,11 @@
 
 #include "Fonts.h"
 
+#include <QApplication>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
+#include <QWheelEvent>
 
 namespace platform::controls {
 
@@ -15,10 +18,39 @@ DropBox::DropBox(QWidget *parent) : QComboBox(parent), m_rows(this) {
     setFont(interfaceFont(Face::Verdana, 8.25));
     // The width is that of the field; measuring thousands of rows for a size hint would be wasted.
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    // The toolkit takes a typed text that happens to be a row for a choice, also when the box is merely left.
+    disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
     connect(this, &QComboBox::activated, this, &DropBox::Click);
 }
 
+void DropBox::Open() {
+    show();
+    raise();
+    setFocus();
+    // The caret in front: a long text shows its beginning.
+    const auto length = static_cast<int>(currentText().size());
+    lineEdit()->setSelection(length, -length);
+}
+
+void DropBox::offerTyped(const QString &written) {
+    if (m_typedOnTop) {
+        m_rows.removeRows(0, 1);
+        m_typedOnTop = false;
+    }
+    if (m_offersTyped && !written.trimmed().isEmpty() &&
+        findText(written, Qt::MatchExactly | Qt::MatchCaseSensitive) < 0) {
+        m_rows.insertRows(0, 1);
+        m_rows.setData(m_rows.index(0), written);
+        m_typedOnTop = true;
+    }
+}
+
 void DropBox::showPopup() {
+    // The list opens at the row of the text, which may have been set or typed since a row was last chosen.
+    const QString written = currentText();
+    offerTyped(written);
+    setCurrentIndex(findText(written, Qt::MatchExactly | Qt::MatchCaseSensitive));
+    setEditText(written);
     // The list of the drop list is made when it is first needed; thousands of rows of one height need no
     // measuring.
     if (auto *rows = qobject_cast<QListView *>(view())) {
@@ -29,6 +61,7 @@ void DropBox::showPopup() {
 
 void DropBox::Clear() {
     m_rows.setStringList({});
+    m_typedOnTop = false;
     clearEditText();
 }
 
@@ -38,6 +71,37 @@ void DropBox::AddItems(const QStringList &texts) {
     // The toolkit would choose the first row of a list that was empty.
     setCurrentIndex(-1);
     setEditText(written);
+}
+
+void DropBox::keyPressEvent(QKeyEvent *event) {
+    switch (event->key()) {
+    case Qt::Key_Escape:
+        Q_EMIT Escaped();
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        Q_EMIT EnterPressed();
+        break;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        showPopup();
+        break;
+    default:
+        QComboBox::keyPressEvent(event);
+    }
+}
+
+void DropBox::wheelEvent(QWheelEvent *event) {
+    // Over a list in a page that scrolls, the wheel is meant for the page.
+    event->ignore();
+}
+
+void DropBox::focusOutEvent(QFocusEvent *event) {
+    QComboBox::focusOutEvent(event);
+    // The opened list takes the keyboard for itself, and so does a menu.
+    if (QApplication::activePopupWidget() == nullptr && event->reason() != Qt::ActiveWindowFocusReason) {
+        Q_EMIT LostFocus();
+    }
 }
 
 } // namespace platform::controls

@@ -8,7 +8,7 @@
 namespace platform::controls {
 
 /// An edit box with a drop list. Texts set by code raise no event; a row chosen by the user does, also the
-/// row that was chosen already.
+/// row that was chosen already. The wheel chooses nothing, and Up and Down open the list.
 class DropBox : public QComboBox {
     Q_OBJECT
 
@@ -30,14 +30,33 @@ public:
 
     void SetListIndex(int index) { setCurrentIndex(index); }
 
+    /// Offers a text that was typed and is no row as the first row of the opened list, so that it can be chosen.
+    void SetOffersTyped(bool offers) { m_offersTyped = offers; }
+
+    /// Shows the box over its neighbours, takes the keyboard and selects the text.
+    void Open();
+
     void showPopup() override;
 
 Q_SIGNALS:
     /// The user chose a row.
     void Click();
+    void EnterPressed();
+    void Escaped();
+    /// The keyboard went to another control of the window; the opened list and menus do not count as such.
+    void LostFocus();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
 
 private:
+    void offerTyped(const QString &written);
+
     QStringListModel m_rows;
+    bool m_offersTyped = false;
+    bool m_typedOnTop = false; // the first row is a text that was typed
 };
 
 using DropList = Placed<DropBox>;

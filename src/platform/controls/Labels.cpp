@@ -2,10 +2,24 @@
 
 #include "SkinnedWindow.h"
 
+#include <QContextMenuEvent>
+#include <QDragEnterEvent>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QUrl>
 
 namespace platform::controls {
+
+namespace {
+
+/// Path of the one file of this computer that is being dragged; empty for anything else.
+QString draggedFile(const QMimeData &dragged) {
+    const QList<QUrl> places = dragged.urls();
+    return places.size() == 1 ? places.first().toLocalFile() : QString();
+}
+
+} // namespace
 
 TextLabel::TextLabel(QWidget *parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
@@ -46,6 +60,10 @@ void CaptionPanel::SetSquare() {
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
+void CaptionPanel::SetReachable() {
+    setFocusPolicy(Qt::StrongFocus);
+}
+
 void CaptionPanel::SetFloodPercent(double percent) {
     const int whole = qBound(0, static_cast<int>(percent), 100);
     if (whole != m_flood) {
@@ -67,6 +85,9 @@ void CaptionPanel::paintEvent(QPaintEvent * /*event*/) {
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, foregroundRole()));
     painter.setOpacity(isEnabled() ? 1.0 : 0.45);
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, m_caption);
+    if (hasFocus()) {
+        paintFocusRing(painter, rect(), skinAround(*this));
+    }
 }
 
 void CaptionPanel::mousePressEvent(QMouseEvent *event) {
@@ -81,8 +102,37 @@ void CaptionPanel::mouseReleaseEvent(QMouseEvent *event) {
     if (event->button() == Qt::LeftButton) {
         Q_EMIT Clicked();
     } else if (event->button() == Qt::RightButton) {
-        Q_EMIT RightClicked();
+        Q_EMIT RightClicked(event->globalPosition().toPoint());
     }
+}
+
+void CaptionPanel::keyPressEvent(QKeyEvent *event) {
+    const bool clicks =
+        event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
+    if (clicks && focusPolicy() != Qt::NoFocus) {
+        if (!event->isAutoRepeat()) {
+            Q_EMIT Clicked();
+        }
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void CaptionPanel::contextMenuEvent(QContextMenuEvent *event) {
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        Q_EMIT RightClicked(mapToGlobal(rect().center()));
+    }
+}
+
+void CaptionPanel::dragEnterEvent(QDragEnterEvent *event) {
+    if (!draggedFile(*event->mimeData()).isEmpty()) {
+        event->acceptProposedAction();
+    }
+}
+
+void CaptionPanel::dropEvent(QDropEvent *event) {
+    event->acceptProposedAction();
+    Q_EMIT FileDropped(draggedFile(*event->mimeData()));
 }
 
 void CaptionPanel::enterEvent(QEnterEvent *event) {

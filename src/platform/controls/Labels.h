@@ -42,13 +42,21 @@ public:
     /// Paints the whole rectangle, corners too, so that painting it anew never paints what lies beneath.
     void SetSquare();
 
+    /// Lets the keyboard reach the panel: Enter and the space bar click it, the menu key clicks it with the right button.
+    void SetReachable();
+
+    /// Lets a file be dropped onto the panel and what stands in it.
+    void SetTakesFiles() { setAcceptDrops(true); }
+
     /// Shows a flood over this part of the panel, 0 to 100 percent, at once; painted only when the whole
     /// percentage changes.
     void SetFloodPercent(double percent);
 
 Q_SIGNALS:
     void Clicked();
-    void RightClicked();
+    void RightClicked(const QPoint &globalPosition);
+    /// A file of this computer was dropped, given by its full path.
+    void FileDropped(const QString &path);
     void Entered();
     void Exited();
 
@@ -58,6 +66,10 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void enterEvent(QEnterEvent *event) override;
     void leaveEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
     QString m_caption;

@@ -3,6 +3,7 @@
 #include "Fonts.h"
 #include "Skin.h"
 
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QStyledItemDelegate>
@@ -141,6 +142,10 @@ void ListBox::mouseReleaseEvent(QMouseEvent *event) {
     const bool onRow = indexAt(event->position().toPoint()).isValid();
     const bool reached = SelectedIndex() != 0 && SelectedIndex() != m_indexAtPress;
     if (event->button() == Qt::RightButton) {
+        // What the menu acts on is the row that is shown.
+        if (reached) {
+            Q_EMIT ItemClicked();
+        }
         Q_EMIT RightClicked(event->globalPosition().toPoint());
     } else if (event->button() == Qt::LeftButton && (onRow || reached)) {
         Q_EMIT ItemClicked();
@@ -156,6 +161,12 @@ void ListBox::focusInEvent(QFocusEvent *event) {
 void ListBox::focusOutEvent(QFocusEvent *event) {
     QListView::focusOutEvent(event);
     paintFocusFrame(*this, false);
+}
+
+void ListBox::contextMenuEvent(QContextMenuEvent *event) {
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        Q_EMIT RightClicked(viewport()->mapToGlobal(visualRect(currentIndex()).center()));
+    }
 }
 
 int ListBox::checked(int index) const {

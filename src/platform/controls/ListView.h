@@ -88,6 +88,7 @@ Q_SIGNALS:
     /// The user ended a label edit; the row still holds its former text and takes the new one afterwards.
     void AfterLabelEdit(int index, const QString &text);
     void Focused();
+    /// The right button was let go, or the menu key pressed. A row that the press has just selected was clicked before.
     void RightClicked(const QPoint &globalPosition);
 
 protected:
@@ -97,6 +98,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
 
 private:
     int checked(int index) const;

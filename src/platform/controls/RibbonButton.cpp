@@ -120,9 +120,7 @@ void RibbonButton::paintEvent(QPaintEvent * /*event*/) {
     paintPicture(painter);
     paintCaption(painter);
     if (hasFocus()) {
-        painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(skinAround(*this).accent, 2));
-        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
+        paintFocusRing(painter, rect(), skinAround(*this));
     }
 }
 

@@ -31,6 +31,9 @@ inline constexpr QRgb kListGround = qRgb(148, 173, 214);
 void paintBlock(QPainter &painter, const QRectF &block, double radius, const QColor &top,
                 const QColor &bottom, const QColor &edge);
 
+/// A ring inside a control that has the focus.
+void paintFocusRing(QPainter &painter, const QRectF &control, const Skin &skin);
+
 /// A frame of two pixels around an area, in the colour of its ground; while the area has the focus, in the accent of
 /// its window's skin.
 void paintFocusFrame(QAbstractScrollArea &area, bool focused);
