@@ -42,4 +42,13 @@ void AjusterPhoto(Extent cadre, platform::controls::Image &photo,
     photo.SetPlace(PlaceDansCadre(cadre, imageTemp.NaturalSize()));
 }
 
+void MontrerPhoto(Extent cadre, platform::controls::Image &photo, platform::controls::PictureBox &imageTemp,
+                  const QImage &image) {
+    photo.hide();
+    photo.SetPicture(image);
+    imageTemp.SetPicture(image);
+    AjusterPhoto(cadre, photo, imageTemp);
+    photo.show();
+}
+
 } // namespace pictures

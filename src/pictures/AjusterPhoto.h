@@ -15,4 +15,8 @@ platform::controls::Rectangle PlaceDansCadre(platform::controls::Extent cadre,
 void AjusterPhoto(platform::controls::Extent cadre, platform::controls::Image &photo,
                   const platform::controls::PictureBox &imageTemp);
 
+/// Shows a picture, which must not be null, in its frame; imageTemp gets the same one.
+void MontrerPhoto(platform::controls::Extent cadre, platform::controls::Image &photo,
+                  platform::controls::PictureBox &imageTemp, const QImage &image);
+
 } // namespace pictures

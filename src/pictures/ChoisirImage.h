@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/controls/Picture.h"
+
+namespace pictures {
+
+/// A picture with its frame, in the window that shows it, and the hidden control that tells its natural size.
+struct CadreImage {
+    QWidget &fenetre;
+    platform::controls::Extent cadre;
+    platform::controls::Image &photo;
+    platform::controls::PictureBox &imageTemp;
+};
+
+/// How a choice ended: with a picture shown, without a file, or with a file that is no picture.
+enum class Choix { Faite, Abandonnee, Illisible };
+
+/// Lets the cook choose a picture file and shows it as PoserImage does. The dialog starts in the folder `dossier`, at
+/// first, while that is empty, in "image" of the program's folder; the folder of the chosen file is kept there.
+Choix ChoisirImage(const CadreImage &cadre, QString &dossier);
+
+/// Shows a picture file in its frame; the tag of the photo becomes the full path of the file. A file that is no
+/// picture is told in a message box over the window and changes nothing.
+Choix PoserImage(const CadreImage &cadre, const QString &fichier);
+
+} // namespace pictures
