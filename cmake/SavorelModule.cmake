@@ -32,10 +32,10 @@ endfunction()
 
 # savorel_test(<name> <sources> USES <modules> [LIBRARIES <targets>]): a Qt Test program run by CTest, offscreen.
 function(savorel_test name)
-  cmake_parse_arguments(T "" "" "USES;LIBRARIES" ${ARGN})
+  cmake_parse_arguments(T "" "" "USES;LIBRARIES;ARGUMENTS" ${ARGN})
   add_executable(${name} ${T_UNPARSED_ARGUMENTS})
   target_link_libraries(${name} PRIVATE Qt6::Test ${T_USES} ${T_LIBRARIES})
-  add_test(NAME ${name} COMMAND ${name})
+  add_test(NAME ${name} COMMAND ${name} ${T_ARGUMENTS})
   set_tests_properties(${name} PROPERTIES
     TIMEOUT 300
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;ASAN_OPTIONS=detect_leaks=0")

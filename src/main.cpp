@@ -2,6 +2,7 @@
 // box.
 
 #include "browser/Frmmain.h"
+#include "browser/Pop.h"
 #include "platform/desktop/SingleInstance.h"
 #include "platform/dialogs/MessageBox.h"
 #include "shell/Demarrage.h"
@@ -46,6 +47,7 @@ int main(int argc, char *argv[]) {
     return guarded([] {
         const platform::desktop::SingleInstance instance(store::TitreProgramme.toString());
         browser::Frmmain frmmain;
+        const browser::Pop pop(frmmain);
         shell::ChargerFrmmain(frmmain, instance);
         return QApplication::exec();
     });

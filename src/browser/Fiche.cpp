@@ -83,18 +83,17 @@ QImage PhotoLisible(const QString &chemin) {
 void AfficherPhoto(Frmmain &frm, const QString &valeur) {
     const QString chemin = pictures::CheminPhoto(valeur);
     const QImage photo = PhotoLisible(chemin);
-    frm.Photo.hide();
-    frm.Photo.SetPicture(photo);
     if (photo.isNull()) {
+        frm.Photo.hide();
+        frm.Photo.SetPicture({});
         frm.CadrePhoto.SetCaption(QStringLiteral("Pas de photo"));
         frm.CadrePhoto.SetTag({});
         return;
     }
     frm.CadrePhoto.SetCaption({});
     frm.CadrePhoto.SetTag(chemin);
-    frm.ImageTemp.SetPicture(photo);
-    pictures::AjusterPhoto({frm.CadrePhoto.Width(), frm.CadrePhoto.Height()}, frm.Photo, frm.ImageTemp);
-    frm.Photo.show();
+    pictures::MontrerPhoto({frm.CadrePhoto.Width(), frm.CadrePhoto.Height()}, frm.Photo, frm.ImageTemp,
+                           photo);
 }
 
 void AfficherTexte(RichTextBox &saisie, const QString &texte) {
@@ -242,8 +241,7 @@ void ChargerLesListesCombo(Frmmain &frm) {
 }
 
 void CacherListeModif(Frmmain &frm) {
-    for (DropList *liste : {&frm.LCategorie, &frm.LDureeReal, &frm.LVerre, &frm.LMateriel, &frm.LCout,
-                            &frm.LDiff, &frm.LTeneur, &frm.LQuantite, &frm.LMesure, &frm.LIngre}) {
+    for (DropList *liste : frm.ListesModif()) {
         liste->hide();
     }
 }

@@ -1,6 +1,9 @@
 #include "Frmmain.h"
 
 #include "Fiche.h"
+#include "Lignes.h"
+#include "Operations.h"
+#include "Valeurs.h"
 #include "Vues.h"
 
 #include "platform/controls/Fonts.h"
@@ -134,7 +137,6 @@ void PeindreValeur(Ribbon &bouton) {
     bouton.SetLook(Look::Value);
     bouton.setFont(interfaceFont(Face::Verdana, 8.25));
     bouton.SetForeColor(kEncre);
-    QObject::connect(&bouton, &Ribbon::toggled, &bouton, [&bouton] { bouton.SetValue(false); });
 }
 
 // Black marks the button of the current view, and the pointer leaves it black.
@@ -193,6 +195,7 @@ Frmmain::Frmmain()
     PeindreFiche();
     BrancherBoutons();
     BrancherListes();
+    BrancherFiche();
 }
 
 void Frmmain::Peindre() {
@@ -274,10 +277,16 @@ void Frmmain::PeindreFiche() {
     ImageTemp.hide();
     Saisie(0).SetDefaultColor(kCouleurPreparation);
     Saisie(1).SetDefaultColor(Qt::white);
-    for (DropList *liste : {&LCategorie, &LDureeReal, &LVerre, &LMateriel, &LCout, &LDiff, &LTeneur,
-                            &LQuantite, &LMesure, &LIngre}) {
+    CadrePhoto.SetReachable();
+    CadrePhoto.SetTakesFiles();
+    for (DropList *liste : ListesModif()) {
         liste->hide();
     }
+}
+
+std::array<Frmmain::DropList *, 10> Frmmain::ListesModif() {
+    return {&LCategorie, &LDureeReal, &LVerre,    &LMateriel, &LCout,
+            &LDiff,      &LTeneur,    &LQuantite, &LMesure,   &LIngre};
 }
 
 void Frmmain::PreparerListes() {
@@ -313,6 +322,7 @@ void Frmmain::ChargerLigne() {
     PeindreValeur(Quantite.Load(rowNamed(kControles, "Quantite(0)")));
     PeindreValeur(Mesure.Load(rowNamed(kControles, "Mesure(0)")));
     PeindreValeur(Ingre.Load(rowNamed(kControles, "Ingre(0)")));
+    BrancherLigne(*this, Ingre.Count() - 1);
 }
 
 void Frmmain::BrancherBoutons() {
@@ -346,18 +356,28 @@ void Frmmain::BrancherListes() {
     connect(&Liste, &List::ArrowReleased, this, [this] { FlecheListe(*this); });
     connect(&Liste, &List::AfterLabelEdit, this,
             [this](int index, const QString &texte) { RenommerListe(*this, index, texte); });
-    connect(&Liste, &List::RightClicked, this,
-            [this] { Outils(2).SetTag(VueCourante() == 0 ? kHaut : QString()); });
     connect(&LFilms, &List::ItemClicked, this, [this] { ClicFilms(*this); });
     connect(&LFilms, &List::ArrowReleased, this, [this] { ClicFilms(*this); });
     connect(&LFilms, &List::AfterLabelEdit, this,
             [this](int index, const QString &texte) { RenommerFilms(*this, index, texte); });
-    connect(&LFilms, &List::RightClicked, this, [this] { Outils(2).SetTag(kBas); });
     for (List *liste : {&Liste, &LFilms}) {
         connect(liste, &List::Focused, this, [liste] { liste->SetLabelEdit(List::LabelEditMode::Manual); });
     }
-    connect(&Scroll(0), &ScrollPanel::Clicked, this, [this] { CacherListeModif(*this); });
-    connect(&Saisie(0), &RichTextBox::Clicked, this, [this] { Scroll(0).update(); });
+}
+
+void Frmmain::BrancherFiche() {
+    BrancherValeurs(*this);
+    BrancherLigne(*this, 0);
+    BrancherListesDeLigne(*this);
+    for (DropList *liste : ListesModif()) {
+        connect(liste, &DropList::LostFocus, liste, &QWidget::hide);
+    }
+    for (ScrollPanel *panneau : {&Scroll(0), &Scroll(1)}) {
+        connect(panneau, &ScrollPanel::Clicked, this, [this] { CacherListeModif(*this); });
+    }
+    connect(&CadrePhoto, &Panel::Clicked, this, [this] { ClicCadrePhoto(*this); });
+    connect(&CadrePhoto, &Panel::FileDropped, this,
+            [this](const QString &fichier) { DeposerPhoto(*this, fichier); });
 }
 
 } // namespace browser

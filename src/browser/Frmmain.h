@@ -10,12 +10,14 @@
 #include "platform/controls/ScrollPanel.h"
 #include "platform/controls/SkinnedWindow.h"
 
+#include <array>
 #include <vector>
 
 namespace browser {
 
 /// The main window: the recipes in eight sort views at the left, the recipe chosen at the right. It holds
-/// controls and what they cannot hold; what it does is in Vues.h (lists) and Fiche.h (recipe).
+/// controls and what they cannot hold; what it does is in Vues.h (lists), Fiche.h (recipe), Valeurs.h and Lignes.h
+/// (changing it where it is shown) and Operations.h (menus, photo).
 class Frmmain : public platform::controls::SkinnedWindow {
     Q_OBJECT
 
@@ -93,10 +95,15 @@ public:
     /// Text and number of the selected row of Liste.
     QString TitreCourant;
     qint64 NumeroCourant = 0;
+    /// Folder of the picture file chosen last; empty before the first.
+    QString DossierImages;
     /// Colour of the highlighted row of Liste.
     QColor CouleurSelection;
 
     void SetCouleurSelection(const QColor &couleur);
+
+    /// The drop lists of the detail.
+    std::array<DropList *, 10> ListesModif();
 
     /// One further row of the ingredient buttons, as the window's design has them, hidden.
     void ChargerLigne();
@@ -115,6 +122,7 @@ private:
     void PeindreFiche();
     void BrancherBoutons();
     void BrancherListes();
+    void BrancherFiche();
 };
 
 } // namespace browser

@@ -91,6 +91,8 @@ struct LigneIngre {
     qint64 quantite;
     qint64 mesure;
     qint64 ingredient;
+
+    friend bool operator==(const LigneIngre &, const LigneIngre &) = default;
 };
 
 /// Puts one line of a recipe in the place of another. It becomes the newest line, and so the first one; if

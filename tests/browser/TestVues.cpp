@@ -261,19 +261,6 @@ private Q_SLOTS:
         QVERIFY(LivreEssai::bytes() == before);
     }
 
-    void rightClickNotesTheList() {
-        fill();
-        Frmmain &frm = opened(0);
-        frm.Outils(2).SetTag({});
-        clickRow(frm.Liste, 1, Qt::RightButton);
-        QCOMPARE(frm.Outils(2).Tag(), kHaut);
-        QTest::mouseClick(&frm.Bouton(2), Qt::LeftButton);
-        clickRow(frm.Liste, 1, Qt::RightButton);
-        QCOMPARE(frm.Outils(2).Tag(), QString());
-        clickRow(frm.LFilms, 1, Qt::RightButton);
-        QCOMPARE(frm.Outils(2).Tag(), kBas);
-    }
-
     void browsingWritesNothing() {
         fill();
         const QByteArray before = LivreEssai::bytes();
@@ -300,8 +287,8 @@ private Q_SLOTS:
         for (int view = 0; view < kNombreDeVues; ++view) {
             expected += u"Bouton(%1)"_qs.arg(view);
         }
-        expected += {u"Liste"_qs,   u"Data(6)"_qs, u"Data(5)"_qs, u"Data(0)"_qs,
-                     u"Data(1)"_qs, u"Data(2)"_qs, u"Data(3)"_qs, u"Data(4)"_qs};
+        expected += {u"Liste"_qs,   u"CadrePhoto"_qs, u"Data(6)"_qs, u"Data(5)"_qs, u"Data(0)"_qs,
+                     u"Data(1)"_qs, u"Data(2)"_qs,    u"Data(3)"_qs, u"Data(4)"_qs};
         for (int line = 0; line < 2; ++line) { // Bisque has one, and the dotted one
             expected += {u"Quantite(%1)"_qs.arg(line), u"Mesure(%1)"_qs.arg(line), u"Ingre(%1)"_qs.arg(line)};
         }

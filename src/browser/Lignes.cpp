@@ -1,0 +1,115 @@
+#include "Lignes.h"
+
+#include "Fiche.h"
+#include "Frmmain.h"
+#include "Valeurs.h"
+
+#include "store/Textes.h"
+
+#include <array>
+
+namespace browser {
+
+namespace {
+
+using namespace platform::controls;
+using store::LigneIngre;
+
+/// A column of the lines: its buttons, the list that all its rows share, its lookup table, and its part of a line.
+struct Colonne {
+    Frmmain::Array<Ribbon> Frmmain::*boutons;
+    DropList Frmmain::*liste;
+    QStringView table, cle;
+    QString TextesLigne::*texte;
+    qint64 LigneIngre::*numero;
+};
+
+constexpr std::array kColonnes{
+    Colonne{&Frmmain::Quantite, &Frmmain::LQuantite, u"Quantite", u"NQuantite", &TextesLigne::quantite,
+            &LigneIngre::quantite},
+    Colonne{&Frmmain::Mesure, &Frmmain::LMesure, u"Mesure", u"NMesure", &TextesLigne::mesure,
+            &LigneIngre::mesure},
+    Colonne{&Frmmain::Ingre, &Frmmain::LIngre, u"Ingredient", u"NIngredient", &TextesLigne::ingredient,
+            &LigneIngre::ingredient},
+};
+
+void Rechercher(const Colonne &colonne, const QString &texte, qint64 &numero) {
+    store::RechercherNumero(texte == store::LignePointillee ? QStringLiteral(" ") : texte, numero,
+                            colonne.table.toString(), colonne.cle.toString());
+}
+
+TextesLigne LigneAffichee(const Frmmain &frm, int i) {
+    return {frm.Quantite(i).Caption(), frm.Mesure(i).Caption(), frm.Ingre(i).Caption()};
+}
+
+void OuvrirLigne(Frmmain &frm, const Colonne &colonne, int i) {
+    frm.Scroll(0).update();
+    CacherListeModif(frm);
+    DropList &liste = frm.*colonne.liste;
+    const Ribbon &bouton = (frm.*colonne.boutons)(i);
+    liste.SetText(bouton.Caption());
+    liste.SetLeft(bouton.Left());
+    liste.SetTop(bouton.Top());
+    liste.SetWidth(bouton.Width());
+    liste.SetTag(QString::number(i));
+    liste.Open();
+}
+
+void ChoisirLigne(Frmmain &frm, const Colonne &colonne) {
+    DropList &liste = frm.*colonne.liste;
+    const int i = liste.Tag().toInt();
+    Ribbon &bouton = (frm.*colonne.boutons)(i);
+    if (bouton.Caption() == liste.Text()) {
+        return;
+    }
+    const QString texte = store::SansBlancs(liste.Text());
+    liste.SetText(texte);
+    const qint64 recette = NumeroDeLaFiche(frm);
+    const TextesLigne ancienne = LigneAffichee(frm, i);
+    TextesLigne nouvelle = ancienne;
+    nouvelle.*colonne.texte = texte;
+    const ClesLignes cles = RechercherCles(ancienne, nouvelle);
+    if (cles.ancienne != cles.nouvelle) {
+        store::RemplacerLigneIngre(recette, cles.ancienne, cles.nouvelle);
+    }
+    bouton.SetCaption(texte);
+    bouton.setToolTip(texte);
+    FermerListe(liste, bouton);
+    frm.Scroll(0).update();
+}
+
+} // namespace
+
+ClesLignes RechercherCles(const TextesLigne &ancienne, const TextesLigne &nouvelle) {
+    ClesLignes cles{};
+    for (const Colonne &colonne : kColonnes) {
+        Rechercher(colonne, ancienne.*colonne.texte, cles.ancienne.*colonne.numero);
+        Rechercher(colonne, nouvelle.*colonne.texte, cles.nouvelle.*colonne.numero);
+    }
+    return cles;
+}
+
+void BrancherListesDeLigne(Frmmain &frm) {
+    for (const Colonne &colonne : kColonnes) {
+        DropList &liste = frm.*colonne.liste;
+        liste.SetOffersTyped(true);
+        QObject::connect(&liste, &DropList::Click, &frm, [&frm, &colonne] { ChoisirLigne(frm, colonne); });
+        QObject::connect(&liste, &DropList::Escaped, &frm, [&frm, &liste, &colonne] {
+            FermerListe(liste, (frm.*colonne.boutons)(liste.Tag().toInt()));
+        });
+    }
+}
+
+void BrancherLigne(Frmmain &frm, int i) {
+    for (const Colonne &colonne : kColonnes) {
+        Ribbon &bouton = (frm.*colonne.boutons)(i);
+        QObject::connect(&bouton, &Ribbon::toggled, &frm, [&frm, &colonne, &bouton, i] {
+            if (bouton.Value()) {
+                OuvrirLigne(frm, colonne, i);
+                bouton.SetValue(false);
+            }
+        });
+    }
+}
+
+} // namespace browser

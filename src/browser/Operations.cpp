@@ -1,0 +1,215 @@
+#include "Operations.h"
+
+#include "Fiche.h"
+#include "Frmmain.h"
+#include "TableDesVues.h"
+#include "Valeurs.h"
+
+#include "pictures/ChoisirImage.h"
+#include "platform/dialogs/InputBox.h"
+#include "platform/dialogs/MessageBox.h"
+#include "store/AccesBase.h"
+#include "store/Programme.h"
+#include "store/Textes.h"
+
+#include <algorithm>
+#include <array>
+
+namespace browser {
+
+namespace {
+
+using namespace platform::controls;
+namespace dialogs = platform::dialogs;
+
+const QString kRecettes = QStringLiteral("Cocktails");
+const QString kCleRecettes = QStringLiteral("Numero");
+constexpr int kPositionPhoto = 4;
+
+/// What a view asks for when a value is added, and how the list is headed and counted then. Some texts date from
+/// other uses of the same tables.
+struct Creation {
+    int vue;
+    QStringView invite, titre, suffixe, entete;
+};
+
+constexpr std::array kCreations{
+    Creation{1, u"Veuillez saisir une nouvelle catégorie", u"Création d'une nouvelle Catégorie",
+             u" Catégorie(s) ...", u" Liste des Catégories "},
+    Creation{2, u"Veuillez saisir un nouveau type de verre ", u"Création d'un nouveau type de verre ",
+             u" Verre(s) ...", u" Liste des Verres"},
+    Creation{6, u"Veuillez saisir un nouvel ingrédient", u"Création d'un nouvel ingrédient",
+             u" Ingredient(s) ...", u" Liste des Ingredients"},
+};
+
+/// Text after the count of each view when one of its rows has been deleted.
+constexpr std::array<QStringView, kNombreDeVues> kSuffixes{
+    u" Recette(s) ...", u" Catégorie(s) ...",  u" Verre(s) ...", u"", u"",
+    u" Verre(s) ...",   u" Ingrédient(s) ...", u"  ..."};
+
+bool ListeBasse(const Frmmain &frm) {
+    return frm.Outils(2).Tag() == kBas;
+}
+
+/// True where "Ajouter" makes a recipe and not a value.
+bool AjouteUneRecette(const Frmmain &frm) {
+    return ListeBasse(frm) || VueCourante() == 0;
+}
+
+const Creation *CreationDe(int vue) {
+    const auto *trouvee = std::find_if(kCreations.begin(), kCreations.end(),
+                                       [vue](const Creation &creation) { return creation.vue == vue; });
+    return trouvee != kCreations.end() ? trouvee : nullptr;
+}
+
+bool ConfirmerSuppression(Frmmain &frm, const QString &texte) {
+    return dialogs::Ask(&frm, store::TitreProgramme.toString(),
+                        QStringLiteral("Voulez-vous réellement supprimer ") + texte + QStringLiteral(" ?"));
+}
+
+/// Takes the selected row out of a list and selects the one that moves into its place, or else the last one. False
+/// when no row is left.
+bool RetirerRangee(List &liste) {
+    const int place = liste.SelectedIndex();
+    liste.Remove(place);
+    if (liste.Count() == 0) {
+        return false;
+    }
+    liste.Select(std::min(place, liste.Count()));
+    return true;
+}
+
+qint64 NumeroChoisi(const List &liste) {
+    return store::NumeroDeCle(liste.Key(liste.SelectedIndex()));
+}
+
+/// The lines of the recipe stay behind, without a recipe.
+void SupprimerDuBas(Frmmain &frm) {
+    List &liste = frm.LFilms;
+    if (!ConfirmerSuppression(frm, liste.Text(liste.SelectedIndex()))) {
+        return;
+    }
+    store::SupprimerFiches(kRecettes, NumeroChoisi(liste), kCleRecettes);
+    if (RetirerRangee(liste)) {
+        ChargerRecette(frm, NumeroChoisi(liste));
+        frm.LTDroit.SetCaption(liste.Text(liste.SelectedIndex()));
+    }
+}
+
+/// Deletes what a row of Liste stands for. False when recipes still use it.
+bool SupprimerDeLaVue(Frmmain &frm, int vue, qint64 numero) {
+    const Vue *courante = VueNumero(vue);
+    if (courante == nullptr || !courante->vocabulaire.empty()) {
+        return true;
+    }
+    if (vue != 0 && frm.LFilms.Count() > 0) {
+        return false;
+    }
+    store::SupprimerFiches(courante->table.toString(), numero, courante->cle.toString());
+    if (vue == 0) {
+        store::SupprimerFiches(QStringLiteral("Ingre"), numero, kCleRecettes);
+    }
+    frm.LBGauche.SetCaption(QString::number(frm.Liste.Count()) +
+                            kSuffixes.at(static_cast<std::size_t>(vue)).toString());
+    return true;
+}
+
+void SupprimerDuHaut(Frmmain &frm) {
+    List &liste = frm.Liste;
+    if (!ConfirmerSuppression(frm, liste.Text(liste.SelectedIndex())) ||
+        !SupprimerDeLaVue(frm, VueCourante(), NumeroChoisi(liste))) {
+        return;
+    }
+    if (!RetirerRangee(liste)) {
+        frm.Scroll(0).hide();
+        return;
+    }
+    ChargerRecette(frm, NumeroChoisi(liste));
+    ListeHaute(frm);
+    frm.Scroll(0).show();
+}
+
+pictures::CadreImage CadreDe(Frmmain &frm) {
+    return {frm, {frm.CadrePhoto.Width(), frm.CadrePhoto.Height()}, frm.Photo, frm.ImageTemp};
+}
+
+/// Stores the path of the picture chosen last, which is this recipe's unless the choice was broken off.
+void StockerPhoto(Frmmain &frm) {
+    QVariant chemin = frm.Photo.Tag();
+    store::ModifierSiRenseigne(chemin, kRecettes, NumeroDeLaFiche(frm), kPositionPhoto);
+}
+
+void ChoisirPhoto(Frmmain &frm) {
+    if (pictures::ChoisirImage(CadreDe(frm), frm.DossierImages) != pictures::Choix::Illisible) {
+        StockerPhoto(frm);
+    }
+}
+
+} // namespace
+
+bool PeutAjouter(const Frmmain &frm) {
+    return !AjouteUneRecette(frm) && CreationDe(VueCourante()) != nullptr;
+}
+
+void AjouterValeur(Frmmain &frm) {
+    const int vue = VueCourante();
+    const Creation *creation = CreationDe(vue);
+    if (AjouteUneRecette(frm) || creation == nullptr) {
+        return;
+    }
+    const auto texte = dialogs::InputBox(&frm, creation->titre.toString(), creation->invite.toString());
+    if (!texte || store::SansBlancs(*texte).isEmpty()) {
+        return;
+    }
+    const QString table = VueNumero(vue)->table.toString();
+    store::AjouterFiche(*texte, table, VueNumero(vue)->cle.toString());
+    ChargerListe(frm, {table, table, creation->entete.toString(), creation->suffixe.toString()}, vue);
+    ListeHaute(frm);
+}
+
+void ModifierRangee(Frmmain &frm) {
+    List &liste = ListeBasse(frm) ? frm.LFilms : frm.Liste;
+    liste.SetLabelEdit(List::LabelEditMode::Automatic);
+    liste.setFocus();
+    liste.StartLabelEdit();
+}
+
+void SupprimerRangee(Frmmain &frm) {
+    if (ListeBasse(frm)) {
+        SupprimerDuBas(frm);
+    } else {
+        SupprimerDuHaut(frm);
+    }
+}
+
+void ModifierPhoto(Frmmain &frm) {
+    if (VueCourante() == 0) {
+        ChoisirPhoto(frm);
+    }
+}
+
+void SupprimerPhoto(Frmmain &frm) {
+    if (!dialogs::Ask(&frm, store::TitreProgramme.toString(),
+                      QStringLiteral("Etes-vous sûr de vouloir supprimer cette photo ?")) ||
+        VueCourante() != 0) {
+        return;
+    }
+    QVariant aucune = QStringLiteral(" ");
+    store::ModifierSiRenseigne(aucune, kRecettes, NumeroDeLaFiche(frm), kPositionPhoto);
+    frm.Photo.SetPicture({});
+    frm.CadrePhoto.SetCaption(QStringLiteral("Pas de photo"));
+}
+
+void ClicCadrePhoto(Frmmain &frm) {
+    CacherListeModif(frm);
+    ChoisirPhoto(frm);
+}
+
+void DeposerPhoto(Frmmain &frm, const QString &fichier) {
+    CacherListeModif(frm);
+    if (pictures::PoserImage(CadreDe(frm), fichier) == pictures::Choix::Faite) {
+        StockerPhoto(frm);
+    }
+}
+
+} // namespace browser

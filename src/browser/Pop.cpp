@@ -1,0 +1,79 @@
+#include "Pop.h"
+
+#include "Frmmain.h"
+#include "Operations.h"
+#include "TableDesVues.h"
+
+#include "store/Programme.h"
+
+namespace browser {
+
+namespace {
+
+using namespace platform::controls;
+
+constexpr Extent kTaille{Twips(4500), Twips(1500)};
+
+void Nommer(QObject &objet, const char *nom) {
+    objet.setObjectName(QLatin1String(nom));
+}
+
+} // namespace
+
+Pop::Pop(Frmmain &frm)
+    : SkinnedWindow(QStringLiteral("Pop"), kTaille),
+      Menu1(this),
+      Menu2(this),
+      Ajouter(QStringLiteral("&Ajouter")),
+      Modifier(QStringLiteral("&Modifier")),
+      Supprimer(QStringLiteral("&Supprimer")),
+      ModifPhoto(QStringLiteral("&Modifier la photo")),
+      SuppPhoto(QStringLiteral("&Supprimer la photo")) {
+    setWindowTitle(store::TitreProgramme.toString());
+    Composer();
+    BrancherMenus(frm);
+    BrancherFenetre(frm);
+}
+
+void Pop::Composer() {
+    Nommer(Menu1, "Menu1");
+    Nommer(Menu2, "Menu2");
+    Nommer(Ajouter, "Ajouter");
+    Nommer(Modifier, "Modifier");
+    Nommer(Supprimer, "Supprimer");
+    Nommer(ModifPhoto, "ModifPhoto");
+    Nommer(SuppPhoto, "SuppPhoto");
+    Menu1.addActions({&Ajouter, &Modifier, &Supprimer});
+    Menu2.addActions({&ModifPhoto, &SuppPhoto});
+}
+
+void Pop::BrancherMenus(Frmmain &frm) {
+    connect(&Ajouter, &QAction::triggered, this, [&frm] { AjouterValeur(frm); });
+    connect(&Modifier, &QAction::triggered, this, [&frm] { ModifierRangee(frm); });
+    connect(&Supprimer, &QAction::triggered, this, [&frm] { SupprimerRangee(frm); });
+    connect(&ModifPhoto, &QAction::triggered, this, [&frm] { ModifierPhoto(frm); });
+    connect(&SuppPhoto, &QAction::triggered, this, [&frm] { SupprimerPhoto(frm); });
+}
+
+void Pop::BrancherFenetre(Frmmain &frm) {
+    connect(&frm.LFilms, &List::RightClicked, this, [this, &frm](const QPoint &lieu) {
+        frm.Outils(2).SetTag(kBas);
+        MenuDesListes(frm, lieu);
+    });
+    connect(&frm.Liste, &List::RightClicked, this, [this, &frm](const QPoint &lieu) {
+        const int vue = VueCourante();
+        frm.Outils(2).SetTag(vue == 0 ? kHaut : QString());
+        const Vue *courante = VueNumero(vue);
+        if (courante != nullptr && courante->vocabulaire.empty()) {
+            MenuDesListes(frm, lieu);
+        }
+    });
+    connect(&frm.CadrePhoto, &Panel::RightClicked, this, [this](const QPoint &lieu) { Menu2.popup(lieu); });
+}
+
+void Pop::MenuDesListes(const Frmmain &frm, const QPoint &lieu) {
+    Ajouter.setEnabled(PeutAjouter(frm));
+    Menu1.popup(lieu);
+}
+
+} // namespace browser

@@ -1,0 +1,280 @@
+#include "LivreEssai.h"
+
+#include "browser/Fiche.h"
+#include "browser/Valeurs.h"
+#include "store/Vocabulaires.h"
+
+#include <QLineEdit>
+#include <QListView>
+
+#include <memory>
+#include <stdexcept>
+
+using namespace browser;
+using namespace platform::controls;
+
+namespace {
+
+const QString kDots = store::LignePointillee.toString();
+
+/// Text of every kind that a cook may type into a field of one line.
+const QString kDifficult = u"L'« œuf » \"dur\" <B>à l'eau</B> & 50 % \U0001F373 "_qs + QString(10'000, u'é');
+
+} // namespace
+
+class TestModifications : public QObject {
+    Q_OBJECT
+
+private:
+    /// The row that a list offers is chosen, as by a click on it.
+    static void choose(DropList &list, const QString &text) {
+        const int row = list.findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+        QVERIFY2(row >= 0, qPrintable(text));
+        list.setCurrentIndex(row);
+        Q_EMIT list.activated(row);
+    }
+
+    static void typeInto(DropList &list, const QString &text) {
+        list.lineEdit()->selectAll();
+        list.lineEdit()->insert(text);
+    }
+
+    DropList &open(int data, DropList &list) {
+        m_window->Data(data).SetValue(true);
+        return list;
+    }
+
+    /// The rows of a query, each its columns from one to another with "|" between them; Null as "-".
+    static QStringList rows(const QString &query, int first = 0, int last = 0) {
+        auto book = store::OuvrirLivre();
+        QStringList all;
+        for (auto row = book.OpenRecordset(query); !row.AtEnd(); row.MoveNext()) {
+            QStringList texts;
+            for (int i = first; i <= last; ++i) {
+                texts += row.Fields(i).IsNull() ? u"-"_qs : row.Fields(i).Text();
+            }
+            all += texts.join(u'|');
+        }
+        return all;
+    }
+
+    static QString stored(const QString &column, int recipe = 1) {
+        return rows(u"SELECT %1 From Cocktails where Numero = %2"_qs.arg(column).arg(recipe)).value(0);
+    }
+
+    /// The lines of recipe 1 as they are displayed, the newest first: ingredient, quantity, measure.
+    static QStringList lines() {
+        return rows(u"SELECT * From Ingre where Numero = 1 order by Numero desc"_qs, 1, 3);
+    }
+
+    static void insertLine(const QString &line) {
+        LivreEssai::execute({u"INSERT INTO Ingre VALUES (1, "_qs + line + u")"_qs});
+    }
+
+    void show(int recipe = 1) { ChargerRecette(*m_window, recipe); }
+
+    std::unique_ptr<LivreEssai> m_book;
+    std::unique_ptr<Frmmain> m_window;
+
+private Q_SLOTS:
+
+    void init() {
+        m_book = std::make_unique<LivreEssai>();
+        LivreEssai::execute({
+            u"INSERT INTO Categorie VALUES (1, '10 mn'), (2, '1 heure')"_qs,
+            u"INSERT INTO DureeReal VALUES (1, '20 mn')"_qs,
+            u"INSERT INTO Verre (NVerre, Verre) VALUES (1, '4 personnes'), (2, '6 personnes')"_qs,
+            u"INSERT INTO Realisation VALUES (1, 'Entrée')"_qs,
+            u"INSERT INTO VIN VALUES (1, 'Chinon'), (2, 'Cidre')"_qs,
+            u"INSERT INTO Ingredient VALUES (1, 'Beurre'), (2, 'Eau'), (3, 'Farine')"_qs,
+            u"INSERT INTO Quantite VALUES (1, '100'), (2, '200')"_qs,
+            u"INSERT INTO Mesure VALUES (1, 'g'), (2, 'ml')"_qs,
+            u"INSERT INTO Cocktails VALUES (1, 'Tarte', 1, 1, NULL, 1, '', '', 1, 2, 1, 1)"_qs,
+            u"INSERT INTO Ingre VALUES (1, 1, 1, 1), (1, 2, 2, 2)"_qs,
+        });
+        m_window = std::make_unique<Frmmain>();
+        openView(*m_window, 0);
+    }
+
+    void cleanup() { m_window.reset(); }
+
+    void aChosenValueIsStoredAtOnce() {
+        DropList &list = open(6, m_window->LCategorie);
+        QVERIFY(list.isVisible() && list.hasFocus());
+        QCOMPARE(list.Place().top, m_window->Data(6).Place().top);
+        QCOMPARE(list.Text(), u"10 mn"_qs);
+        choose(list, u"1 heure"_qs);
+        QCOMPARE(stored(u"NCategorie"_qs), u"2"_qs);
+        QCOMPARE(m_window->Data(6).Caption(), u"1 heure"_qs);
+        QCOMPARE(m_window->Data(6).toolTip(), u"1 heure"_qs);
+        QVERIFY(!list.isVisible());
+        QVERIFY(m_window->Data(6).hasFocus());
+
+        open(4, m_window->LTeneur);
+        choose(m_window->LTeneur, u"Cidre"_qs);
+        QCOMPARE(stored(u"Teneur"_qs), u"2"_qs);
+    }
+
+    void enterTakesWhatIsTypedButNotInTheVocabularies() {
+        const std::array typed{std::pair(0, &m_window->LVerre), std::pair(1, &m_window->LMateriel),
+                               std::pair(4, &m_window->LTeneur), std::pair(5, &m_window->LDureeReal),
+                               std::pair(6, &m_window->LCategorie)};
+        for (const auto &[data, list] : typed) {
+            typeInto(open(data, *list), kDifficult);
+            QTest::keyClick(list, Qt::Key_Return);
+            QVERIFY(!list->isVisible());
+        }
+        show();
+        for (const auto &[data, list] : typed) {
+            QCOMPARE(m_window->Data(data).Caption(), kDifficult);
+        }
+        typeInto(open(2, m_window->LCout), u"Très Cher"_qs);
+        QTest::keyClick(&m_window->LCout, Qt::Key_Return);
+        QCOMPARE(stored(u"Cout"_qs), u"1"_qs);
+        QVERIFY(m_window->LCout.isVisible());
+    }
+
+    void whatIsNotConfirmedIsDropped() {
+        DropList &list = open(6, m_window->LCategorie);
+        typeInto(list, u"1 heure"_qs); // a row of the list, but not chosen
+        m_window->Liste.setFocus();
+        QVERIFY(!list.isVisible());
+        typeInto(open(6, list), u"2 heures"_qs);
+        QTest::keyClick(&list, Qt::Key_Escape);
+        QVERIFY(!list.isVisible() && m_window->Data(6).hasFocus());
+        typeInto(open(6, list), u"  "_qs);
+        QTest::keyClick(&list, Qt::Key_Return);
+        QCOMPARE(stored(u"NCategorie"_qs), u"1"_qs);
+        QCOMPARE(rows(u"SELECT NCategorie From Categorie"_qs).size(), 2);
+
+        // The list's own popup is no other control.
+        QTest::keyClick(&open(6, list), Qt::Key_Down);
+        QVERIFY(list.view()->isVisible() && list.isVisible());
+        QTest::keyClick(list.view(), Qt::Key_Escape);
+        QVERIFY(list.isVisible());
+    }
+
+    void dotsAddABlankRowEachTime() {
+        for (int times = 1; times <= 2; ++times) {
+            choose(open(6, m_window->LCategorie), kDots);
+            QCOMPARE(rows(u"SELECT * From Categorie where Categorie = ' '"_qs).size(), times);
+            choose(open(6, m_window->LCategorie), u"10 mn"_qs);
+        }
+        choose(open(6, m_window->LCategorie), kDots);
+        QCOMPARE(stored(u"NCategorie"_qs), u"5"_qs);
+    }
+
+    void theRowsPlaceIsTheCode() {
+        open(2, m_window->LCout);
+        QCOMPARE(m_window->LCout.Text(), store::Cout[1].toString());
+        choose(m_window->LCout, store::Cout[4].toString());
+        QCOMPARE(stored(u"Cout"_qs), u"4"_qs);
+        QCOMPARE(m_window->Data(2).Tag(), u"4"_qs);
+        LivreEssai::execute({u"UPDATE Cocktails SET Cout = 0"_qs});
+        choose(open(2, m_window->LCout), store::Cout[4].toString()); // stored although it was shown
+        QCOMPARE(stored(u"Cout"_qs), u"4"_qs);
+        choose(open(3, m_window->LDiff), store::Difficulte[5].toString());
+        QCOMPARE(stored(u"difficulte"_qs), u"5"_qs);
+    }
+
+    void withoutARecipe() {
+        LivreEssai::execute({u"DELETE From Cocktails"_qs});
+        m_window->CleCourante.clear();
+        TrierListe(*m_window, 0);
+        choose(m_window->LCout, store::Cout[4].toString()); // shown, not stored, not told
+        QCOMPARE(m_window->Data(2).Caption(), store::Cout[4].toString());
+        typeInto(m_window->LCategorie, u"3 heures"_qs);
+        QVERIFY_THROWS_EXCEPTION(std::out_of_range, ChoisirValeur(*m_window, 6));
+        QCOMPARE(rows(u"SELECT * From Categorie where Categorie = '3 heures'"_qs).size(), 1);
+    }
+
+    void overAnEmptyTableTwoListsKeepTheirPlace() {
+        LivreEssai::execute({u"DELETE From Verre"_qs, u"DELETE From DureeReal"_qs});
+        ChargerLesListesCombo(*m_window);
+        m_window->LVerre.SetLeft(Twips(15));
+        m_window->LDureeReal.SetLeft(Twips(15));
+        open(0, m_window->LVerre);
+        QCOMPARE(m_window->LVerre.Left(), Twips(15));
+        open(5, m_window->LDureeReal);
+        QCOMPARE(m_window->LDureeReal.Left(), m_window->Data(5).Left());
+        QVERIFY(!m_window->LVerre.isVisible());
+    }
+
+    void textsAreStoredAsTheyAreTyped() {
+        RichTextBox &method = m_window->Saisie(0);
+        method.setFocus();
+        QTest::keyClicks(&method, u"Cuire l'oeuf."_qs);
+        QVERIFY(stored(u"preparation"_qs).startsWith(u"{\\rtf"));
+        show();
+        QCOMPARE(method.Text(), u"Cuire l'oeuf."_qs);
+
+        const QByteArray before = LivreEssai::bytes();
+        show(); // a load writes nothing back
+        m_window->Saisie(1).setFocus();
+        QCOMPARE(LivreEssai::bytes(), before);
+
+        method.selectAll();
+        QTest::keyClick(&method, Qt::Key_Delete);
+        QVERIFY(stored(u"preparation"_qs).startsWith(u"{\\rtf"));
+        m_window->Saisie(1).insertPlainText(kDifficult);
+        show();
+        QCOMPARE(m_window->Saisie(1).Text(), kDifficult);
+        QCOMPARE(method.Text(), QString());
+    }
+
+    void aChangedLineComesFirst() {
+        m_window->Quantite(1).SetValue(true); // Beurre, the older line
+        QVERIFY(m_window->LQuantite.isVisible());
+        QCOMPARE(m_window->LQuantite.Tag(), u"1"_qs);
+        choose(m_window->LQuantite, u"200"_qs);
+        QCOMPARE(m_window->Quantite(1).Caption(), u"200"_qs);
+        QCOMPARE(lines(), (QStringList{u"1|2|1"_qs, u"2|2|2"_qs}));
+        show();
+        QCOMPARE(m_window->Ingre(0).Caption(), u"Beurre"_qs);
+    }
+
+    void theDottedRowAddsALine() {
+        m_window->Ingre(2).SetValue(true);
+        DropList &list = m_window->LIngre;
+        typeInto(list, kDifficult);
+        QTest::keyClick(&list, Qt::Key_Return); // only a click takes the value
+        QCOMPARE(lines().size(), 2);
+        // The typed text stands on top of the opened list.
+        QTest::keyClick(&list, Qt::Key_Down);
+        QVERIFY(list.view()->isVisible());
+        QTest::keyClick(list.view(), Qt::Key_Return);
+        QTRY_VERIFY(!list.isVisible());
+        QCOMPARE(m_window->Ingre(2).Caption(), kDifficult);
+        // Absent parts of the line have become rows with a blank.
+        QCOMPARE(lines(), (QStringList{u"5|3|3"_qs, u"2|2|2"_qs, u"1|1|1"_qs}));
+        QCOMPARE(LivreEssai::text(u"SELECT * From Ingredient where NIngredient = 5"_qs), kDifficult);
+        QCOMPARE(LivreEssai::text(u"SELECT * From Mesure where NMesure = 3"_qs), u" "_qs);
+
+        m_window->Mesure(2).SetValue(true);
+        choose(m_window->LMesure, u"g"_qs);
+        QCOMPARE(lines(), (QStringList{u"5|3|1"_qs, u"2|2|2"_qs, u"1|1|1"_qs}));
+    }
+
+    void linesThatAreNotFoundStay() {
+        insertLine(u"3, 0, 0"_qs); // Farine with nothing else, as an entry stores it
+        show();
+        m_window->Quantite(0).SetValue(true);
+        choose(m_window->LQuantite, u"100"_qs);
+        QCOMPARE(lines(), (QStringList{u"3|1|3"_qs, u"3|0|0"_qs, u"2|2|2"_qs, u"1|1|1"_qs}));
+    }
+
+    void linesThatBecomeEqualAndLinesThatAre() {
+        insertLine(u"1, 1, 1"_qs);
+        show();
+        m_window->Mesure(0).SetValue(true); // one of two equal lines
+        choose(m_window->LMesure, u"ml"_qs);
+        QCOMPARE(lines(), (QStringList{u"1|1|2"_qs, u"1|1|1"_qs, u"2|2|2"_qs}));
+        m_window->Mesure(0).SetValue(true);
+        choose(m_window->LMesure, u"g"_qs);
+        QCOMPARE(lines(), (QStringList{u"1|1|1"_qs, u"2|2|2"_qs}));
+        QVERIFY(m_window->Ingre(0).isVisible()); // both are shown until the next display
+    }
+};
+
+QTEST_MAIN(TestModifications)
+#include "TestModifications.moc"

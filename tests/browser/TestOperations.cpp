@@ -1,0 +1,188 @@
+#include "LivreEssai.h"
+#include "Reponse.h"
+
+#include "browser/Operations.h"
+#include "browser/Pop.h"
+
+#include <QLineEdit>
+
+#include <memory>
+
+using namespace browser;
+using namespace platform::controls;
+
+class TestOperations : public QObject {
+    Q_OBJECT
+
+private:
+    Frmmain &opened(int view) {
+        m_menus.reset();
+        m_window = std::make_unique<Frmmain>();
+        m_menus = std::make_unique<Pop>(*m_window);
+        openView(*m_window, view);
+        return *m_window;
+    }
+
+    /// Right click on a row, then an entry of the menu that opens.
+    void pick(List &list, int row, QAction &entry) {
+        clickRow(list, row, Qt::RightButton);
+        QTRY_VERIFY(m_menus->Menu1.isVisible());
+        m_menus->Menu1.close();
+        entry.trigger();
+    }
+
+    static int count(const QString &query) {
+        auto book = store::OuvrirLivre();
+        return static_cast<int>(book.OpenRecordset(query).RecordCount());
+    }
+
+    std::unique_ptr<LivreEssai> m_book;
+    std::unique_ptr<Frmmain> m_window;
+    std::unique_ptr<Pop> m_menus;
+
+private Q_SLOTS:
+
+    void init() {
+        m_book = std::make_unique<LivreEssai>();
+        LivreEssai::execute({
+            u"INSERT INTO Categorie VALUES (1, '10 mn'), (2, '1 heure'), (3, '2 heures')"_qs,
+            u"INSERT INTO Ingredient VALUES (1, 'Beurre')"_qs,
+            u"INSERT INTO Cocktails VALUES (1, 'Tarte', 1, 1, NULL, 1, '', '', 1, 2, 1, 1)"_qs,
+            u"INSERT INTO Cocktails VALUES (2, 'Bisque', 1, 1, NULL, 1, '', '', 1, 2, 1, 1)"_qs,
+            u"INSERT INTO Cocktails VALUES (3, 'Vacherin', 2, 1, NULL, 1, '', '', 1, 2, 1, 1)"_qs,
+            u"INSERT INTO Ingre VALUES (1, 1, 1, 1), (2, 1, 1, 1)"_qs,
+        });
+    }
+
+    void cleanup() {
+        m_menus.reset();
+        m_window.reset();
+    }
+
+    void theMenuBelongsToTheRowUnderThePointer() {
+        Frmmain &frm = opened(0);
+        clickRow(frm.Liste, 2, Qt::RightButton);
+        QCOMPARE(frm.LTDroit.Caption(), u"Tarte"_qs); // shown before anything acts on it
+        QCOMPARE(frm.Outils(2).Tag(), kHaut);
+        QTRY_VERIFY(m_menus->Menu1.isVisible());
+        QVERIFY(!m_menus->Ajouter.isEnabled());
+        m_menus->Menu1.close();
+
+        opened(1);
+        clickRow(m_window->Liste, 1, Qt::RightButton);
+        QCOMPARE(m_window->Outils(2).Tag(), QString());
+        QVERIFY(m_menus->Ajouter.isEnabled());
+        m_menus->Menu1.close();
+        clickRow(m_window->LFilms, 1, Qt::RightButton);
+        QCOMPARE(m_window->Outils(2).Tag(), kBas);
+        m_menus->Menu1.close();
+
+        clickRow(opened(3).Liste, 1, Qt::RightButton); // nothing to do in a fixed vocabulary
+        QVERIFY(!m_menus->Menu1.isVisible());
+    }
+
+    void aNewValueIsListed() {
+        Frmmain &frm = opened(6);
+        const Reponse answer(u"OK"_qs, u"Crème d'Isigny "_qs);
+        pick(frm.Liste, 1, m_menus->Ajouter);
+        QCOMPARE(answer.title(), u"Création d'un nouvel ingrédient"_qs);
+        QCOMPARE(texts(frm.Liste), u"Beurre, Crème d'Isigny "_qs);
+        QCOMPARE(frm.LBGauche.Caption(), u"2 Ingredient(s) ..."_qs); // without the accent of the view
+
+        for (const auto &[button, typed] :
+             {std::pair(u"OK"_qs, u"  "_qs), std::pair(u"Annuler"_qs, u"x"_qs)}) {
+            const Reponse nothing(button, typed);
+            AjouterValeur(frm);
+            QVERIFY(nothing.asked());
+        }
+        QCOMPARE(frm.Liste.Count(), 2);
+    }
+
+    void aRowIsRenamedInPlace() {
+        Frmmain &frm = opened(0);
+        pick(frm.Liste, 1, m_menus->Modifier);
+        auto *editor = frm.Liste.viewport()->findChild<QLineEdit *>();
+        QVERIFY(editor != nullptr);
+        editor->setText(u"Bisque d'étrilles"_qs);
+        QTest::keyClick(editor, Qt::Key_Return);
+        QTRY_COMPARE(LivreEssai::text(u"SELECT * From Cocktails where Numero = 2"_qs),
+                     u"Bisque d'étrilles"_qs);
+    }
+
+    void aDeletedRecipeTakesItsLinesAlongFromAboveOnly() {
+        Frmmain &frm = opened(0);
+        {
+            const Reponse no(u"Non"_qs);
+            pick(frm.Liste, 2, m_menus->Supprimer);
+            QCOMPARE(no.question(), u"Voulez-vous réellement supprimer Tarte ?"_qs);
+        }
+        QCOMPARE(count(u"SELECT * From Cocktails"_qs), 3);
+        const Reponse yes(u"Oui"_qs);
+        pick(frm.Liste, 2, m_menus->Supprimer);
+        QCOMPARE(texts(frm.Liste), u"Bisque, Vacherin"_qs);
+        QCOMPARE(frm.LTDroit.Caption(), u"Vacherin"_qs);
+        QCOMPARE(frm.LBGauche.Caption(), u"3 Recette(s) ..."_qs); // counted before the row goes
+        QCOMPARE(count(u"SELECT * From Ingre where Numero = 1"_qs), 0);
+
+        Frmmain &groups = opened(1); // 1 heure, 10 mn, 2 heures
+        clickRow(groups.Liste, 2);
+        const Reponse below(u"Oui"_qs);
+        pick(groups.LFilms, 1, m_menus->Supprimer);
+        QCOMPARE(groups.LFilms.Count(), 0);
+        QCOMPARE(count(u"SELECT * From Cocktails"_qs), 1);
+        QCOMPARE(count(u"SELECT * From Ingre where Numero = 2"_qs), 1);
+    }
+
+    void theLastRowLeavesAnEmptyPage() {
+        LivreEssai::execute({u"DELETE From Cocktails where Numero > 1"_qs});
+        Frmmain &frm = opened(0);
+        const Reponse yes(u"Oui"_qs);
+        pick(frm.Liste, 1, m_menus->Supprimer);
+        QCOMPARE(frm.Liste.Count(), 0);
+        QVERIFY(!frm.Scroll(0).isVisible());
+    }
+
+    void aValueInUseStays() {
+        Frmmain &frm = opened(1);
+        for (const int row : {1, 3}) { // 1 heure has a recipe, 2 heures has none
+            const Reponse yes(u"Oui"_qs);
+            pick(frm.Liste, row, m_menus->Supprimer);
+        }
+        QCOMPARE(texts(frm.Liste), u"1 heure, 10 mn"_qs);
+        QCOMPARE(count(u"SELECT * From Categorie"_qs), 2);
+        QCOMPARE(frm.LBGauche.Caption(), u"2 Recette(s) ..."_qs); // of the group that took the place
+
+        Frmmain &costs = opened(3);
+        const Reponse yes(u"Oui"_qs);
+        SupprimerRangee(costs); // out of the list until it is loaded again
+        QCOMPARE(costs.Liste.Count(), 4);
+    }
+
+    void aPhotoIsReplacedAndRemoved() {
+        Frmmain &frm = opened(0);
+        const QString photo = m_book->path(u"l'été.PNG"_qs);
+        QImage(40, 30, QImage::Format_RGB32).save(photo);
+        DeposerPhoto(frm, photo);
+        QVERIFY(frm.Photo.isVisible());
+        QCOMPARE(LivreEssai::text(u"SELECT Numero, Photo From Cocktails where Numero = 2"_qs), photo);
+
+        clickRow(frm.Liste, 2);
+        {
+            const Reponse unreadable(u"OK"_qs);
+            DeposerPhoto(frm, store::CheminBase()); // no picture: nothing changes
+            QVERIFY(unreadable.asked());
+        }
+        QCOMPARE(LivreEssai::text(u"SELECT Numero, Photo From Cocktails where Numero = 1"_qs), QString());
+
+        clickRow(frm.Liste, 1);
+        const Reponse yes(u"Oui"_qs);
+        SupprimerPhoto(frm);
+        QCOMPARE(yes.question(), u"Etes-vous sûr de vouloir supprimer cette photo ?"_qs);
+        QCOMPARE(LivreEssai::text(u"SELECT Numero, Photo From Cocktails where Numero = 2"_qs), u" "_qs);
+        QCOMPARE(frm.CadrePhoto.Caption(), u"Pas de photo"_qs);
+        QVERIFY(QFile::exists(photo));
+    }
+};
+
+QTEST_MAIN(TestOperations)
+#include "TestOperations.moc"
