@@ -1,5 +1,6 @@
 #include "CollationFrancaise.h"
 
+#include <array>
 #include <utility>
 
 namespace store {
@@ -7,7 +8,7 @@ namespace store {
 namespace {
 
 constexpr char32_t kPremierAccent = 0xC0;
-constexpr char32_t kDernierAccent = 0x17F;
+constexpr char32_t kDernierAccent = 0x17F; // beyond it, letters count as they are
 
 /// The base letters of U+00C0 to U+017F, capitals and small letters alike. Letters that stand for two, and
 /// signs, are blanks here.
@@ -54,7 +55,7 @@ inline char32_t prendre(std::string_view &texte) {
 }
 
 /// The small letter of a capital of Latin-1 or Latin Extended-A.
-char32_t minusculeAccentuee(char32_t c) {
+constexpr char32_t minusculeAccentuee(char32_t c) {
     if (c >= 0xC0 && c <= 0xDE) {
         return c == 0xD7 ? c : c + 0x20;
     }
@@ -67,7 +68,7 @@ char32_t minusculeAccentuee(char32_t c) {
     return capitale ? c + 1 : c;
 }
 
-inline char32_t minuscule(char32_t c) {
+constexpr char32_t minusculeDe(char32_t c) {
     if (c < 0x80) {
         return c >= U'A' && c <= U'Z' ? c + 0x20 : c;
     }
@@ -80,7 +81,7 @@ struct Base {
     char32_t seconde = 0;
 };
 
-Base baseAccentuee(char32_t c) {
+constexpr Base baseAccentuee(char32_t c) {
     switch (c) {
     case U'æ':
         return {U'a', U'e'};
@@ -98,8 +99,27 @@ Base baseAccentuee(char32_t c) {
     }
 }
 
-inline Base base(char32_t c) {
-    return c < kPremierAccent || c > kDernierAccent ? Base{c, 0} : baseAccentuee(c);
+/// What a character counts as.
+struct Lettre {
+    char32_t minuscule = 0;
+    Base base;
+};
+
+constexpr auto kLettres = [] {
+    std::array<Lettre, kDernierAccent + 1> lettres{};
+    for (char32_t c = 0; c < lettres.size(); ++c) {
+        const char32_t petite = minusculeDe(c);
+        lettres[c] = {petite, petite < kPremierAccent ? Base{petite} : baseAccentuee(petite)};
+    }
+    return lettres;
+}();
+
+inline Lettre lettre(char32_t c) {
+    return c < kLettres.size() ? kLettres[c] : Lettre{c, {c}};
+}
+
+inline char32_t minuscule(char32_t c) {
+    return lettre(c).minuscule;
 }
 
 /// The base letters of a text, one after the other.
@@ -115,7 +135,7 @@ public:
         if (m_texte.empty()) {
             return 0;
         }
-        const Base b = base(minuscule(prendre(m_texte)));
+        const Base b = lettre(prendre(m_texte)).base;
         m_seconde = b.seconde;
         return b.premiere + 1;
     }
@@ -144,6 +164,29 @@ inline char *ecrire(char *cle, char32_t c) {
         *cle++ = static_cast<char>(0x80 | (c >> 6 & 0x3F));
     }
     *cle++ = static_cast<char>(0x80 | (c & 0x3F));
+    return cle;
+}
+
+/// What ecrire() makes of the small letters of ASCII plus 1, as far as that is a single byte.
+constexpr auto kClesAscii = [] {
+    std::array<char, 0x7F> cles{};
+    for (char32_t c = 0; c < cles.size(); ++c) {
+        cles[c] = static_cast<char>(kLettres[c].minuscule + 1);
+    }
+    return cles;
+}();
+
+/// Takes the characters off the front of a text that are in kClesAscii, and writes them. Nearly all are.
+inline char *ecrireAscii(char *cle, std::string_view &texte) {
+    const char *lu = texte.data();
+    for (const char *const fin = lu + texte.size(); lu != fin; ++lu) {
+        const auto octet = static_cast<unsigned char>(*lu);
+        if (octet >= kClesAscii.size()) {
+            break;
+        }
+        *cle++ = kClesAscii[octet];
+    }
+    texte.remove_prefix(static_cast<size_t>(lu - texte.data()));
     return cle;
 }
 
@@ -176,33 +219,30 @@ int ComparerFrancais(std::string_view gauche, std::string_view droite) {
     return int(droite.empty()) - int(gauche.empty());
 }
 
-void AjouterCleDeTri(std::string_view texte, std::string &cles) {
+void AjouterCleDeTri(std::string_view texte, QByteArray &cles) {
     // Each number is a character plus 1, which keeps 0 for the end of the base letters. A byte becomes 4
     // bytes at most in each half: one that is no UTF-8 does.
-    const size_t debut = cles.size();
-    cles.resize(debut + 8 * texte.size() + 1);
+    const qsizetype debut = cles.size();
+    cles.resize(debut + 8 * static_cast<qsizetype>(texte.size()) + 1);
     char *fin = cles.data() + debut;
     bool accents = false;
-    for (std::string_view reste = texte; !reste.empty();) {
-        if (const auto octet = static_cast<unsigned char>(reste.front()); octet < 0x7F) {
-            *fin++ = static_cast<char>(minuscule(octet) + 1);
-            reste.remove_prefix(1);
-            continue;
+    std::string_view reste = texte;
+    for (fin = ecrireAscii(fin, reste); !reste.empty(); fin = ecrireAscii(fin, reste)) {
+        const Lettre l = lettre(prendre(reste));
+        fin = ecrire(fin, l.base.premiere + 1);
+        if (l.base.seconde != 0) {
+            fin = ecrire(fin, l.base.seconde + 1);
         }
-        const char32_t c = minuscule(prendre(reste));
-        const Base b = base(c);
-        fin = ecrire(fin, b.premiere + 1);
-        if (b.seconde != 0) {
-            fin = ecrire(fin, b.seconde + 1);
-        }
-        accents = accents || b.premiere != c;
+        accents = accents || l.base.premiere != l.minuscule;
     }
     *fin++ = '\0';
     // A text without accents comes before all others of the same base letters, so it needs nothing more.
-    for (; accents && !texte.empty();) {
-        fin = ecrire(fin, minuscule(prendre(texte)) + 1);
+    if (accents) {
+        for (fin = ecrireAscii(fin, texte); !texte.empty(); fin = ecrireAscii(fin, texte)) {
+            fin = ecrire(fin, minuscule(prendre(texte)) + 1);
+        }
     }
-    cles.resize(static_cast<size_t>(fin - cles.data()));
+    cles.truncate(fin - cles.constData());
 }
 
 } // namespace store

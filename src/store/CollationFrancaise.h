@@ -2,7 +2,6 @@
 
 #include "platform/database/Collation.h"
 
-#include <string>
 #include <string_view>
 
 namespace store {
@@ -13,7 +12,7 @@ namespace store {
 int ComparerFrancais(std::string_view gauche, std::string_view droite);
 
 /// Appends bytes in the order of ComparerFrancais; equal texts give equal bytes.
-void AjouterCleDeTri(std::string_view texte, std::string &cles);
+void AjouterCleDeTri(std::string_view texte, QByteArray &cles);
 
 inline constexpr platform::database::Collation CollationFrancaise{ComparerFrancais, AjouterCleDeTri};
 

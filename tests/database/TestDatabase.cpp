@@ -39,7 +39,7 @@ constexpr Collation kVowelBlind{
     [](std::string_view left, std::string_view right) {
         return withoutVowels(left).compare(withoutVowels(right));
     },
-    [](std::string_view text, std::string &keys) { keys += withoutVowels(text); },
+    [](std::string_view text, QByteArray &keys) { keys += withoutVowels(text).c_str(); },
 };
 
 /// The end of a child process that runs a function.

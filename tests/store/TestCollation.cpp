@@ -9,9 +9,9 @@ using namespace store;
 namespace {
 
 std::string key(std::string_view text) {
-    std::string bytes;
+    QByteArray bytes;
     store::AjouterCleDeTri(text, bytes);
-    return bytes;
+    return bytes.toStdString();
 }
 
 } // namespace

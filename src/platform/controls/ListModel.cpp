@@ -7,6 +7,7 @@ namespace platform::controls {
 void ListModel::beginLoading() {
     beginResetModel();
     m_rows.clear();
+    m_words.clear();
     m_rowOfKey.clear();
 }
 
@@ -22,29 +23,35 @@ void ListModel::append(const QString &key, const QString &text, int picture) {
 }
 
 void ListModel::appendDistinct(const QString &key, const QString &text, int picture) {
-    m_rows.push_back({key, text, picture});
+    m_rows.append({keep(key), keep(text), picture});
+}
+
+ListModel::Words ListModel::keep(QStringView words) {
+    const Words place{m_words.size(), static_cast<int>(words.size())};
+    m_words.append(words);
+    return place;
 }
 
 void ListModel::remove(int row) {
     beginRemoveRows({}, row, row);
-    m_rows.erase(m_rows.begin() + row);
+    m_rows.remove(row);
     m_rowOfKey.clear();
     endRemoveRows();
 }
 
 void ListModel::setText(int row, const QString &text) {
-    m_rows.at(static_cast<std::size_t>(row)).text = text;
+    m_rows[row].text = keep(text);
     Q_EMIT dataChanged(index(row), index(row), {Qt::DisplayRole});
 }
 
 void ListModel::setHighlight(int row, bool highlighted) {
-    m_rows.at(static_cast<std::size_t>(row)).highlighted = highlighted;
+    m_rows[row].highlighted = highlighted;
     Q_EMIT dataChanged(index(row), index(row), {Qt::FontRole, Qt::ForegroundRole});
 }
 
 int ListModel::find(const QString &key) const {
-    for (auto row = static_cast<std::size_t>(m_rowOfKey.size()); row < m_rows.size(); ++row) {
-        m_rowOfKey.insert(m_rows[row].key, static_cast<int>(row));
+    for (auto row = static_cast<int>(m_rowOfKey.size()); row < rowCount(); ++row) {
+        m_rowOfKey.insert(this->key(row), row);
     }
     return m_rowOfKey.value(key, -1);
 }
@@ -57,13 +64,13 @@ QVariant ListModel::data(const QModelIndex &index, int role) const {
     if (!index.isValid() || index.row() >= rowCount()) {
         return {};
     }
-    const Row &row = m_rows[static_cast<std::size_t>(index.row())];
+    const Row &row = m_rows.at(index.row());
     switch (role) {
     case Qt::DisplayRole:
     case Qt::EditRole:
-        return row.text;
+        return words(row.text);
     case Qt::UserRole:
-        return row.key;
+        return words(row.key);
     case Qt::DecorationRole: {
         const auto number = static_cast<std::size_t>(row.picture);
         return number >= 1 && number <= m_pictures.size() ? QVariant(m_pictures[number - 1]) : QVariant();

@@ -4,6 +4,7 @@
 #include <QColor>
 #include <QHash>
 #include <QIcon>
+#include <QList>
 #include <stdexcept>
 #include <vector>
 
@@ -16,6 +17,7 @@ public:
 };
 
 /// The rows of a list view: text, key (Qt::UserRole), number of a picture, highlight. Rows count from 0 here.
+/// Their words lie together in one buffer, since lists have thousands of rows of which few are seen.
 class ListModel : public QAbstractListModel {
     Q_OBJECT
 
@@ -34,11 +36,11 @@ public:
     void setText(int row, const QString &text);
     void setHighlight(int row, bool highlighted);
 
-    const QString &key(int row) const { return m_rows.at(static_cast<std::size_t>(row)).key; }
+    QString key(int row) const { return words(m_rows.at(row).key); }
 
-    const QString &text(int row) const { return m_rows.at(static_cast<std::size_t>(row)).text; }
+    QString text(int row) const { return words(m_rows.at(row).text); }
 
-    int picture(int row) const { return m_rows.at(static_cast<std::size_t>(row)).picture; }
+    int picture(int row) const { return m_rows.at(row).picture; }
 
     /// Row of a key, -1 if absent.
     int find(const QString &key) const;
@@ -60,13 +62,24 @@ Q_SIGNALS:
     void labelEdited(int row, const QString &text);
 
 private:
+    struct Words {
+        qsizetype begin;
+        int size;
+    };
+
     struct Row {
-        QString key, text;
+        Words key, text;
         int picture;
         bool highlighted = false;
     };
 
-    std::vector<Row> m_rows;
+    Words keep(QStringView words);
+
+    QString words(Words place) const { return m_words.mid(place.begin, place.size); }
+
+    // These grow in place, which a std::vector would not.
+    QList<Row> m_rows;
+    QString m_words;
     // The keys of the first rows; a look-up adds the rows that have come since.
     mutable QHash<QString, int> m_rowOfKey;
     std::vector<QIcon> m_pictures; // number 1 is the first

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <string>
+#include <QByteArray>
+
 #include <string_view>
 
 namespace platform::database {
@@ -12,13 +13,13 @@ namespace platform::database {
 /// again.
 struct Collation {
     int (*compare)(std::string_view left, std::string_view right);
-    void (*appendSortKey)(std::string_view text, std::string &keys);
+    void (*appendSortKey)(std::string_view text, QByteArray &keys);
 };
 
 /// Byte by byte, which in UTF-8 is by code point.
 inline constexpr Collation kBinaryCollation{
     [](std::string_view left, std::string_view right) { return left.compare(right); },
-    [](std::string_view text, std::string &keys) { keys.append(text); },
+    [](std::string_view text, QByteArray &keys) { keys.append(text.data(), qsizetype(text.size())); },
 };
 
 } // namespace platform::database

@@ -48,7 +48,8 @@ void Cursor::readTable() {
 
     const QByteArray order = quotedName(m_table->orderColumn);
     const bool textOrder = !m_table->orderColumn.isEmpty() && hasCollation(m_table->orderColumn);
-    if (textOrder) {
+    const int textColumn = 1 + (textOrder ? keptColumn(m_table->orderColumn) : 0);
+    if (textOrder && textColumn > m_rows.columns()) {
         sql += ", " + order;
     }
     sql += " FROM " + quotedName(m_table->table);
@@ -65,18 +66,27 @@ void Cursor::readTable() {
     }
 
     Statement rows(m_connection, sql);
-    RowCache::TextOrder texts(m_connection->collation());
+    RowCache::TextOrder texts(m_rows, m_connection->collation());
     while (rows.step()) {
         m_rows.append(sqlite3_column_int64(rows.handle(), 0), rows.handle(), 1);
         if (textOrder) {
-            texts.append(m_rows, rows.handle(), 1 + m_rows.columns());
+            texts.append(rows.handle(), textColumn);
         }
     }
     // Keys made once are compared as bytes: several times as fast as the engine's sorter, which calls the
     // collation for each comparison.
     if (textOrder) {
-        texts.apply(m_rows, m_table->descending);
+        texts.apply(m_table->descending);
     }
+}
+
+/// The place of a column among those that are kept of each row; their number if it is none of them.
+int Cursor::keptColumn(const QByteArray &name) const {
+    int column = 0;
+    while (column < m_rows.columns() && name.compare(m_source.columnName(column), Qt::CaseInsensitive) != 0) {
+        ++column;
+    }
+    return column;
 }
 
 /// True for a column declared COLLATE NOCASE. The engine would take an unknown name in quotes for a text, so

@@ -44,6 +44,7 @@ private:
 
     void readTable();
     void readSnapshot();
+    int keptColumn(const QByteArray &name) const;
     bool hasCollation(const QByteArray &name) const;
     void requireRow() const;
     void requireTable() const;

@@ -52,8 +52,8 @@ RowCache::Cell RowCache::store(sqlite3_stmt *statement, int column) {
         const std::string_view bytes =
             cell.type == SQLITE_TEXT ? textOf(statement, column) : blobOf(statement, column);
         cell.size = int(bytes.size());
-        cell.offset = qint64(m_texts.size());
-        m_texts.append(bytes);
+        cell.offset = m_texts.size();
+        m_texts.append(bytes.data(), qsizetype(bytes.size()));
     }
     return cell;
 }
@@ -71,37 +71,37 @@ void RowCache::append(qint64 rowid, sqlite3_stmt *statement, int firstColumn) {
 }
 
 void RowCache::replace(qsizetype row, qint64 rowid, sqlite3_stmt *statement) {
-    m_rows[size_t(row)] = read(rowid, statement, 0);
+    m_rows[row] = read(rowid, statement, 0);
 }
 
 void RowCache::remove(qsizetype row) {
-    m_rows.erase(m_rows.begin() + row);
+    m_rows.remove(row);
 }
 
 QVariant RowCache::value(qsizetype row, int column) const {
-    const Cell &cell = m_cells[m_rows[size_t(row)].firstCell + size_t(column)];
-    switch (cell.type) {
+    const Cell &stored = cell(row, column);
+    switch (stored.type) {
     case SQLITE_NULL:
         return {};
     case SQLITE_INTEGER:
-        return qlonglong(cell.number);
+        return qlonglong(stored.number);
     case SQLITE_FLOAT:
-        return cell.real;
+        return stored.real;
     case SQLITE_BLOB:
-        return QByteArray(m_texts.data() + cell.offset, cell.size);
+        return m_texts.mid(stored.offset, stored.size);
     default:
-        return QString::fromUtf8(m_texts.data() + cell.offset, cell.size);
+        return QString::fromUtf8(m_texts.constData() + stored.offset, stored.size);
     }
 }
 
 QString RowCache::text(qsizetype row, int column) const {
-    const Cell &cell = m_cells[m_rows[size_t(row)].firstCell + size_t(column)];
-    return cell.type == SQLITE_TEXT ? QString::fromUtf8(m_texts.data() + cell.offset, cell.size)
-                                    : value(row, column).toString();
+    const Cell &stored = cell(row, column);
+    return stored.type == SQLITE_TEXT ? QString::fromUtf8(m_texts.constData() + stored.offset, stored.size)
+                                      : value(row, column).toString();
 }
 
 bool RowCache::isNull(qsizetype row, int column) const {
-    return m_cells[m_rows[size_t(row)].firstCell + size_t(column)].type == SQLITE_NULL;
+    return cell(row, column).type == SQLITE_NULL;
 }
 
 qsizetype RowCache::find(qint64 rowid) const {
@@ -110,77 +110,80 @@ qsizetype RowCache::find(qint64 rowid) const {
     return row == m_rows.end() ? -1 : row - m_rows.begin();
 }
 
-void RowCache::TextOrder::append(const RowCache &cache, sqlite3_stmt *statement, int column) {
-    Text text{false, m_bytes.size(), 0, cache.m_rows.back()};
+void RowCache::TextOrder::append(sqlite3_stmt *statement, int column) {
+    Text text{m_bytes.size(), -1};
     if (sqlite3_column_type(statement, column) != SQLITE_NULL) {
         m_collation.appendSortKey(textOf(statement, column), m_bytes);
-        text.present = true;
         text.size = m_bytes.size() - text.offset;
     }
-    m_texts.push_back(text);
+    m_texts.append(text);
 }
 
 /// The bytes of a sort key from a depth on, 0 behind its end, as a number that is in their order.
-quint64 RowCache::TextOrder::wordAt(const Text &text, size_t depth) const {
+quint64 RowCache::TextOrder::wordAt(const Text &text, qsizetype depth) const {
     quint64 bytes = 0;
     if (depth < text.size) {
-        std::memcpy(&bytes, m_bytes.data() + text.offset + depth, std::min(text.size - depth, sizeof bytes));
+        std::memcpy(&bytes, m_bytes.constData() + text.offset + depth,
+                    std::min(size_t(text.size - depth), sizeof bytes));
     }
     return qFromBigEndian(bytes);
 }
 
 /// Compares what follows a depth up to which two keys are equal; Null comes before every text, equal texts go
 /// by row number.
-bool RowCache::TextOrder::before(const Key &left, const Key &right, size_t depth) const {
-    const Text &a = m_texts[left.text];
-    const Text &b = m_texts[right.text];
-    if (a.present != b.present) {
-        return b.present;
+bool RowCache::TextOrder::before(const Key &left, const Key &right, qsizetype depth) const {
+    const Text &a = m_texts[left.row];
+    const Text &b = m_texts[right.row];
+    if ((a.size < 0) != (b.size < 0)) {
+        return a.size < 0;
     }
-    const std::string_view bytes(m_bytes);
-    const auto rest = [&](const Text &text) {
-        const size_t equal = std::min(depth, text.size);
-        return bytes.substr(text.offset + equal, text.size - equal);
+    const std::string_view bytes(m_bytes.constData(), size_t(m_bytes.size()));
+    const auto rest = [bytes, depth](const Text &text) {
+        const qsizetype size = std::max<qsizetype>(text.size, 0);
+        const qsizetype equal = std::min(depth, size);
+        return bytes.substr(size_t(text.offset + equal), size_t(size - equal));
     };
     const int order = rest(a).compare(rest(b));
-    return order != 0 ? order < 0 : a.row.rowid < b.row.rowid;
+    return order != 0 ? order < 0 : m_cache.rowid(left.row) < m_cache.rowid(right.row);
 }
 
 /// Sorts keys that are equal up to a depth: by one word, then those that are equal in it by the next. The
 /// titles of a book begin alike, so comparing them whole would read the same bytes over and over.
-void RowCache::TextOrder::sortFrom(std::span<Key> keys, size_t depth) {
+void RowCache::TextOrder::sortFrom(std::span<Key> keys, qsizetype depth) const {
     constexpr size_t kFew = 8;
-    constexpr size_t kDeepest = 256; // bytes; limits the recursion where texts are long and alike
+    constexpr qsizetype kDeepest = 256; // bytes; limits the recursion where texts are long and alike
     if (keys.size() <= kFew || depth >= kDeepest) {
         std::sort(keys.begin(), keys.end(),
                   [this, depth](const Key &a, const Key &b) { return before(a, b, depth); });
         return;
     }
     for (Key &key : keys) {
-        key.word = wordAt(m_texts[key.text], depth);
+        key.word = wordAt(m_texts[key.row], depth);
     }
     std::sort(keys.begin(), keys.end(), [](const Key &a, const Key &b) { return a.word < b.word; });
     for (auto first = keys.begin(); first != keys.end();) {
         const auto last =
             std::find_if(first, keys.end(), [first](const Key &key) { return key.word != first->word; });
         if (last - first > 1) {
-            sortFrom({first, last}, depth + sizeof(quint64));
+            sortFrom({first, last}, depth + qsizetype(sizeof(quint64)));
         }
         first = last;
     }
 }
 
-void RowCache::TextOrder::apply(RowCache &cache, bool descending) {
-    std::vector<Key> keys(m_texts.size());
-    for (size_t text = 0; text < keys.size(); ++text) {
-        keys[text] = {0, text};
+void RowCache::TextOrder::apply(bool descending) {
+    QList<Key> keys(m_texts.size());
+    for (qsizetype row = 0; row < keys.size(); ++row) {
+        keys[row] = {0, row};
     }
     sortFrom(keys, 0);
     if (descending) {
         std::reverse(keys.begin(), keys.end());
     }
-    std::transform(keys.begin(), keys.end(), cache.m_rows.begin(),
-                   [this](const Key &key) { return m_texts[key.text].row; });
+    QList<Row> rows(keys.size());
+    std::transform(keys.cbegin(), keys.cend(), rows.begin(),
+                   [this](const Key &key) { return m_cache.m_rows[key.row]; });
+    m_cache.m_rows = std::move(rows);
 }
 
 } // namespace platform::database

@@ -2,11 +2,11 @@
 
 #include "Collation.h"
 
+#include <QByteArray>
+#include <QList>
 #include <QVariant>
 
 #include <span>
-#include <string>
-#include <vector>
 
 struct sqlite3_stmt;
 
@@ -16,16 +16,17 @@ namespace platform::database {
 QVariant columnValue(sqlite3_stmt *statement, int column);
 
 /// The rows of a cursor: the row number and the first columns of each. Texts lie together in one buffer,
-/// since thousands of rows are read for a list.
+/// since thousands of rows are read for a list. QList and QByteArray grow in place: a std::vector would move to
+/// fresh memory each time, and touching that costs more than filling it.
 class RowCache {
 public:
     explicit RowCache(int columns) : m_columns(columns) {}
 
-    qsizetype count() const { return qsizetype(m_rows.size()); }
+    qsizetype count() const { return m_rows.size(); }
 
     int columns() const { return m_columns; }
 
-    qint64 rowid(qsizetype row) const { return m_rows[size_t(row)].rowid; }
+    qint64 rowid(qsizetype row) const { return m_rows[row].rowid; }
 
     QVariant value(qsizetype row, int column) const;
     /// The value as text; empty for Null.
@@ -59,49 +60,56 @@ private:
 
     struct Row {
         qint64 rowid;
-        size_t firstCell;
+        qsizetype firstCell;
     };
+
+    const Cell &cell(qsizetype row, int column) const { return m_cells[m_rows[row].firstCell + column]; }
+
+    std::string_view bytesOf(const Cell &cell) const {
+        return {m_texts.constData() + cell.offset, size_t(cell.size)};
+    }
 
     Row read(qint64 rowid, sqlite3_stmt *statement, int firstColumn);
     Cell store(sqlite3_stmt *statement, int column);
 
     int m_columns;
-    std::vector<Row> m_rows;
-    std::vector<Cell> m_cells;
-    std::string m_texts;
+    QList<Row> m_rows;
+    QList<Cell> m_cells;
+    QByteArray m_texts;
 };
 
 /// The texts by which the rows of a cache are sorted, gathered beside them.
 class RowCache::TextOrder {
 public:
-    explicit TextOrder(const Collation &collation) : m_collation(collation) {}
+    TextOrder(RowCache &cache, const Collation &collation) : m_cache(cache), m_collation(collation) {}
 
-    /// The text in a column of a statement for the last row of the cache; Null comes before every text.
-    void append(const RowCache &cache, sqlite3_stmt *statement, int column);
+    /// The text in a column of a statement for the next row of the cache; Null comes before every text.
+    void append(sqlite3_stmt *statement, int column);
     /// Sorts the rows; rows of equal texts by row number, in the same direction.
-    void apply(RowCache &cache, bool descending);
+    void apply(bool descending);
 
 private:
-    /// Eight bytes of a sort key as a number, and the text that they are of.
+    /// Eight bytes of a sort key as a number, and the row that they are of.
     struct Key {
         quint64 word;
-        size_t text;
+        qsizetype row;
     };
 
+    /// Where the sort key of a row lies; a size of -1 stands for Null.
     struct Text {
-        bool present;
-        size_t offset;
-        size_t size;
-        Row row;
+        qsizetype offset;
+        qsizetype size;
     };
 
-    quint64 wordAt(const Text &text, size_t depth) const;
-    void sortFrom(std::span<Key> keys, size_t depth);
-    bool before(const Key &left, const Key &right, size_t depth) const;
 
+    quint64 wordAt(const Text &text, qsizetype depth) const;
+    void sortFrom(std::span<Key> keys, qsizetype depth) const;
+    bool before(const Key &left, const Key &right, qsizetype depth) const;
+
+    RowCache &m_cache;
     const Collation &m_collation;
-    std::vector<Text> m_texts;
-    std::string m_bytes;
+    QList<Text> m_texts;
+    QByteArray m_bytes;
 };
 
 } // namespace platform::database
