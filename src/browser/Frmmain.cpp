@@ -116,14 +116,14 @@ constexpr std::array kControles{
 constexpr Rectangle kBarreOutils{Twips(90), Twips(645), Twips(15180), Twips(1050)};
 
 QString ImageNommee(const char *dossier, int numero) {
-    return QStringLiteral(":/%1-%2.png").arg(QLatin1String(dossier)).arg(numero);
+    return QStringLiteral(":/%1-%2").arg(QLatin1String(dossier)).arg(numero);
 }
 
 std::vector<QPixmap> ImagesDesVues() {
     std::vector<QPixmap> images;
     images.reserve(kNombreDeVues);
     for (int vue = 0; vue < kNombreDeVues; ++vue) {
-        images.push_back(resourcePicture(ImageNommee("icones/vue", vue)));
+        images.push_back(resourcePicture(ImageNommee("icones/vue", vue) + QStringLiteral(".argb")));
     }
     return images;
 }
@@ -151,7 +151,7 @@ void Survoler(Ribbon &bouton, const QColor &couleur) {
 Frmmain::Frmmain()
     : SkinnedWindow(QStringLiteral("Frmmain"), kWindowSize),
       m_img(ImagesDesVues()),
-      m_main(resourcePicture(QStringLiteral(":/curseurs/main.png")), kBoutDuDoigt.x(), kBoutDuDoigt.y()),
+      m_main(resourcePicture(QStringLiteral(":/curseurs/main.argb")), kBoutDuDoigt.x(), kBoutDuDoigt.y()),
       Embleme(this, rowNamed(kControles, "Embleme")),
       Enseigne(this, rowNamed(kControles, "Enseigne")),
       Btn_Min(this, rowNamed(kControles, "Btn_Min")),
@@ -200,8 +200,8 @@ Frmmain::Frmmain()
 
 void Frmmain::Peindre() {
     SetStrips({kBarreOutils});
-    Embleme.SetPicture(resourcePicture(QStringLiteral(":/icones/savorel.png")).toImage());
-    Enseigne.SetPicture(resourcePicture(QStringLiteral(":/themes/enseigne.png")).toImage());
+    Embleme.SetPicture(resourcePicture(QStringLiteral(":/icones/savorel.argb")).toImage());
+    Enseigne.SetPicture(resourcePicture(QStringLiteral(":/themes/enseigne.argb")).toImage());
 
     const QFont titre = interfaceFont(Face::Verdana, 8.25, true);
     for (Label *label : {&LTGauche, &LTCentre2, &LBGauche}) {
@@ -235,7 +235,7 @@ void Frmmain::PeindreOutils() {
     for (int index = 0; index < Outils.Count(); ++index) {
         Ribbon &outil = Outils(index);
         outil.SetLook(Look::Tool);
-        outil.SetPicture(resourcePicture(ImageNommee("icones/outil", index)));
+        outil.SetPicture(resourcePicture(ImageNommee("icones/outil", index) + QStringLiteral(".argb")));
     }
     LBtn.ForEach([](Panel &panneau) {
         panneau.setFont(interfaceFont(Face::SansSerif, 8.25));
@@ -252,11 +252,11 @@ void Frmmain::PeindreOutils() {
         bouton.SetPicture(m_img[static_cast<std::size_t>(vue)]);
     }
     for (auto [bouton, nom] : {std::pair(&Btn_Min, "reduire"), std::pair(&Btn_Quit, "fermer")}) {
-        const QPixmap repos = resourcePicture(QStringLiteral(":/icones/%1.png").arg(QLatin1String(nom)));
+        const QPixmap repos = resourcePicture(QStringLiteral(":/icones/%1.argb").arg(QLatin1String(nom)));
         bouton->SetPicture(repos);
         bouton->SetRestingPicture(repos);
         bouton->SetHoverPicture(
-            resourcePicture(QStringLiteral(":/icones/%1-survol.png").arg(QLatin1String(nom))));
+            resourcePicture(QStringLiteral(":/icones/%1-survol.argb").arg(QLatin1String(nom))));
     }
 }
 
@@ -309,7 +309,7 @@ void Frmmain::RemplirVocabulaires() {
 }
 
 void Frmmain::MontrerTheme(int vue) {
-    Cadre(1).SetPicture(resourcePicture(ImageNommee("themes/vue", vue)).toImage());
+    Cadre(1).SetPicture(resourcePicture(ImageNommee("themes/vue", vue) + QStringLiteral(".png")).toImage());
     Cadre(1).show();
 }
 

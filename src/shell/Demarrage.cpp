@@ -146,7 +146,7 @@ void PreparerApplication() {
     QApplication::setApplicationName(Titre());
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setStyle(QStringLiteral("Fusion"));
-    QApplication::setWindowIcon(resourcePicture(QStringLiteral(":/icones/savorel.png")));
+    QApplication::setWindowIcon(resourcePicture(QStringLiteral(":/icones/savorel.argb")));
     substituteFonts();
     QApplication::setFont(interfaceFont(Face::Verdana, 8.25));
     dialogs::SpeakFrench(store::DossierProgramme() + QStringLiteral("/translations"));

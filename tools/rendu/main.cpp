@@ -1,6 +1,8 @@
-// rendu DRAWING.svg PICTURE WIDTHxHEIGHT: renders a vector drawing into a picture file (PNG with a
-// transparent ground, or JPEG of quality 90, by the ending of its name), stretched to exactly that many
-// pixels.
+// rendu DRAWING.svg PICTURE WIDTHxHEIGHT: renders a vector drawing into a picture file (PNG or bare pixels
+// with a transparent ground, or JPEG of quality 90, by the ending of its name), stretched to exactly that
+// many pixels.
+#include <QDataStream>
+#include <QFile>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
@@ -18,6 +20,29 @@ QSize sizeFromText(const QString &text) {
 int fail(const QString &why) {
     std::fprintf(stderr, "rendu: %s\n", qPrintable(why));
     return EXIT_FAILURE;
+}
+
+/// Width and height, 32 bits each with the highest byte first, then the pixels as they lie in memory:
+/// premultiplied ARGB of 32 bits.
+bool savePixels(const QImage &picture, const QString &path) {
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) {
+        return false;
+    }
+    QDataStream stream(&file);
+    stream << qint32(picture.width()) << qint32(picture.height());
+    stream.writeRawData(reinterpret_cast<const char *>(picture.constBits()),
+                        static_cast<int>(picture.sizeInBytes()));
+    return stream.status() == QDataStream::Ok && file.flush();
+}
+
+bool save(const QImage &picture, const QString &path) {
+    constexpr int kJpegQuality = 90;
+    constexpr int kDefaultQuality = -1;
+    return path.endsWith(QLatin1String(".argb"))
+               ? savePixels(picture, path)
+               : picture.save(path, nullptr,
+                              path.endsWith(QLatin1String(".jpg")) ? kJpegQuality : kDefaultQuality);
 }
 
 } // namespace
@@ -41,7 +66,5 @@ int main(int argc, char *argv[]) {
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     drawing.render(&painter, QRectF(QPointF(), QSizeF(size)));
     painter.end();
-    return picture.save(arguments[2], nullptr, opaque ? 90 : -1)
-               ? EXIT_SUCCESS
-               : fail(arguments[2] + QStringLiteral(": not written"));
+    return save(picture, arguments[2]) ? EXIT_SUCCESS : fail(arguments[2] + QStringLiteral(": not written"));
 }

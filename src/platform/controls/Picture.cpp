@@ -1,5 +1,6 @@
 #include "Picture.h"
 
+#include <QDataStream>
 #include <QFile>
 #include <QGuiApplication>
 #include <QImageReader>
@@ -12,6 +13,20 @@ namespace {
 constexpr qint64 kLargestPicture = 200'000'000; // pixels
 // 200 megapixels of four bytes, in the unit of QImageReader's own limit (MiB), which is 128 by default.
 constexpr int kAllocationLimit = 1024;
+
+QPixmap barePixels(const QString &path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    QDataStream stream(&file);
+    qint32 width = 0;
+    qint32 height = 0;
+    stream >> width >> height;
+    QImage picture(width, height, QImage::Format_ARGB32_Premultiplied);
+    stream.readRawData(reinterpret_cast<char *>(picture.bits()), static_cast<int>(picture.sizeInBytes()));
+    return QPixmap::fromImage(std::move(picture));
+}
 
 } // namespace
 
@@ -34,12 +49,10 @@ QImage LoadPicture(const QString &path) {
 QPixmap resourcePicture(const QString &path) {
     QString found = path;
     if (qGuiApp->devicePixelRatio() > 1) {
-        const QString large = QString(path).replace(QStringLiteral(".png"), QStringLiteral("@2x.png"));
+        const QString large = QString(path).insert(path.lastIndexOf(u'.'), QStringLiteral("@2x"));
         found = QFile::exists(large) ? large : path;
     }
-    // Named, the format need not be guessed, which would load every picture plugin at the start.
-    QPixmap picture(found, "PNG");
-    return picture;
+    return found.endsWith(QLatin1String(".argb")) ? barePixels(found) : QPixmap(found, "PNG");
 }
 
 PictureBox::PictureBox(QWidget *parent) : QWidget(parent) {}

@@ -18,8 +18,10 @@ public:
 /// says. Throws PictureError for a file that is no picture, or one of more than 200 megapixels.
 QImage LoadPicture(const QString &path);
 
-/// A picture of the program's own resources, in the resolution of the screen: ":/icones/vue-0.png", or its
-/// double ":/icones/vue-0@2x.png" where pixels are small. Null when there is none.
+/// A picture of the program's own resources, in the resolution of the screen: ":/icones/vue-0.argb", or its
+/// double ":/icones/vue-0@2x.argb" where pixels are small. Null when there is none.
+/// An .argb holds width and height, 32 bits each with the highest byte first, then the pixels as
+/// QImage::Format_ARGB32_Premultiplied has them; any other file is a PNG.
 QPixmap resourcePicture(const QString &path);
 
 /// Shows a picture stretched over its whole area, smooth, in the resolution of the screen.

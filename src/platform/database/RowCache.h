@@ -101,7 +101,6 @@ private:
         qsizetype size;
     };
 
-
     quint64 wordAt(const Text &text, qsizetype depth) const;
     void sortFrom(std::span<Key> keys, qsizetype depth) const;
     bool before(const Key &left, const Key &right, qsizetype depth) const;
