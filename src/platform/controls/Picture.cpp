@@ -14,6 +14,18 @@ constexpr qint64 kLargestPicture = 200'000'000; // pixels
 // 200 megapixels of four bytes, in the unit of QImageReader's own limit (MiB), which is 128 by default.
 constexpr int kAllocationLimit = 1024;
 
+/// The picture in a file; null where it cannot be read.
+QImage readPicture(const QString &path, bool byContent) {
+    QImageReader reader(path);
+    reader.setDecideFormatFromContent(byContent);
+    reader.setAutoTransform(true);
+    const QSize size = reader.size();
+    if (qint64{size.width()} * size.height() > kLargestPicture) {
+        throw PictureError("Cette image est trop grande : " + path.toStdString());
+    }
+    return reader.read();
+}
+
 QPixmap barePixels(const QString &path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
@@ -32,14 +44,11 @@ QPixmap barePixels(const QString &path) {
 
 QImage LoadPicture(const QString &path) {
     QImageReader::setAllocationLimit(kAllocationLimit);
-    QImageReader reader(path);
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    const QSize size = reader.size();
-    if (qint64{size.width()} * size.height() > kLargestPicture) {
-        throw PictureError("Cette image est trop grande : " + path.toStdString());
+    // The ending of the name is nearly always right, and then one plugin is loaded instead of all.
+    QImage picture = readPicture(path, false);
+    if (picture.isNull()) {
+        picture = readPicture(path, true);
     }
-    QImage picture = reader.read();
     if (picture.isNull()) {
         throw PictureError("Ce fichier n'est pas une image : " + path.toStdString());
     }
