@@ -12,7 +12,8 @@ namespace platform::controls {
 
 DropBox::DropBox(QWidget *parent) : QComboBox(parent), m_rows(this) {
     setModel(&m_rows);
-    setEditable(true);
+    // setEditable would make the popup's list at once, only to frame it for a box without a field.
+    setLineEdit(new QLineEdit(this));
     setInsertPolicy(QComboBox::NoInsert);
     setCompleter(nullptr);
     setFont(interfaceFont(Face::Verdana, 8.25));

@@ -2,7 +2,6 @@
 
 #include "Fonts.h"
 
-#include <QBitmap>
 #include <QCloseEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -87,13 +86,14 @@ void SkinnedWindow::closeEvent(QCloseEvent *event) {
 
 void SkinnedWindow::resizeEvent(QResizeEvent *event) {
     QWidget::resizeEvent(event);
-    QBitmap shape(size());
-    shape.clear();
-    QPainter painter(&shape);
-    painter.setBrush(Qt::color1);
-    painter.setPen(Qt::color1);
-    painter.drawRoundedRect(rect().adjusted(0, 0, -1, -1), kCorner.pixels(), kCorner.pixels());
-    painter.end();
+    const int corner = kCorner.pixels();
+    const QSize circle(2 * corner, 2 * corner);
+    QRegion shape = QRegion(rect().adjusted(corner, 0, -corner, 0)) + rect().adjusted(0, corner, 0, -corner);
+    for (const int x : {0, width() - circle.width()}) {
+        for (const int y : {0, height() - circle.height()}) {
+            shape += QRegion(QRect(QPoint(x, y), circle), QRegion::Ellipse);
+        }
+    }
     setMask(shape);
 }
 
