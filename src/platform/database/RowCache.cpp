@@ -11,46 +11,50 @@ namespace platform::database {
 
 namespace {
 
-std::string_view textOf(sqlite3_stmt *statement, int column) {
-    const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(statement, column));
-    return {text ? text : "", size_t(sqlite3_column_bytes(statement, column))};
+// Values, and not the sqlite3_column functions, each of which looks the column up and checks the statement again. The
+// engine allows that for a connection without a mutex.
+
+std::string_view textOf(sqlite3_value *value) {
+    const auto *text = reinterpret_cast<const char *>(sqlite3_value_text(value));
+    return {text ? text : "", size_t(sqlite3_value_bytes(value))};
 }
 
-std::string_view blobOf(sqlite3_stmt *statement, int column) {
-    const auto *bytes = static_cast<const char *>(sqlite3_column_blob(statement, column));
-    return {bytes ? bytes : "", size_t(sqlite3_column_bytes(statement, column))};
+std::string_view blobOf(sqlite3_value *value) {
+    const auto *bytes = static_cast<const char *>(sqlite3_value_blob(value));
+    return {bytes ? bytes : "", size_t(sqlite3_value_bytes(value))};
 }
 
 } // namespace
 
 QVariant columnValue(sqlite3_stmt *statement, int column) {
-    switch (sqlite3_column_type(statement, column)) {
+    sqlite3_value *value = sqlite3_column_value(statement, column);
+    switch (sqlite3_value_type(value)) {
     case SQLITE_NULL:
         return {};
     case SQLITE_INTEGER:
-        return qlonglong(sqlite3_column_int64(statement, column));
+        return qlonglong(sqlite3_value_int64(value));
     case SQLITE_FLOAT:
-        return sqlite3_column_double(statement, column);
+        return sqlite3_value_double(value);
     case SQLITE_BLOB: {
-        const std::string_view bytes = blobOf(statement, column);
+        const std::string_view bytes = blobOf(value);
         return QByteArray(bytes.data(), qsizetype(bytes.size()));
     }
     default: {
-        const std::string_view text = textOf(statement, column);
+        const std::string_view text = textOf(value);
         return QString::fromUtf8(text.data(), qsizetype(text.size()));
     }
     }
 }
 
 RowCache::Cell RowCache::store(sqlite3_stmt *statement, int column) {
-    Cell cell{sqlite3_column_type(statement, column), 0, {0}};
+    sqlite3_value *value = sqlite3_column_value(statement, column);
+    Cell cell{sqlite3_value_type(value), 0, {0}};
     if (cell.type == SQLITE_INTEGER) {
-        cell.number = sqlite3_column_int64(statement, column);
+        cell.number = sqlite3_value_int64(value);
     } else if (cell.type == SQLITE_FLOAT) {
-        cell.real = sqlite3_column_double(statement, column);
+        cell.real = sqlite3_value_double(value);
     } else if (cell.type != SQLITE_NULL) {
-        const std::string_view bytes =
-            cell.type == SQLITE_TEXT ? textOf(statement, column) : blobOf(statement, column);
+        const std::string_view bytes = cell.type == SQLITE_TEXT ? textOf(value) : blobOf(value);
         cell.size = int(bytes.size());
         cell.offset = m_texts.size();
         m_texts.append(bytes.data(), qsizetype(bytes.size()));
@@ -112,8 +116,9 @@ qsizetype RowCache::find(qint64 rowid) const {
 
 void RowCache::TextOrder::append(sqlite3_stmt *statement, int column) {
     Text text{m_bytes.size(), -1};
-    if (sqlite3_column_type(statement, column) != SQLITE_NULL) {
-        m_collation.appendSortKey(textOf(statement, column), m_bytes);
+    if (sqlite3_value *value = sqlite3_column_value(statement, column);
+        sqlite3_value_type(value) != SQLITE_NULL) {
+        m_collation.appendSortKey(textOf(value), m_bytes);
         text.size = m_bytes.size() - text.offset;
     }
     m_texts.append(text);
