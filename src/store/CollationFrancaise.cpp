@@ -1,5 +1,6 @@
 #include "CollationFrancaise.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -176,20 +177,6 @@ constexpr auto kClesAscii = [] {
     return cles;
 }();
 
-/// Takes the characters off the front of a text that are in kClesAscii, and writes them. Nearly all are.
-inline char *ecrireAscii(char *cle, std::string_view &texte) {
-    const char *lu = texte.data();
-    for (const char *const fin = lu + texte.size(); lu != fin; ++lu) {
-        const auto octet = static_cast<unsigned char>(*lu);
-        if (octet >= kClesAscii.size()) {
-            break;
-        }
-        *cle++ = kClesAscii[octet];
-    }
-    texte.remove_prefix(static_cast<size_t>(lu - texte.data()));
-    return cle;
-}
-
 int signe(char32_t gauche, char32_t droite) {
     return gauche < droite ? -1 : int(gauche > droite);
 }
@@ -222,27 +209,33 @@ int ComparerFrancais(std::string_view gauche, std::string_view droite) {
 void AjouterCleDeTri(std::string_view texte, QByteArray &cles) {
     // Each number is a character plus 1, which keeps 0 for the end of the base letters. A byte becomes 4
     // bytes at most in each half: one that is no UTF-8 does.
+    const auto place = 4 * static_cast<qsizetype>(texte.size());
     const qsizetype debut = cles.size();
-    cles.resize(debut + 8 * static_cast<qsizetype>(texte.size()) + 1);
-    char *fin = cles.data() + debut;
+    cles.resize(debut + 2 * place + 1);
+    char *bases = cles.data() + debut;
+    char *const debutLettres = bases + place + 1;
+    char *lettres = debutLettres;
     bool accents = false;
-    std::string_view reste = texte;
-    for (fin = ecrireAscii(fin, reste); !reste.empty(); fin = ecrireAscii(fin, reste)) {
-        const Lettre l = lettre(prendre(reste));
-        fin = ecrire(fin, l.base.premiere + 1);
-        if (l.base.seconde != 0) {
-            fin = ecrire(fin, l.base.seconde + 1);
+    while (!texte.empty()) {
+        if (const auto octet = static_cast<unsigned char>(texte.front()); octet < kClesAscii.size()) {
+            *bases++ = *lettres++ = kClesAscii[octet];
+            texte.remove_prefix(1);
+            continue;
         }
+        const Lettre l = lettre(prendre(texte));
+        bases = ecrire(bases, l.base.premiere + 1);
+        if (l.base.seconde != 0) {
+            bases = ecrire(bases, l.base.seconde + 1);
+        }
+        lettres = ecrire(lettres, l.minuscule + 1);
         accents = accents || l.base.premiere != l.minuscule;
     }
-    *fin++ = '\0';
+    *bases++ = '\0';
     // A text without accents comes before all others of the same base letters, so it needs nothing more.
     if (accents) {
-        for (fin = ecrireAscii(fin, texte); !texte.empty(); fin = ecrireAscii(fin, texte)) {
-            fin = ecrire(fin, minuscule(prendre(texte)) + 1);
-        }
+        bases = std::copy(debutLettres, lettres, bases);
     }
-    cles.truncate(fin - cles.constData());
+    cles.truncate(bases - cles.constData());
 }
 
 } // namespace store
