@@ -27,7 +27,7 @@ public:
     /// The key of a file of SQLCipher 3. A call while another thread derives waits for it.
     QByteArray key(const QByteArray &passphrase, const QByteArray &salt);
 
-    /// Asks for a key on another thread.
+    /// Asks for a key on another thread, and wakes the library of ciphers there.
     /// @param readSalt is called there; no salt ends it
     void prepare(const QByteArray &passphrase, std::function<QByteArray()> readSalt);
 
