@@ -1,3 +1,4 @@
+#include "platform/database/BulkInsert.h"
 #include "platform/database/CreateDatabase.h"
 #include "platform/database/Database.h"
 #include "platform/database/DatabaseError.h"
@@ -399,6 +400,36 @@ private Q_SLOTS:
         };
         QVERIFY_EXCEPTION_THROWN(misuse(), DatabaseError);
         QCOMPARE(texts(database.OpenRecordset(u"SELECT * From Plat"_s), 1), u"a"_s);
+    }
+
+    void bulkInsertWritesAllOrNothing() {
+        {
+            const Database database = open();
+            BulkInsert rows(database);
+            rows.into(u"Plat"_s, {u"N"_s, u"Nom"_s});
+            rows.row({1, u"perdu"_s});
+        }
+        QCOMPARE(files(), QStringList{u"livre.mdb"_s});
+        {
+            const Database database = open();
+            BulkInsert rows(database);
+            QVERIFY_EXCEPTION_THROWN(rows.row({1}), DatabaseError);
+            rows.into(u"Plat"_s, {u"Nom"_s, u"N"_s});
+            rows.row({QString(), 2});
+            rows.row({QVariant(), 1});
+            QVERIFY_EXCEPTION_THROWN(rows.row({u"clef prise"_s, 1}), DatabaseError);
+            rows.into(u"Ligne"_s, {u"Quoi"_s});
+            rows.row({7});
+            rows.commit();
+            QVERIFY_EXCEPTION_THROWN(rows.row({8}), DatabaseError);
+        }
+        Database database = open();
+        Recordset plats = database.OpenRecordset(u"SELECT * From Plat"_s);
+        QCOMPARE(plats.RecordCount(), 2);
+        QVERIFY(plats.Fields(1).IsNull());
+        plats.MoveNext();
+        QVERIFY(!plats.Fields(1).IsNull());
+        QCOMPARE(database.OpenRecordset(u"SELECT * From Ligne"_s).RecordCount(), 1);
     }
 
     void maximumOfNothingIsNull() {

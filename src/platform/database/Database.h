@@ -34,6 +34,7 @@ public:
     void Close();
 
 private:
+    friend class BulkInsert;
     friend Database OpenDatabase(const QString &, bool, bool, const QString &, const Collation &);
     explicit Database(std::shared_ptr<Connection> connection);
 

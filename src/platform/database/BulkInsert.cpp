@@ -1,0 +1,52 @@
+#include "BulkInsert.h"
+
+#include "Connection.h"
+#include "Database.h"
+#include "DatabaseError.h"
+#include "Query.h"
+#include "Statement.h"
+
+#include <sqlite3.h>
+
+namespace platform::database {
+
+BulkInsert::BulkInsert(const Database &database) : m_connection(database.open()) {
+    runScript(m_connection->handle(), "BEGIN EXCLUSIVE");
+}
+
+BulkInsert::~BulkInsert() {
+    m_insert.reset();
+    if (m_open && m_connection->isOpen()) {
+        sqlite3_exec(m_connection->handle(), "ROLLBACK", nullptr, nullptr, nullptr);
+    }
+}
+
+void BulkInsert::into(const QString &table, const QStringList &columns) {
+    QByteArrayList names;
+    for (const QString &column : columns) {
+        names.append(quotedName(column.toUtf8()));
+    }
+    const QByteArray marks = QByteArrayList(columns.size(), "?").join(", ");
+    m_columns = columns.size();
+    m_insert = std::make_unique<Statement>(m_connection, "INSERT INTO " + quotedName(table.toUtf8()) + " (" +
+                                                             names.join(", ") + ") VALUES (" + marks + ")");
+}
+
+void BulkInsert::row(const QVariantList &values) {
+    if (!m_insert || values.size() != m_columns) {
+        throw DatabaseError("Les valeurs ne correspondent pas aux colonnes.");
+    }
+    for (int i = 0; i < values.size(); ++i) {
+        m_insert->bind(i + 1, values[i]);
+    }
+    m_insert->step();
+    m_insert->reset();
+}
+
+void BulkInsert::commit() {
+    m_insert.reset();
+    runScript(m_connection->handle(), "COMMIT");
+    m_open = false;
+}
+
+} // namespace platform::database
