@@ -64,7 +64,11 @@ CREATE TABLE Mesure (NMesure INTEGER PRIMARY KEY, Mesure TEXT COLLATE NOCASE);
 } // namespace
 
 platform::database::Database OuvrirLivre() {
-    return platform::database::OpenDatabase(CheminBase(), true, false, connexion(), CollationFrancaise);
+    return OuvrirLivre(CheminBase());
+}
+
+platform::database::Database OuvrirLivre(const QString &chemin) {
+    return platform::database::OpenDatabase(chemin, true, false, connexion(), CollationFrancaise);
 }
 
 void PreparerLivre() {

@@ -12,6 +12,10 @@ namespace store {
 /// @throws platform::database::DatabaseError
 platform::database::Database OuvrirLivre();
 
+/// The same for a book that lies elsewhere.
+/// @throws platform::database::DatabaseError
+platform::database::Database OuvrirLivre(const QString &chemin);
+
 /// Starts the derivation of the book's key beside the start of the program. Never fails.
 void PreparerLivre();
 

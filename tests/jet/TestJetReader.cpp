@@ -1,0 +1,186 @@
+#include "platform/jet/JetReader.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+using namespace platform::jet;
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+/// Counts what comes.
+class Counter : public JetSink {
+public:
+    void table(const QString &, const QStringList &) override { ++tables; }
+
+    void row(const QVariantList &) override { ++rows; }
+
+    void progress(qint64, qint64) override { ++calls; }
+
+    int tables = 0;
+    int rows = 0;
+    int calls = 0;
+};
+
+QString errorOf(const QString &program, const QString &file, JetSink &sink,
+                std::chrono::milliseconds limit = kJetTimeLimit) {
+    const QStringList tables{u"Cocktails"_s, u"Ingre"_s,       u"Categorie"_s,  u"DureeReal"_s, u"Verre"_s,
+                             u"VIN"_s,       u"Realisation"_s, u"Ingredient"_s, u"Quantite"_s,  u"Mesure"_s};
+    try {
+        readJet(program, file, tables, sink, limit);
+        return {};
+    } catch (const JetError &error) {
+        return QString::fromUtf8(error.what());
+    }
+}
+
+} // namespace
+
+class TestJetReader : public QObject {
+    Q_OBJECT
+
+private:
+    QString write(const QString &name, const QByteArray &content) const {
+        QFile file(m_folder->filePath(name));
+        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? file.fileName()
+                                                                                        : QString();
+    }
+
+    static QByteArray oldBook() {
+        QFile file(QStringLiteral(OLD_BOOKS "/ancien-livre.mdb"));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    const QString m_program = QStringLiteral(READING_PROGRAM);
+    std::unique_ptr<QTemporaryDir> m_folder;
+
+private Q_SLOTS:
+
+    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
+
+    void firstBytes() {
+        QVERIFY(isJetFile(write(u"jet"_s, QByteArray("\0\1\0\0Standard Jet DB\0", 20))));
+        QVERIFY(!isJetFile(write(u"vide"_s, {})));
+        QVERIFY(!isJetFile(write(u"court"_s, QByteArray("\0\1\0\0Standard", 12))));
+        QVERIFY(!isJetFile(write(u"zeros"_s, QByteArray(8192, '\0'))));
+        QVERIFY(!isJetFile(write(u"sqlite"_s, QByteArray("SQLite format 3\0    ", 20))));
+        QVERIFY(!isJetFile(m_folder->filePath(u"absent"_s)));
+    }
+
+    void aReaderThatFails_data() {
+        QTest::addColumn<QByteArray>("script");
+        QTest::addColumn<QString>("error");
+        QTest::newRow("dies") << "kill -SEGV $$"_ba << u"brutalement"_s;
+        QTest::newRow("never ends") << "exec sleep 60"_ba << u"trop de temps"_s;
+        QTest::newRow("closes its output and stays") << "exec sleep 60 >&-"_ba << u"trop de temps"_s;
+        QTest::newRow("says nothing") << "exit 0"_ba << u"avant la fin"_s;
+        QTest::newRow("talks nonsense") << "exec yes"_ba << u"incompréhensible"_s;
+        QTest::newRow("announces a huge record")
+            << "printf 'R\\377\\377\\377\\377'; exec sleep 60"_ba << u"incompréhensible"_s;
+        QTest::newRow("a text longer than its record")
+            << "printf 'T\\010\\0\\0\\0\\377\\0\\0\\0abcd'; exec sleep 60"_ba << u"incompréhensible"_s;
+        QTest::newRow("a row of no table") << "printf 'R\\0\\0\\0\\0'"_ba << u"incompréhensible"_s;
+        QTest::newRow("tables without end")
+            << "while printf 'T\\011\\0\\0\\0\\1\\0\\0\\0a\\0\\0\\0\\0%65536s'; do :; done"_ba
+            << u"incompréhensible"_s;
+        QTest::newRow("stops within a record") << "printf 'E\\1\\0'"_ba << u"avant la fin"_s;
+        QTest::newRow("ends well with a bad code")
+            << "printf 'E\\0\\0\\0\\0'; exit 3"_ba << u"avant la fin"_s;
+        QTest::newRow("more behind the end")
+            << "printf 'E\\0\\0\\0\\0E\\0\\0\\0\\0'"_ba << u"incompréhensible"_s;
+        QTest::newRow("tells a failure") << "printf 'X\\7\\0\\0\\0\\3\\0\\0\\0non'; exit 2"_ba << u"non"_s;
+    }
+
+    void aReaderThatFails() {
+        QFETCH(QByteArray, script);
+        const QString program = write(u"lecteur"_s, "#!/bin/sh\n" + script + "\n");
+        QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner));
+        QFETCH(QString, error);
+        Counter sink;
+        QElapsedTimer timer;
+        timer.start();
+        const QString told = errorOf(program, u"livre"_s, sink, 1s);
+        QVERIFY2(told.contains(error), qPrintable(told));
+        QVERIFY2(timer.elapsed() < 5000, "the limit is one second");
+        // A window that shows the progress must be painted while the reader is silent.
+        QVERIFY(!error.contains(u"temps") || sink.calls > 5);
+    }
+
+    void noReader() {
+        Counter sink;
+        QVERIFY(errorOf(m_folder->filePath(u"absent"_s), u"livre"_s, sink).contains(u"lancé"));
+    }
+
+    void aSinkThatThrowsEndsTheReader() {
+        class Impatient : public Counter {
+        public:
+            void progress(qint64, qint64) override { throw std::runtime_error("assez"); }
+        };
+
+        const QString program = write(u"lecteur"_s, "#!/bin/sh\nexec sleep 60\n");
+        QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner));
+        Impatient sink;
+        QElapsedTimer timer;
+        timer.start();
+        QVERIFY_EXCEPTION_THROWN(readJet(program, u"livre"_s, {}, sink), std::runtime_error);
+        QVERIFY(timer.elapsed() < 5000);
+    }
+
+    void filesThatAreNoBook() {
+        Counter sink;
+        for (const QByteArray &content : {QByteArray(), QByteArray(8192, '\0'), QByteArray(100, 'x'),
+                                          QByteArray("\0\1\0\0Standard Jet DB\0", 20)}) {
+            QVERIFY(!errorOf(m_program, write(u"livre.mdb"_s, content), sink).isEmpty());
+        }
+        QVERIFY(!errorOf(m_program, m_folder->filePath(u"absent"_s), sink).isEmpty());
+        QCOMPARE(sink.tables, 0);
+    }
+
+    /// The file is read to its end although its texts are not whole: nothing but the checks tells it.
+    void truncatedBook() {
+        const QByteArray book = oldBook();
+        if (book.isEmpty()) {
+            QSKIP("no books of old in " OLD_BOOKS);
+        }
+        for (const qsizetype percent : {1, 10, 30, 60, 80, 95}) {
+            const qsizetype cut = book.size() * percent / 100;
+            for (const qsizetype size : {cut, cut - cut % 4096}) {
+                Counter sink;
+                const QString error = errorOf(m_program, write(u"livre.mdb"_s, book.first(size)), sink);
+                QVERIFY2(!error.isEmpty(), qPrintable(QString::number(size)));
+            }
+        }
+    }
+
+    /// Four bytes of each file, half of them in the heads of pages: an error, or a book.
+    void flippedBytes() {
+        const QByteArray book = oldBook();
+        if (book.isEmpty()) {
+            QSKIP("no books of old in " OLD_BOOKS);
+        }
+        QRandomGenerator random(20000);
+        int refused = 0;
+        for (int i = 0; i < 80; ++i) {
+            QByteArray damaged = book;
+            for (int place = 0; place < 4; ++place) {
+                const qsizetype page = qsizetype(random.bounded(int(book.size() / 4096))) * 4096;
+                char &byte = damaged[page + random.bounded(place % 2 == 0 ? 64 : 4096)];
+                byte = char(byte ^ char(1 + random.bounded(255)));
+            }
+            Counter sink;
+            const QString error = errorOf(m_program, write(u"livre.mdb"_s, damaged), sink, 20s);
+            QVERIFY2(!error.contains(u"temps"), qPrintable(QString::number(i)));
+            refused += error.isEmpty() ? 0 : 1;
+        }
+        QVERIFY2(refused > 10 && refused < 80, qPrintable(QString::number(refused)));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestJetReader)
+#include "TestJetReader.moc"
