@@ -1,3 +1,5 @@
+#include "Jet3Book.h"
+
 #include "store/AncienLivre.h"
 #include "store/Livre.h"
 #include "store/Programme.h"
@@ -196,6 +198,33 @@ private Q_SLOTS:
             }
             compare(book, table.key(), expected);
         }
+    }
+
+    /// The version before: other sizes everywhere, and texts in the code page of their system.
+    void jet3() {
+        const Jet3Book::Table recipes{"COCKTAILS",
+                                      {{"Numero", Jet3Book::kLong},
+                                       {"Recette", Jet3Book::kText},
+                                       {"Cout", Jet3Book::kInt},
+                                       {"preparation", Jet3Book::kMemo},
+                                       {"Photo", Jet3Book::kText}},
+                                      {{3, "Cr\xe8me aux \x9cufs, 5 \x80"_ba, -1, "M\xealer."_ba, QVariant()},
+                                       {1000000, ""_ba, 32767, QVariant(), " "_ba}}};
+        const Jet3Book::Table lines{"Ingre",
+                                    {{"Numero", Jet3Book::kLong}, {"NIngre", Jet3Book::kLong}},
+                                    {{3, 9}, {3, 2}, {QVariant(), 5}}};
+        QFile file(path(u"vieux.mdb"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(Jet3Book::file({recipes, lines})) > 0);
+        file.close();
+        QVERIFY(EstAncienLivre(file.fileName()));
+        // A charset that somebody has set for the library's own tools does not matter.
+        qputenv("MDB_JET3_CHARSET", "CP437");
+        ConvertirAncienLivre(file.fileName(), path(u"nouveau.mdb"_s));
+        qunsetenv("MDB_JET3_CHARSET");
+        QCOMPARE(
+            rows(u"SELECT * From Cocktails"_s, 9),
+            QStringList({u"3|Crème aux œufs, 5 €|-|-|-|-|Mêler.|-|-1"_s, u"1000000||-|-| |-|-|-|32767"_s}));
+        QCOMPARE(rows(u"SELECT * From Ingre"_s, 4), QStringList({u"3|9|-|-"_s, u"3|2|-|-"_s, u"-|5|-|-"_s}));
     }
 
     void oddColumnsAndRows() {
