@@ -21,7 +21,7 @@ namespace {
 constexpr rlim_t kAddressSpace = rlim_t(512) << 20U;
 constexpr rlim_t kCpuSeconds = 60;
 
-void limit(__rlimit_resource resource, rlim_t value) {
+void limit(decltype(RLIMIT_CPU) resource, rlim_t value) {
     const rlimit limits{value, value};
     setrlimit(resource, &limits);
 }
