@@ -1,8 +1,8 @@
 #include "Start.h"
 
-#include "browser/Frmmain.h"
 #include "platform/desktop/SingleInstance.h"
 #include "shell/Demarrage.h"
+#include "shell/Fenetres.h"
 #include "store/Programme.h"
 
 #include <QApplication>
@@ -51,10 +51,11 @@ int startOurs(int argc, char **argv, const QString &folder) {
     store::DefinirDossierProgramme(folder);
     shell::PreparerApplication();
     const platform::desktop::SingleInstance instance(store::TitreProgramme.toString());
-    browser::Frmmain frmmain;
+    shell::Fenetres windows;
+    const browser::Frmmain &frmmain = windows.Principale;
     EndAfterPaint end;
     frmmain.Liste.viewport()->installEventFilter(&end);
-    shell::ChargerFrmmain(frmmain, instance);
+    shell::ChargerFrmmain(windows, instance);
     // A start that was broken off leaves no view in the settings, and so no list.
     if (frmmain.Liste.Count() == 0) {
         return EXIT_FAILURE;

@@ -7,6 +7,7 @@
 #include "browser/Vues.h"
 #include "platform/desktop/SingleInstance.h"
 #include "shell/Demarrage.h"
+#include "shell/Fenetres.h"
 #include "store/Programme.h"
 #include "store/Textes.h"
 
@@ -33,17 +34,17 @@ class OpenWindow {
 public:
     explicit OpenWindow(const GeneratedBook &book)
         : m_instance((store::DefinirDossierProgramme(book.folder), QStringLiteral("bench"))) {
-        shell::ChargerFrmmain(m_window, m_instance);
+        shell::ChargerFrmmain(m_windows, m_instance);
         paint();
     }
 
-    browser::Frmmain &window() { return m_window; }
+    browser::Frmmain &window() { return m_windows.Principale; }
 
     static void paint() { QCoreApplication::processEvents(); }
 
 private:
     platform::desktop::SingleInstance m_instance;
-    browser::Frmmain m_window;
+    shell::Fenetres m_windows;
 };
 
 /// The rows of a list as a plain program would hold them: the numbers beside a model of the texts.

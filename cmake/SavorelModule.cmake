@@ -30,7 +30,8 @@ function(savorel_module)
   target_link_libraries(${module} PUBLIC ${M_USES} ${M_LIBRARIES} PRIVATE ${M_PRIVATE_LIBRARIES})
 endfunction()
 
-# savorel_test(<name> <sources> USES <modules> [LIBRARIES <targets>]): a Qt Test program run by CTest, offscreen.
+# savorel_test(<name> <sources> USES <modules> [LIBRARIES <targets>] [ARGUMENTS <words>]): a test program run by CTest,
+# offscreen.
 function(savorel_test name)
   cmake_parse_arguments(T "" "" "USES;LIBRARIES;ARGUMENTS" ${ARGN})
   add_executable(${name} ${T_UNPARSED_ARGUMENTS})

@@ -1,11 +1,10 @@
 // The start of the process, and the guard at its end: whatever no window has caught ends here, in a message
 // box.
 
-#include "browser/Frmmain.h"
-#include "browser/Pop.h"
 #include "platform/desktop/SingleInstance.h"
 #include "platform/dialogs/MessageBox.h"
 #include "shell/Demarrage.h"
+#include "shell/Fenetres.h"
 #include "shell/FinDuProgramme.h"
 #include "store/Programme.h"
 
@@ -46,9 +45,8 @@ int main(int argc, char *argv[]) {
     shell::PreparerApplication();
     return guarded([] {
         const platform::desktop::SingleInstance instance(store::TitreProgramme.toString());
-        browser::Frmmain frmmain;
-        const browser::Pop pop(frmmain);
-        shell::ChargerFrmmain(frmmain, instance);
+        shell::Fenetres fenetres;
+        shell::ChargerFrmmain(fenetres, instance);
         return QApplication::exec();
     });
 }

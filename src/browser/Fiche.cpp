@@ -192,6 +192,7 @@ void AjouterLignePointillee(Frmmain &frm, int i) {
 
 void ChargerRecette(Frmmain &frm, qint64 numero) {
     AfficherIngredients(frm, numero);
+    frm.Scroll(0).ScrollToTop();
     frm.Scroll(0).SetScrollableHeight(kMargeFiche);
     PlacerFiche(frm);
     auto base = store::OuvrirLivre();
@@ -244,6 +245,13 @@ void CacherListeModif(Frmmain &frm) {
     for (DropList *liste : frm.ListesModif()) {
         liste->hide();
     }
+}
+
+void QuitterFiche(Frmmain &frm) {
+    CacherListeModif(frm);
+    frm.Scroll(0).hide();
+    frm.Outils(2).hide();
+    frm.LBtn(2).hide();
 }
 
 } // namespace browser

@@ -2,11 +2,15 @@
 
 #include "platform/controls/Twips.h"
 
-#include <QtGlobal>
+#include <QString>
 
 namespace browser {
 
 class Frmmain;
+
+/// The table of the recipes and its key.
+inline const QString kTableRecettes = QStringLiteral("Cocktails");
+inline const QString kCleRecette = QStringLiteral("Numero");
 
 /// Between the rows of the detail and at its right and lower edge.
 inline constexpr platform::controls::Twips kMargeFiche{400};
@@ -27,5 +31,8 @@ void ChargerLesListesCombo(Frmmain &frm);
 
 /// Hides the drop lists of the detail.
 void CacherListeModif(Frmmain &frm);
+
+/// Puts the recipe away, and the tool that opens its sheet.
+void QuitterFiche(Frmmain &frm);
 
 } // namespace browser

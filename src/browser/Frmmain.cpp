@@ -3,10 +3,13 @@
 #include "Fiche.h"
 #include "Lignes.h"
 #include "Operations.h"
+#include "TableDesVues.h"
 #include "Valeurs.h"
 #include "Vues.h"
 
 #include "platform/controls/Fonts.h"
+#include "platform/controls/ToolWindow.h"
+#include "store/Configuration.h"
 #include "store/Vocabulaires.h"
 
 #include <array>
@@ -24,17 +27,18 @@ constexpr std::u16string_view kChangerImage = u"Cliquer ICI pour modifier l'imag
 constexpr std::array kControles{
     ControlRow{"Embleme", 150, 60, 480, 480, u"", u"", u"Emblème de Savorel"},
     ControlRow{"Enseigne", 6180, 15, 3000, 540, u"", u"", u"Enseigne"},
+    ControlRow{"LPatch", 6180, 15, 3000, 540, u"", u"", u"Mode d'affichage"},
     ControlRow{"Btn_Min", 14190, 120, 360, 360, u"", u"Minimiser"},
     ControlRow{"Btn_Quit", 14760, 120, 360, 360, u"", u"Fermer"},
 
     ControlRow{"Outils(0)", 150, 660, 1350, 570, u"", u"Ajouter manuellement une recette"},
-    ControlRow{"Outils(1)", 1521, 660, 1350, 570, u"", u"Ajouter une recette avec notre partenaire"},
+    ControlRow{"Outils(1)", 1521, 660, 1350, 570, u"", u"Ajouter une recette avec " SAVOREL_PARTENAIRE},
     ControlRow{"Outils(2)", 2892, 660, 1350, 570, u"", u"Consulter les fiches"},
     ControlRow{"Outils(3)", 4263, 660, 1350, 570, u"", u"Acquérir une image"},
     ControlRow{"Outils(4)", 5634, 660, 1350, 570, u"", u"Rechercher une recette"},
     ControlRow{"Outils(5)", 7005, 660, 1350, 570, u"", u"Sauvegarder la base"},
     ControlRow{"Outils(6)", 8376, 660, 1350, 570, u"", u"Restaurer une base"},
-    ControlRow{"Outils(7)", 9747, 660, 1350, 570, u"", u"Visiter le site de notre partenaire"},
+    ControlRow{"Outils(7)", 9747, 660, 1350, 570, u"", u"Visiter le site de " SAVOREL_PARTENAIRE},
     ControlRow{"Outils(8)", 11118, 660, 1350, 570, u"", u"Visiter le site de l'auteur"},
     ControlRow{"Outils(9)", 12489, 660, 1350, 570, u"", u"A Propos"},
     ControlRow{"Outils(10)", 13860, 660, 1350, 570, u"", u"Aide"},
@@ -113,6 +117,20 @@ constexpr std::array kControles{
     ControlRow{"Pb", 150, 450, 3450, 300},
 };
 
+/// What each tool does, in the words of a status line.
+constexpr std::array<QStringView, 11> kPhrases{
+    u"Créer une nouvelle recette ",
+    u"Ajouter des nouvelles recettes à partir du site " SAVOREL_PARTENAIRE_ACCUEIL,
+    u"Imprimer les recettes ",
+    u"Acquérir de nouvelles images ",
+    u"Rechercher une recette avec plusieurs critères ",
+    u"Sauvegarder la base ",
+    u"Restaurer une ancienne base ",
+    u"Visiter le site de notre partenaire " SAVOREL_PARTENAIRE,
+    u"Visiter le site de l'auteur ",
+    u"A Propos ...",
+    u"Aide de Savorel ... "};
+
 constexpr Rectangle kBarreOutils{Twips(90), Twips(645), Twips(15180), Twips(1050)};
 
 QString ImageNommee(const char *dossier, int numero) {
@@ -154,6 +172,7 @@ Frmmain::Frmmain()
       m_main(resourcePicture(QStringLiteral(":/curseurs/main.argb")), kBoutDuDoigt.x(), kBoutDuDoigt.y()),
       Embleme(this, rowNamed(kControles, "Embleme")),
       Enseigne(this, rowNamed(kControles, "Enseigne")),
+      LPatch(this, rowNamed(kControles, "LPatch")),
       Btn_Min(this, rowNamed(kControles, "Btn_Min")),
       Btn_Quit(this, rowNamed(kControles, "Btn_Quit")),
       Outils(this, kControles, "Outils"),
@@ -235,6 +254,7 @@ void Frmmain::PeindreOutils() {
     for (int index = 0; index < Outils.Count(); ++index) {
         Ribbon &outil = Outils(index);
         outil.SetLook(Look::Tool);
+        outil.setStatusTip(kPhrases.at(static_cast<std::size_t>(index)).toString());
         outil.SetPicture(resourcePicture(ImageNommee("icones/outil", index) + QStringLiteral(".argb")));
     }
     LBtn.ForEach([](Panel &panneau) {
@@ -247,17 +267,13 @@ void Frmmain::PeindreOutils() {
     for (int vue = 0; vue < Bouton.Count(); ++vue) {
         Ribbon &bouton = Bouton(vue);
         bouton.SetLook(Look::Sort);
+        bouton.setStatusTip(VueNumero(vue)->phrase.toString());
         bouton.setFont(interfaceFont(Face::Comic, 9, true));
         bouton.SetForeColor(Qt::white);
         bouton.SetPicture(m_img[static_cast<std::size_t>(vue)]);
     }
-    for (auto [bouton, nom] : {std::pair(&Btn_Min, "reduire"), std::pair(&Btn_Quit, "fermer")}) {
-        const QPixmap repos = resourcePicture(QStringLiteral(":/icones/%1.argb").arg(QLatin1String(nom)));
-        bouton->SetPicture(repos);
-        bouton->SetRestingPicture(repos);
-        bouton->SetHoverPicture(
-            resourcePicture(QStringLiteral(":/icones/%1-survol.argb").arg(QLatin1String(nom))));
-    }
+    setBandPictures(Btn_Min, QStringLiteral("reduire"));
+    setBandPictures(Btn_Quit, QStringLiteral("fermer"));
 }
 
 void Frmmain::PeindreFiche() {
@@ -376,8 +392,10 @@ void Frmmain::BrancherFiche() {
         connect(panneau, &ScrollPanel::Clicked, this, [this] { CacherListeModif(*this); });
     }
     connect(&CadrePhoto, &Panel::Clicked, this, [this] { ClicCadrePhoto(*this); });
-    connect(&CadrePhoto, &Panel::FileDropped, this,
-            [this](const QString &fichier) { DeposerPhoto(*this, fichier); });
+    // Not at once: the program that the file comes from waits for the end of the drop.
+    connect(
+        &CadrePhoto, &Panel::FileDropped, this,
+        [this](const QString &fichier) { DeposerPhoto(*this, fichier); }, Qt::QueuedConnection);
 }
 
 } // namespace browser

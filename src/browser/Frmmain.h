@@ -56,6 +56,7 @@ public:
 
     // Title band and toolbar.
     Image Embleme, Enseigne;
+    Label LPatch;
     Ribbon Btn_Min, Btn_Quit;
     Array<Ribbon> Outils;
     Array<Panel> LBtn;

@@ -4,6 +4,7 @@
 #include "Frmmain.h"
 #include "Valeurs.h"
 
+#include "store/AccesBase.h"
 #include "store/Textes.h"
 
 #include <array>
@@ -14,6 +15,16 @@ namespace {
 
 using namespace platform::controls;
 using store::LigneIngre;
+
+/// The three texts of an ingredient line, as the buttons show them.
+struct TextesLigne {
+    QString quantite, mesure, ingredient;
+};
+
+/// A line before and after a change, by the numbers of its texts.
+struct ClesLignes {
+    store::LigneIngre ancienne, nouvelle;
+};
 
 /// A column of the lines: its buttons, the list that all its rows share, its lookup table, and its part of a line.
 struct Colonne {
@@ -36,6 +47,17 @@ constexpr std::array kColonnes{
 void Rechercher(const Colonne &colonne, const QString &texte, qint64 &numero) {
     store::RechercherNumero(texte == store::LignePointillee ? QStringLiteral(" ") : texte, numero,
                             colonne.table.toString(), colonne.cle.toString());
+}
+
+/// Finds the numbers of both lines, quantities first, then measures, then ingredients. Dots stand for the row with a
+/// blank. A text that has no row gets one, also if the line is not changed afterwards. Throws DatabaseError.
+ClesLignes RechercherCles(const TextesLigne &ancienne, const TextesLigne &nouvelle) {
+    ClesLignes cles{};
+    for (const Colonne &colonne : kColonnes) {
+        Rechercher(colonne, ancienne.*colonne.texte, cles.ancienne.*colonne.numero);
+        Rechercher(colonne, nouvelle.*colonne.texte, cles.nouvelle.*colonne.numero);
+    }
+    return cles;
 }
 
 TextesLigne LigneAffichee(const Frmmain &frm, int i) {
@@ -72,22 +94,11 @@ void ChoisirLigne(Frmmain &frm, const Colonne &colonne) {
     if (cles.ancienne != cles.nouvelle) {
         store::RemplacerLigneIngre(recette, cles.ancienne, cles.nouvelle);
     }
-    bouton.SetCaption(texte);
-    bouton.setToolTip(texte);
-    FermerListe(liste, bouton);
-    frm.Scroll(0).update();
+    MontrerValeur(bouton, texte);
+    FermerListe(frm, liste, bouton);
 }
 
 } // namespace
-
-ClesLignes RechercherCles(const TextesLigne &ancienne, const TextesLigne &nouvelle) {
-    ClesLignes cles{};
-    for (const Colonne &colonne : kColonnes) {
-        Rechercher(colonne, ancienne.*colonne.texte, cles.ancienne.*colonne.numero);
-        Rechercher(colonne, nouvelle.*colonne.texte, cles.nouvelle.*colonne.numero);
-    }
-    return cles;
-}
 
 void BrancherListesDeLigne(Frmmain &frm) {
     for (const Colonne &colonne : kColonnes) {
@@ -95,7 +106,7 @@ void BrancherListesDeLigne(Frmmain &frm) {
         liste.SetOffersTyped(true);
         QObject::connect(&liste, &DropList::Click, &frm, [&frm, &colonne] { ChoisirLigne(frm, colonne); });
         QObject::connect(&liste, &DropList::Escaped, &frm, [&frm, &liste, &colonne] {
-            FermerListe(liste, (frm.*colonne.boutons)(liste.Tag().toInt()));
+            FermerListe(frm, liste, (frm.*colonne.boutons)(liste.Tag().toInt()));
         });
     }
 }
@@ -103,12 +114,7 @@ void BrancherListesDeLigne(Frmmain &frm) {
 void BrancherLigne(Frmmain &frm, int i) {
     for (const Colonne &colonne : kColonnes) {
         Ribbon &bouton = (frm.*colonne.boutons)(i);
-        QObject::connect(&bouton, &Ribbon::toggled, &frm, [&frm, &colonne, &bouton, i] {
-            if (bouton.Value()) {
-                OuvrirLigne(frm, colonne, i);
-                bouton.SetValue(false);
-            }
-        });
+        BrancherPression(frm, bouton, [&frm, &colonne, i] { OuvrirLigne(frm, colonne, i); });
     }
 }
 

@@ -22,8 +22,6 @@ namespace {
 using namespace platform::controls;
 namespace dialogs = platform::dialogs;
 
-const QString kRecettes = QStringLiteral("Cocktails");
-const QString kCleRecettes = QStringLiteral("Numero");
 constexpr int kPositionPhoto = 4;
 
 /// What a view asks for when a value is added, and how the list is headed and counted then. Some texts date from
@@ -89,11 +87,13 @@ void SupprimerDuBas(Frmmain &frm) {
     if (!ConfirmerSuppression(frm, liste.Text(liste.SelectedIndex()))) {
         return;
     }
-    store::SupprimerFiches(kRecettes, NumeroChoisi(liste), kCleRecettes);
-    if (RetirerRangee(liste)) {
-        ChargerRecette(frm, NumeroChoisi(liste));
-        frm.LTDroit.SetCaption(liste.Text(liste.SelectedIndex()));
+    store::SupprimerFiches(kTableRecettes, NumeroChoisi(liste), kCleRecette);
+    if (!RetirerRangee(liste)) {
+        QuitterFiche(frm);
+        return;
     }
+    ChargerRecette(frm, NumeroChoisi(liste));
+    frm.LTDroit.SetCaption(liste.Text(liste.SelectedIndex()));
 }
 
 /// Deletes what a row of Liste stands for. False when recipes still use it.
@@ -107,7 +107,7 @@ bool SupprimerDeLaVue(Frmmain &frm, int vue, qint64 numero) {
     }
     store::SupprimerFiches(courante->table.toString(), numero, courante->cle.toString());
     if (vue == 0) {
-        store::SupprimerFiches(QStringLiteral("Ingre"), numero, kCleRecettes);
+        store::SupprimerFiches(QStringLiteral("Ingre"), numero, kCleRecette);
     }
     frm.LBGauche.SetCaption(QString::number(frm.Liste.Count()) +
                             kSuffixes.at(static_cast<std::size_t>(vue)).toString());
@@ -136,27 +136,35 @@ pictures::CadreImage CadreDe(Frmmain &frm) {
 /// Stores the path of the picture chosen last, which is this recipe's unless the choice was broken off.
 void StockerPhoto(Frmmain &frm) {
     QVariant chemin = frm.Photo.Tag();
-    store::ModifierSiRenseigne(chemin, kRecettes, NumeroDeLaFiche(frm), kPositionPhoto);
+    store::ModifierSiRenseigne(chemin, kTableRecettes, NumeroDeLaFiche(frm), kPositionPhoto);
 }
 
 void ChoisirPhoto(Frmmain &frm) {
-    if (pictures::ChoisirImage(CadreDe(frm), frm.DossierImages) != pictures::Choix::Illisible) {
+    const pictures::Choix choix = pictures::ChoisirImage(CadreDe(frm), frm.DossierImages);
+    if (choix != pictures::Choix::Illisible) {
         StockerPhoto(frm);
+    }
+    if (choix == pictures::Choix::Faite) {
+        frm.CadrePhoto.SetCaption({});
     }
 }
 
 } // namespace
+
+const List &ListeConcernee(const Frmmain &frm) {
+    return ListeBasse(frm) ? frm.LFilms : frm.Liste;
+}
 
 bool PeutAjouter(const Frmmain &frm) {
     return !AjouteUneRecette(frm) && CreationDe(VueCourante()) != nullptr;
 }
 
 void AjouterValeur(Frmmain &frm) {
-    const int vue = VueCourante();
-    const Creation *creation = CreationDe(vue);
-    if (AjouteUneRecette(frm) || creation == nullptr) {
+    if (!PeutAjouter(frm)) {
         return;
     }
+    const int vue = VueCourante();
+    const Creation *creation = CreationDe(vue);
     const auto texte = dialogs::InputBox(&frm, creation->titre.toString(), creation->invite.toString());
     if (!texte || store::SansBlancs(*texte).isEmpty()) {
         return;
@@ -165,6 +173,8 @@ void AjouterValeur(Frmmain &frm) {
     store::AjouterFiche(*texte, table, VueNumero(vue)->cle.toString());
     ChargerListe(frm, {table, table, creation->entete.toString(), creation->suffixe.toString()}, vue);
     ListeHaute(frm);
+    // The loading has emptied the lower list, and a row that was selected before is not acted on again.
+    ChargerRecettesVue(frm, vue);
 }
 
 void ModifierRangee(Frmmain &frm) {
@@ -195,7 +205,7 @@ void SupprimerPhoto(Frmmain &frm) {
         return;
     }
     QVariant aucune = QStringLiteral(" ");
-    store::ModifierSiRenseigne(aucune, kRecettes, NumeroDeLaFiche(frm), kPositionPhoto);
+    store::ModifierSiRenseigne(aucune, kTableRecettes, NumeroDeLaFiche(frm), kPositionPhoto);
     frm.Photo.SetPicture({});
     frm.CadrePhoto.SetCaption(QStringLiteral("Pas de photo"));
 }
@@ -209,6 +219,7 @@ void DeposerPhoto(Frmmain &frm, const QString &fichier) {
     CacherListeModif(frm);
     if (pictures::PoserImage(CadreDe(frm), fichier) == pictures::Choix::Faite) {
         StockerPhoto(frm);
+        frm.CadrePhoto.SetCaption({});
     }
 }
 

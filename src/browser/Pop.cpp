@@ -1,10 +1,13 @@
 #include "Pop.h"
 
+#include "Fiche.h"
 #include "Frmmain.h"
 #include "Operations.h"
 #include "TableDesVues.h"
 
 #include "store/Programme.h"
+
+#include <QEvent>
 
 namespace browser {
 
@@ -30,6 +33,7 @@ Pop::Pop(Frmmain &frm)
       ModifPhoto(QStringLiteral("&Modifier la photo")),
       SuppPhoto(QStringLiteral("&Supprimer la photo")) {
     setWindowTitle(store::TitreProgramme.toString());
+    setAccessibleName(windowTitle());
     Composer();
     BrancherMenus(frm);
     BrancherFenetre(frm);
@@ -63,6 +67,10 @@ void Pop::BrancherFenetre(Frmmain &frm) {
     connect(&frm.Liste, &List::RightClicked, this, [this, &frm](const QPoint &lieu) {
         const int vue = VueCourante();
         frm.Outils(2).SetTag(vue == 0 ? kHaut : QString());
+        if (vue != 0) {
+            // The row stands for a group from here on, no more for the recipe that may be shown beside it.
+            QuitterFiche(frm);
+        }
         const Vue *courante = VueNumero(vue);
         if (courante != nullptr && courante->vocabulaire.empty()) {
             MenuDesListes(frm, lieu);
@@ -71,8 +79,23 @@ void Pop::BrancherFenetre(Frmmain &frm) {
     connect(&frm.CadrePhoto, &Panel::RightClicked, this, [this](const QPoint &lieu) { Menu2.popup(lieu); });
 }
 
+void Pop::changeEvent(QEvent *event) {
+    SkinnedWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange) {
+        Q_EMIT EtatChange();
+    }
+}
+
+// Without a window manager nothing minimises this window: it stays on the screen, and a click brings the program back.
+void Pop::mousePressEvent(QMouseEvent * /*event*/) {
+    setWindowState(Qt::WindowNoState);
+}
+
 void Pop::MenuDesListes(const Frmmain &frm, const QPoint &lieu) {
+    const bool choisie = ListeConcernee(frm).SelectedIndex() != 0;
     Ajouter.setEnabled(PeutAjouter(frm));
+    Modifier.setEnabled(choisie);
+    Supprimer.setEnabled(choisie);
     Menu1.popup(lieu);
 }
 

@@ -58,14 +58,8 @@ const ListeDeValeur &ValeurDe(int index) {
     return kValeurs.at(static_cast<std::size_t>(index));
 }
 
-void Montrer(Ribbon &bouton, const QString &texte) {
-    bouton.SetCaption(texte);
-    bouton.setToolTip(texte);
-}
-
 void EcrireFiche(const Frmmain &frm, QVariant valeur, int position) {
-    store::ModifierChamp(QStringLiteral("Cocktails"), NumeroDeLaFiche(frm), valeur, QStringLiteral("Numero"),
-                         position);
+    store::ModifierChamp(kTableRecettes, NumeroDeLaFiche(frm), valeur, kCleRecette, position);
 }
 
 /// Number of the text in the table of the value, which gets a row for it if need be.
@@ -82,17 +76,15 @@ void ChoisirRecherche(Frmmain &frm, const ListeDeValeur &valeur, Ribbon &bouton)
         return;
     }
     EcrireFiche(frm, Rechercher(valeur, texte), valeur.position);
-    Montrer(bouton, texte);
-    FermerListe(liste, bouton);
-    frm.Scroll(0).update();
+    MontrerValeur(bouton, texte);
+    FermerListe(frm, liste, bouton);
 }
 
 /// Stores a value that the button shows already; a failure keeps the list open and says nothing.
 void StockerEnSilence(Frmmain &frm, const ListeDeValeur &valeur, Ribbon &bouton, const QVariant &choix) {
     try {
         EcrireFiche(frm, choix, valeur.position);
-        FermerListe(frm.*valeur.liste, bouton);
-        frm.Scroll(0).update();
+        FermerListe(frm, frm.*valeur.liste, bouton);
     } catch (const std::exception &) {
         // The button shows what was chosen, until the recipe is shown again.
     }
@@ -104,33 +96,68 @@ void ChoisirVin(Frmmain &frm, const ListeDeValeur &valeur, Ribbon &bouton) {
         return;
     }
     const qint64 numero = Rechercher(valeur, texte);
-    Montrer(bouton, texte);
+    MontrerValeur(bouton, texte);
     StockerEnSilence(frm, valeur, bouton, numero);
 }
 
 /// The place of the row in the list is the code. It is stored whether it differs or not.
 void ChoisirCode(Frmmain &frm, const ListeDeValeur &valeur, Ribbon &bouton) {
     const DropList &liste = frm.*valeur.liste;
-    Montrer(bouton, liste.Text());
+    MontrerValeur(bouton, liste.Text());
     bouton.SetTag(QString::number(liste.ListIndex()));
     StockerEnSilence(frm, valeur, bouton, bouton.Tag());
+}
+
+void OuvrirValeur(Frmmain &frm, int index) {
+    frm.Scroll(0).update();
+    CacherListeModif(frm);
+    const ListeDeValeur &valeur = ValeurDe(index);
+    DropList &liste = frm.*valeur.liste;
+    const Ribbon &bouton = frm.Data(index);
+    if (valeur.texte == Texte::AOuverture) {
+        if (liste.Count() > 0) {
+            liste.SetText(bouton.Caption());
+        }
+        liste.SetLeft(bouton.Left());
+    } else if (liste.Count() > 0) {
+        // Over an empty table these two keep the place of their last use.
+        liste.SetLeft(bouton.Left());
+    }
+    liste.SetTop(bouton.Top());
+    liste.Open();
+}
+
+void EnregistrerSaisie(Frmmain &frm, int index) {
+    try {
+        EcrireFiche(frm, frm.Saisie(index).TextRTF(), kPositionsSaisie.at(static_cast<std::size_t>(index)));
+    } catch (const std::exception &) {
+        // The text stays in the box, and its next change tries again.
+    }
+}
+
+/// Black leaves the selection as it is.
+void ColorerSelection(Frmmain &frm, int index) {
+    RichTextBox &saisie = frm.Saisie(index);
+    if (saisie.SelLength() == 0) {
+        return;
+    }
+    const auto couleur = platform::dialogs::ShowColor(&frm, Qt::black);
+    if (couleur && *couleur != QColor(Qt::black)) {
+        saisie.SetSelColor(*couleur);
+    }
 }
 
 void BrancherValeur(Frmmain &frm, int index) {
     Ribbon &bouton = frm.Data(index);
     DropList &liste = frm.*ValeurDe(index).liste;
     const auto choisir = [&frm, index] { ChoisirValeur(frm, index); };
-    QObject::connect(&bouton, &Ribbon::toggled, &frm, [&frm, &bouton, index] {
-        if (bouton.Value()) {
-            OuvrirValeur(frm, index);
-            bouton.SetValue(false);
-        }
-    });
+    BrancherPression(frm, bouton, [&frm, index] { OuvrirValeur(frm, index); });
     QObject::connect(&liste, &DropList::Click, &frm, choisir);
     if (ValeurDe(index).entree == Entree::Confirme) {
         QObject::connect(&liste, &DropList::EnterPressed, &frm, choisir);
     }
-    QObject::connect(&liste, &DropList::Escaped, &frm, [&liste, &bouton] { FermerListe(liste, bouton); });
+    QObject::connect(&liste, &DropList::Escaped, &frm,
+                     [&frm, &liste, &bouton] { FermerListe(frm, liste, bouton); });
 }
 
 void BrancherSaisie(Frmmain &frm, int index) {
@@ -157,25 +184,6 @@ void BrancherValeurs(Frmmain &frm) {
     }
 }
 
-void OuvrirValeur(Frmmain &frm, int index) {
-    frm.Scroll(0).update();
-    CacherListeModif(frm);
-    const ListeDeValeur &valeur = ValeurDe(index);
-    DropList &liste = frm.*valeur.liste;
-    const Ribbon &bouton = frm.Data(index);
-    if (valeur.texte == Texte::AOuverture) {
-        if (liste.Count() > 0) {
-            liste.SetText(bouton.Caption());
-        }
-        liste.SetLeft(bouton.Left());
-    } else if (liste.Count() > 0) {
-        // Over an empty table these two keep the place of their last use.
-        liste.SetLeft(bouton.Left());
-    }
-    liste.SetTop(bouton.Top());
-    liste.Open();
-}
-
 void ChoisirValeur(Frmmain &frm, int index) {
     const ListeDeValeur &valeur = ValeurDe(index);
     Ribbon &bouton = frm.Data(index);
@@ -192,30 +200,26 @@ void ChoisirValeur(Frmmain &frm, int index) {
     }
 }
 
-void EnregistrerSaisie(Frmmain &frm, int index) {
-    try {
-        EcrireFiche(frm, frm.Saisie(index).TextRTF(), kPositionsSaisie.at(static_cast<std::size_t>(index)));
-    } catch (const std::exception &) {
-        // The text stays in the box, and its next change tries again.
-    }
-}
-
-void ColorerSelection(Frmmain &frm, int index) {
-    RichTextBox &saisie = frm.Saisie(index);
-    if (saisie.SelLength() == 0) {
-        return;
-    }
-    const auto couleur = platform::dialogs::ShowColor(&frm, Qt::black);
-    if (couleur && *couleur != QColor(Qt::black)) {
-        saisie.SetSelColor(*couleur);
-    }
-}
-
-void FermerListe(DropList &liste, QWidget &bouton) {
+void FermerListe(Frmmain &frm, DropList &liste, Ribbon &bouton) {
     if (liste.hasFocus()) {
         bouton.setFocus();
     }
     liste.hide();
+    frm.Scroll(0).update();
+}
+
+void MontrerValeur(Ribbon &bouton, const QString &texte) {
+    bouton.SetCaption(texte);
+    bouton.setToolTip(texte);
+}
+
+void BrancherPression(Frmmain &frm, Ribbon &bouton, const std::function<void()> &ouvrir) {
+    QObject::connect(&bouton, &Ribbon::toggled, &frm, [&bouton, ouvrir](bool presse) {
+        if (presse) {
+            ouvrir();
+            bouton.SetValue(false);
+        }
+    });
 }
 
 } // namespace browser

@@ -1,8 +1,9 @@
 #pragma once
 
 #include "platform/controls/DropList.h"
+#include "platform/controls/RibbonButton.h"
 
-#include <QtGlobal>
+#include <functional>
 
 namespace browser {
 
@@ -15,20 +16,17 @@ qint64 NumeroDeLaFiche(const Frmmain &frm);
 /// Connects the value buttons of the recipe and their lists, and the two texts.
 void BrancherValeurs(Frmmain &frm);
 
-/// Lays the list of a value over Data(index).
-void OuvrirValeur(Frmmain &frm, int index);
-
 /// Stores what the list of Data(index) holds, as the user's choice for it. Throws DatabaseError for values of a
 /// lookup table; for the others a failed store is silent.
 void ChoisirValeur(Frmmain &frm, int index);
 
-/// Stores Saisie(index) as it stands; silent when that fails.
-void EnregistrerSaisie(Frmmain &frm, int index);
-
-/// Lets the user choose a colour for the selection of Saisie(index); black leaves it as it is.
-void ColorerSelection(Frmmain &frm, int index);
-
 /// Hides a list after a choice; the keyboard goes back to the button that it lay over.
-void FermerListe(platform::controls::DropList &liste, QWidget &bouton);
+void FermerListe(Frmmain &frm, platform::controls::DropList &liste, platform::controls::Ribbon &bouton);
+
+/// Shows a value on its button, and in full in its tool tip.
+void MontrerValeur(platform::controls::Ribbon &bouton, const QString &texte);
+
+/// Lets a press of the button open what changes its value.
+void BrancherPression(Frmmain &frm, platform::controls::Ribbon &bouton, const std::function<void()> &ouvrir);
 
 } // namespace browser

@@ -1,14 +1,17 @@
 #include "Demarrage.h"
 
+#include "BarreOutils.h"
+#include "Fenetres.h"
 #include "FinDuProgramme.h"
+#include "Reduction.h"
+#include "Reglages.h"
+#include "Sauvegarde.h"
 
-#include "browser/Frmmain.h"
 #include "browser/Vues.h"
 #include "platform/controls/Fonts.h"
 #include "platform/dialogs/French.h"
 #include "platform/dialogs/MessageBox.h"
 #include "platform/settings/Conversion.h"
-#include "platform/settings/Settings.h"
 #include "store/Livre.h"
 #include "store/Programme.h"
 #include "store/Textes.h"
@@ -17,6 +20,7 @@
 #include <QDir>
 #include <QFile>
 #include <QIcon>
+#include <QProxyStyle>
 #include <QScreen>
 #include <algorithm>
 #include <cstdlib>
@@ -30,14 +34,8 @@ using namespace platform::controls;
 namespace dialogs = platform::dialogs;
 namespace settings = platform::settings;
 
-const QString kReglages = QStringLiteral("Settings");
-
 QString Titre() {
     return store::TitreProgramme.toString();
-}
-
-QString Lire(const QString &section, const QString &cle, const QString &defaut) {
-    return settings::GetSetting(Titre(), section, cle, defaut);
 }
 
 [[noreturn]] void Refuser(const QString &raison) {
@@ -118,26 +116,60 @@ void ChargerPremiereListe(browser::Frmmain &frm) {
 void Fermer(browser::Frmmain &frm) {
     Quitter(frm);
     frm.Btn_Quit.Release();
-    settings::SaveSetting(Titre(), kReglages, QStringLiteral("MainTop"), settings::ToText(frm.Top().value()));
-    settings::SaveSetting(Titre(), kReglages, QStringLiteral("MainLeft"),
-                          settings::ToText(frm.Left().value()));
+    Enregistrer(kReglages, QStringLiteral("MainTop"), settings::ToText(frm.Top().value()));
+    Enregistrer(kReglages, QStringLiteral("MainLeft"), settings::ToText(frm.Left().value()));
 }
 
-void Reduire(browser::Frmmain &frm) {
-    frm.Btn_Min.Release();
-    frm.showMinimized();
+void ReduireTout(Fenetres &fenetres) {
+    fenetres.Pop.FenetreOuverte = browser::Pop::kSeule;
+    Reduire(fenetres, fenetres.Principale);
+    fenetres.Principale.Btn_Min.Release();
 }
 
-void Brancher(browser::Frmmain &frm) {
+void ChoisirMode(browser::Frmmain &frm) {
+    Patch patch(frm);
+    patch.CenterOn(frm);
+    patch.ShowModal();
+    frm.SetMode(ModeAffichage());
+}
+
+void Brancher(Fenetres &fenetres) {
+    browser::Frmmain &frm = fenetres.Principale;
     QObject::connect(&frm, &browser::Frmmain::FermetureDemandee, &frm, [&frm] { Fermer(frm); });
-    QObject::connect(&frm, &browser::Frmmain::CloseRequested, &frm, [&frm] { Quitter(frm); });
-    QObject::connect(&frm, &browser::Frmmain::ReductionDemandee, &frm, [&frm] { Reduire(frm); });
-    // A tool is enabled by the window that it opens.
-    for (int index = 0; index < frm.Outils.Count(); ++index) {
-        frm.Outils(index).setEnabled(false);
-        frm.LBtn(index).setEnabled(false);
+    QObject::connect(&frm, &browser::Frmmain::ReductionDemandee, &frm,
+                     [&fenetres] { ReduireTout(fenetres); });
+    QObject::connect(&frm.LPatch, &Label::DoubleClicked, &frm, [&frm] { ChoisirMode(frm); });
+    for (SkinnedWindow *fenetre :
+         {static_cast<SkinnedWindow *>(&frm), static_cast<SkinnedWindow *>(&fenetres.Pop)}) {
+        QObject::connect(fenetre, &SkinnedWindow::CloseRequested, &frm, [&frm] { Quitter(frm); });
+    }
+    // Not at once: a tool window that comes back runs the events of the program until it is closed.
+    QObject::connect(
+        &fenetres.Pop, &browser::Pop::EtatChange, &frm, [&fenetres] { SuivreEtat(fenetres); },
+        Qt::QueuedConnection);
+    BrancherBarreOutils(fenetres);
+}
+
+// The word must be the French one: a truth is stored in the words of the user's language, and only there does the screen
+// open by itself.
+void AccueillirSiVoulu(Fenetres &fenetres) {
+    if (Lire(kReglages, kSplashAuto, QStringLiteral("0")) == QStringLiteral("Vrai")) {
+        fenetres.Accueil().ShowModal();
     }
 }
+
+/// The look of what the toolkit draws. The buttons of its dialogs are words alone, as those of the message boxes.
+class Style : public QProxyStyle {
+public:
+    using QProxyStyle::QProxyStyle;
+
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *answer) const override {
+        return hint == SH_DialogButtonBox_ButtonsHaveIcons
+                   ? 0
+                   : QProxyStyle::styleHint(hint, option, widget, answer);
+    }
+};
 
 } // namespace
 
@@ -145,18 +177,20 @@ void PreparerApplication() {
     store::PreparerLivre();
     QApplication::setApplicationName(Titre());
     QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new Style(QStringLiteral("Fusion")));
     QApplication::setWindowIcon(resourcePicture(QStringLiteral(":/icones/savorel.argb")));
     substituteFonts();
     QApplication::setFont(interfaceFont(Face::Verdana, 8.25));
     dialogs::SpeakFrench(store::DossierProgramme() + QStringLiteral("/translations"));
 }
 
-void ChargerFrmmain(browser::Frmmain &frm, const platform::desktop::SingleInstance &instance) {
+void ChargerFrmmain(Fenetres &fenetres, const platform::desktop::SingleInstance &instance) {
+    browser::Frmmain &frm = fenetres.Principale;
     frm.setWindowTitle(Titre());
     frm.setAccessibleName(Titre());
-    frm.SetMode(
-        settings::ToInteger(Lire(QStringLiteral("Patch"), QStringLiteral("Mode"), QStringLiteral("0"))));
+    Brancher(fenetres);
+    AccueillirSiVoulu(fenetres);
+    frm.SetMode(ModeAffichage());
     for (auto *groupe : {&frm.Outils, &frm.Bouton}) {
         groupe->ForEach([](Ribbon &bouton) { bouton.SetPressedPicture(bouton.Picture()); });
     }
@@ -165,6 +199,7 @@ void ChargerFrmmain(browser::Frmmain &frm, const platform::desktop::SingleInstan
     frm.PreparerListes();
     frm.SetCouleurSelection(Qt::blue);
     LireFondEcran();
+    fenetres.Pop.FenetreOuverte = browser::Pop::kSeule;
     Placer(frm);
     for (DropList *liste : {&frm.LCategorie, &frm.LMateriel, &frm.LVerre, &frm.LCout, &frm.LDiff}) {
         liste->setCursor(frm.CurseurMain());
@@ -173,7 +208,7 @@ void ChargerFrmmain(browser::Frmmain &frm, const platform::desktop::SingleInstan
     frm.Scroll(0).SetBackColor(QColor(kListGround));
     frm.Liste.SetBackColor(QColor(kListGround));
     frm.LFilms.SetBackColor(QColor(kListGround));
-    Brancher(frm);
+    ReprendreAncienLivre();
     ChargerPremiereListe(frm);
     frm.show();
     frm.Liste.setFocus();

@@ -123,20 +123,19 @@ void ModifierSiRenseigne(QVariant &valeur, const QString &table, qint64 cle, int
 
 void RemplacerLigneIngre(qint64 recette, const LigneIngre &ancienne, const LigneIngre &nouvelle) {
     Database base = OuvrirLivre();
+    // The new line comes first: killed between the two, the program leaves one line too many, never one too few.
+    const qsizetype quiPart = ancienne == nouvelle ? 1 : 0;
+    if (Recordset lignes = base.OpenRecordset(ligneIngre(recette, nouvelle)); lignes.RecordCount() <= quiPart) {
+        lignes.AddNew();
+        lignes.Fields(u"Numero") = recette;
+        lignes.Fields(u"NQuantite") = nouvelle.quantite;
+        lignes.Fields(u"NMesure") = nouvelle.mesure;
+        lignes.Fields(u"NIngre") = nouvelle.ingredient;
+        valider(lignes);
+    }
     if (Recordset lignes = base.OpenRecordset(ligneIngre(recette, ancienne)); lignes.RecordCount() > 0) {
         lignes.Delete();
     }
-
-    Recordset lignes = base.OpenRecordset(ligneIngre(recette, nouvelle));
-    if (lignes.RecordCount() > 0) {
-        return;
-    }
-    lignes.AddNew();
-    lignes.Fields(u"Numero") = recette;
-    lignes.Fields(u"NQuantite") = nouvelle.quantite;
-    lignes.Fields(u"NMesure") = nouvelle.mesure;
-    lignes.Fields(u"NIngre") = nouvelle.ingredient;
-    valider(lignes);
 }
 
 void SupprimerFiches(const QString &table, qint64 valeur, const QString &colonne) {

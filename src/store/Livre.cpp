@@ -1,9 +1,13 @@
 #include "Livre.h"
 
 #include "CollationFrancaise.h"
+#include "CopieFichier.h"
 #include "Programme.h"
 
 #include "platform/database/CreateDatabase.h"
+#include "platform/database/DatabaseError.h"
+
+#include <QFile>
 
 namespace store {
 
@@ -64,7 +68,18 @@ CREATE TABLE Mesure (NMesure INTEGER PRIMARY KEY, Mesure TEXT COLLATE NOCASE);
 } // namespace
 
 platform::database::Database OuvrirLivre() {
-    return OuvrirLivre(CheminBase());
+    try {
+        return OuvrirLivre(CheminBase());
+    } catch (const platform::database::DatabaseError &echec) {
+        const QString copie = CheminAvantRestauration();
+        if (!QFile::exists(copie)) {
+            throw;
+        }
+        throw platform::database::DatabaseError(
+            QString::fromUtf8(echec.what()) +
+            QStringLiteral("\rLe livre d'avant la dernière restauration est dans ") + copie +
+            QLatin1Char('.'));
+    }
 }
 
 platform::database::Database OuvrirLivre(const QString &chemin) {

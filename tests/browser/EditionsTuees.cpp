@@ -30,13 +30,13 @@ QString stored(const QString &kind) {
         {u"cout"_qs, u"SELECT Numero, Cout From Cocktails where Numero = 1"_qs},
         {u"texte"_qs, u"SELECT Numero, preparation From Cocktails where Numero = 1"_qs},
         {u"quantite"_qs, u"SELECT q.NQuantite, q.Quantite From Quantite q, Ingre l"
-                         " where l.Numero = 1 and l.NIngre = 1 and q.NQuantite = l.NQuantite"_qs},
+                         " where l.Numero = 1 and l.NIngre = 1 and q.NQuantite = l.NQuantite"
+                         " order by q.NQuantite desc"_qs},
         {u"titre"_qs, u"SELECT Numero, Recette From Cocktails where Numero = 1"_qs},
     };
     auto book = store::OuvrirLivre();
     auto row = book.OpenRecordset(queries.at(kind));
-    // Between the deletion of a line and the addition of the new one there is none.
-    const QString text = row.RecordCount() > 0 ? row.Fields(1).Text() : QString();
+    const QString text = row.Fields(1).Text();
     return kind == u"texte" ? platform::richtext::plainText(text) : text;
 }
 
@@ -52,14 +52,14 @@ void choose(Ribbon &button, DropList &list, const QString &text) {
     Q_EMIT list.activated(list.currentIndex());
 }
 
-void change(Frmmain &frm, const QString &kind, int turn, const QString &value) {
+void change(Frmmain &frm, const QString &kind, const QString &value) {
     if (kind == u"duree") {
         frm.Data(6).SetValue(true);
         frm.LCategorie.SetText(value);
         Q_EMIT frm.LCategorie.EnterPressed();
     } else if (kind == u"cout") {
         frm.Data(2).SetValue(true);
-        frm.LCout.setCurrentIndex(turn % frm.LCout.Count());
+        frm.LCout.setCurrentIndex(value.toInt());
         Q_EMIT frm.LCout.activated(frm.LCout.currentIndex());
     } else if (kind == u"texte") {
         frm.Saisie(0).selectAll();
@@ -79,10 +79,11 @@ void change(Frmmain &frm, const QString &kind, int turn, const QString &value) {
     openView(frm, 0);
     for (int turn = firstTurn;; ++turn) {
         const QString kind = QLatin1String(kKinds.at(static_cast<std::size_t>(turn) % kKinds.size()));
+        const int round = turn / static_cast<int>(kKinds.size());
         const QString value =
-            kind == u"cout" ? QString::number(turn % frm.LCout.Count()) : u"essai-%1"_qs.arg(turn);
+            kind == u"cout" ? QString::number(round % frm.LCout.Count()) : u"essai-%1"_qs.arg(turn);
         say("try", kind, value);
-        change(frm, kind, turn, value);
+        change(frm, kind, value);
         say("done", kind, value);
     }
 }
@@ -92,7 +93,7 @@ struct Claim {
     QString done, tried;
 };
 
-/// Lets the editor run for some time and kills it. Gives the number of changes done.
+/// Lets the editor run for some time and kills it. Gives the number of changes done, -1 if it did not even try one.
 int killOnce(const QString &folder, int firstTurn, std::map<QString, Claim> &claims) {
     QProcess editor;
     editor.setProcessChannelMode(QProcess::ForwardedErrorChannel);
@@ -101,12 +102,13 @@ int killOnce(const QString &folder, int firstTurn, std::map<QString, Claim> &cla
     editor.waitForFinished(QRandomGenerator::global()->bounded(10, 300));
     editor.kill();
     editor.waitForFinished();
-    int done = 0;
+    int done = -1;
     for (const QByteArray &line : editor.readAllStandardOutput().split('\n')) {
         const QList<QByteArray> words = line.split(' ');
         if (words.size() < 3) {
             continue;
         }
+        done = std::max(done, 0);
         Claim &claim = claims[QString::fromUtf8(words[1])];
         claim.tried = QString::fromUtf8(words[2]);
         if (words[0] == "done") {
@@ -121,7 +123,7 @@ bool holds(const std::map<QString, Claim> &claims) {
     for (const auto &[kind, claim] : claims) {
         const QString value = stored(kind);
         const bool broken = claim.tried != claim.done;
-        if (value != claim.done && !(broken && (value == claim.tried || kind == u"quantite"))) {
+        if (value != claim.done && !(broken && value == claim.tried)) {
             std::fprintf(stderr, "%s: « %s » stored, « %s » shown\n", qPrintable(kind), qPrintable(value),
                          qPrintable(claim.done));
             return false;
@@ -155,13 +157,15 @@ int main(int argc, char *argv[]) {
         for (const char *kind : kKinds) {
             claims[QLatin1String(kind)] = {stored(QLatin1String(kind)), stored(QLatin1String(kind))};
         }
-        done += killOnce(book.path({}), done + kills, claims);
+        const int round = killOnce(book.path({}), done + kills, claims);
+        if (round < 0) {
+            std::fputs("the editor did not start\n", stderr);
+            return EXIT_FAILURE;
+        }
+        done += round;
         ++kills;
         if (!holds(claims)) {
             return EXIT_FAILURE;
-        }
-        if (stored(u"quantite"_qs).isEmpty()) {
-            LivreEssai::execute({u"INSERT INTO Ingre VALUES (1, 1, 1, 1)"_qs});
         }
     }
     std::printf("%d changes, %d kills\n", done, kills);

@@ -115,6 +115,22 @@ private Q_SLOTS:
         QCOMPARE(stored(u"Teneur"_qs), u"2"_qs);
     }
 
+    void theLowerListNamesTheRecipe() {
+        LivreEssai::execute({
+            u"INSERT INTO Cocktails VALUES (2, 'Bisque', 2, 1, NULL, 1, '', '', 1, 2, 1, 1)"_qs,
+        });
+        m_window->Bouton(1).SetValue(true); // 1 heure, which is number 2 as Bisque is
+        clickRow(m_window->Liste, 2);       // 10 mn, number 1
+        clickRow(m_window->LFilms, 1);
+        choose(open(6, m_window->LCategorie), u"1 heure"_qs);
+        QCOMPARE(stored(u"NCategorie"_qs), u"2"_qs);
+        clickRow(m_window->Liste, 1);
+        clickRow(m_window->LFilms, 1);
+        m_window->Saisie(0).insertPlainText(u"Mixer"_qs);
+        QVERIFY(stored(u"preparation"_qs, 2).contains(u"Mixer"_qs) !=
+                stored(u"preparation"_qs).contains(u"Mixer"_qs));
+    }
+
     void enterTakesWhatIsTypedButNotInTheVocabularies() {
         const std::array typed{std::pair(0, &m_window->LVerre), std::pair(1, &m_window->LMateriel),
                                std::pair(4, &m_window->LTeneur), std::pair(5, &m_window->LDureeReal),

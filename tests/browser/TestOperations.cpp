@@ -4,7 +4,9 @@
 #include "browser/Operations.h"
 #include "browser/Pop.h"
 
+#include <QDragEnterEvent>
 #include <QLineEdit>
+#include <QMimeData>
 
 #include <memory>
 
@@ -77,6 +79,17 @@ private Q_SLOTS:
         QCOMPARE(m_window->Outils(2).Tag(), kBas);
         m_menus->Menu1.close();
 
+        // The recipe of a group is put away before its row stands for the group.
+        clickRow(m_window->LFilms, 1);
+        clickRow(m_window->Liste, 1, Qt::RightButton);
+        QVERIFY(!m_window->Scroll(0).isVisible());
+        m_menus->Menu1.close();
+
+        clickRow(m_window->Liste, 3); // 2 heures has no recipe, so there is no row to act on
+        QTest::mouseClick(m_window->LFilms.viewport(), Qt::RightButton);
+        QVERIFY(!m_menus->Modifier.isEnabled() && !m_menus->Supprimer.isEnabled());
+        m_menus->Menu1.close();
+
         clickRow(opened(3).Liste, 1, Qt::RightButton); // nothing to do in a fixed vocabulary
         QVERIFY(!m_menus->Menu1.isVisible());
     }
@@ -88,6 +101,7 @@ private Q_SLOTS:
         QCOMPARE(answer.title(), u"Création d'un nouvel ingrédient"_qs);
         QCOMPARE(texts(frm.Liste), u"Beurre, Crème d'Isigny "_qs);
         QCOMPARE(frm.LBGauche.Caption(), u"2 Ingredient(s) ..."_qs); // without the accent of the view
+        QCOMPARE(frm.LFilms.Count(), 2);                             // Beurre keeps its recipes
 
         for (const auto &[button, typed] :
              {std::pair(u"OK"_qs, u"  "_qs), std::pair(u"Annuler"_qs, u"x"_qs)}) {
@@ -129,6 +143,7 @@ private Q_SLOTS:
         const Reponse below(u"Oui"_qs);
         pick(groups.LFilms, 1, m_menus->Supprimer);
         QCOMPARE(groups.LFilms.Count(), 0);
+        QVERIFY(!groups.Scroll(0).isVisible());
         QCOMPARE(count(u"SELECT * From Cocktails"_qs), 1);
         QCOMPARE(count(u"SELECT * From Ingre where Numero = 2"_qs), 1);
     }
@@ -162,8 +177,17 @@ private Q_SLOTS:
         Frmmain &frm = opened(0);
         const QString photo = m_book->path(u"l'été.PNG"_qs);
         QImage(40, 30, QImage::Format_RGB32).save(photo);
-        DeposerPhoto(frm, photo);
-        QVERIFY(frm.Photo.isVisible());
+        auto file = std::make_unique<QMimeData>();
+        file->setUrls({QUrl::fromLocalFile(photo)});
+        const Qt::DropActions possible = Qt::CopyAction | Qt::MoveAction;
+        QDragEnterEvent enter(QPoint(5, 5), possible, file.get(), Qt::LeftButton, {});
+        QApplication::sendEvent(&frm.Photo, &enter);
+        QDropEvent drop(QPointF(5, 5), possible, file.get(), Qt::LeftButton, Qt::ShiftModifier);
+        drop.setDropAction(Qt::MoveAction);
+        QApplication::sendEvent(&frm.Photo, &drop);
+        QCOMPARE(drop.dropAction(), Qt::CopyAction); // the cook's file stays where it is
+        QTRY_VERIFY(frm.Photo.isVisible());
+        QCOMPARE(frm.CadrePhoto.Caption(), QString());
         QCOMPARE(LivreEssai::text(u"SELECT Numero, Photo From Cocktails where Numero = 2"_qs), photo);
 
         clickRow(frm.Liste, 2);

@@ -4,6 +4,7 @@
 #include "platform/desktop/SingleInstance.h"
 #include "platform/settings/Conversion.h"
 #include "shell/Demarrage.h"
+#include "shell/Fenetres.h"
 #include "shell/FinDuProgramme.h"
 
 #include <QApplication>
@@ -59,11 +60,12 @@ class TestDemarrage : public QObject {
     Q_OBJECT
 
 private:
-    void start() { shell::ChargerFrmmain(*m_window, m_instance); }
+    void start() { shell::ChargerFrmmain(*m_windows, m_instance); }
 
     const SingleInstance m_instance{kOwnClaim};
     std::unique_ptr<LivreEssai> m_book;
-    std::unique_ptr<Frmmain> m_window;
+    std::unique_ptr<shell::Fenetres> m_windows;
+    Frmmain *m_window = nullptr;
 
 private Q_SLOTS:
 
@@ -73,10 +75,11 @@ private Q_SLOTS:
             u"INSERT INTO Cocktails (Numero, Recette, Cout, difficulte) VALUES (1, 'Tarte', 0, 0)"_qs,
             u"INSERT INTO Categorie VALUES (1, '10 mn')"_qs,
         });
-        m_window = std::make_unique<Frmmain>();
+        m_windows = std::make_unique<shell::Fenetres>();
+        m_window = &m_windows->Principale;
     }
 
-    void cleanup() { m_window.reset(); }
+    void cleanup() { m_windows.reset(); }
 
     void firstRunShowsTheRecipesInTheMiddle() {
         start();
@@ -133,7 +136,7 @@ private Q_SLOTS:
         const SingleInstance second(kOwnClaim);
         QVERIFY(!m_instance.IsRunningElsewhere() && second.IsRunningElsewhere());
         const Answer ok(QMessageBox::AcceptRole);
-        QVERIFY_THROWS_EXCEPTION(shell::FinDuProgramme, shell::ChargerFrmmain(*m_window, second));
+        QVERIFY_THROWS_EXCEPTION(shell::FinDuProgramme, shell::ChargerFrmmain(*m_windows, second));
         QCOMPARE(ok.title, u"Savorel"_qs);
         QCOMPARE(ok.text.simplified(), u"Savorel est en cours d'utilsation sur votre machine Pour pouvoir "
                                        "l'utiliser de nouveau, veuillez fermer la version ouverte !"_qs);
@@ -176,7 +179,7 @@ private Q_SLOTS:
         const Answer no(QMessageBox::NoRole);
         QCloseEvent close;
         QSpontaneKeyEvent::setSpontaneous(&close);
-        QApplication::instance()->notify(m_window.get(), &close);
+        QApplication::instance()->notify(m_window, &close);
         QCOMPARE(no.text, u"Voulez vous quitter Savorel ?"_qs);
         QVERIFY(m_window->isVisible());
         QCOMPARE(LivreEssai::setting(u"MainTop"_qs), QString());

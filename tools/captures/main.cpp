@@ -5,6 +5,7 @@
 #include "browser/Vues.h"
 #include "platform/desktop/SingleInstance.h"
 #include "shell/Demarrage.h"
+#include "shell/Fenetres.h"
 #include "store/Programme.h"
 
 #include <QApplication>
@@ -102,8 +103,9 @@ void capture(const QTemporaryDir &scratch, const QString &programFolder, const Q
     shell::PreparerApplication();
 
     const platform::desktop::SingleInstance instance(store::TitreProgramme.toString());
-    Frmmain frm;
-    shell::ChargerFrmmain(frm, instance);
+    shell::Fenetres fenetres;
+    shell::ChargerFrmmain(fenetres, instance);
+    Frmmain &frm = fenetres.Principale;
     captureViews(frm, pictures);
     captureRecipes(frm, pictures);
 }

@@ -6,9 +6,16 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
+#include <QScrollBar>
 #include <QWheelEvent>
 
 namespace platform::controls {
+
+namespace {
+
+constexpr int kMeasuredRows = 20; // longer lists keep the width of their field
+
+} // namespace
 
 DropBox::DropBox(QWidget *parent) : QComboBox(parent), m_rows(this) {
     setModel(&m_rows);
@@ -56,6 +63,9 @@ void DropBox::showPopup() {
     // measuring.
     if (auto *rows = qobject_cast<QListView *>(view())) {
         rows->setUniformItemSizes(true);
+        if (count() <= kMeasuredRows) {
+            rows->setMinimumWidth(rows->sizeHintForColumn(0) + rows->verticalScrollBar()->sizeHint().width());
+        }
     }
     QComboBox::showPopup();
 }

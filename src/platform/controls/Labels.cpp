@@ -19,6 +19,12 @@ QString draggedFile(const QMimeData &dragged) {
     return places.size() == 1 ? places.first().toLocalFile() : QString();
 }
 
+/// The file stays where it is, also where the other program proposes to move it.
+void acceptCopy(QDropEvent &event) {
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+}
+
 } // namespace
 
 TextLabel::TextLabel(QWidget *parent) : QLabel(parent) {
@@ -35,6 +41,10 @@ void TextLabel::paintEvent(QPaintEvent * /*event*/) {
     QPainter painter(this);
     painter.setPen(palette().color(foregroundRole()));
     painter.drawText(rect(), static_cast<int>(alignment()) | Qt::TextSingleLine, text().left(width()));
+}
+
+void TextLabel::mouseDoubleClickEvent(QMouseEvent * /*event*/) {
+    Q_EMIT DoubleClicked();
 }
 
 CaptionPanel::CaptionPanel(QWidget *parent) : QWidget(parent) {}
@@ -126,12 +136,12 @@ void CaptionPanel::contextMenuEvent(QContextMenuEvent *event) {
 
 void CaptionPanel::dragEnterEvent(QDragEnterEvent *event) {
     if (!draggedFile(*event->mimeData()).isEmpty()) {
-        event->acceptProposedAction();
+        acceptCopy(*event);
     }
 }
 
 void CaptionPanel::dropEvent(QDropEvent *event) {
-    event->acceptProposedAction();
+    acceptCopy(*event);
     Q_EMIT FileDropped(draggedFile(*event->mimeData()));
 }
 

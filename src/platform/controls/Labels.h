@@ -19,8 +19,12 @@ public:
 
     void SetForeColor(const QColor &colour);
 
+Q_SIGNALS:
+    void DoubleClicked();
+
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
 };
 
 /// A block with a caption in its middle that can be pressed and can fill up as a progress bar.

@@ -84,6 +84,7 @@ void ListBox::SetBackColor(const QColor &colour) {
     QPalette colours = palette();
     colours.setColor(QPalette::Base, colour);
     colours.setColor(QPalette::Highlight, colour.lighter(118));
+    colours.setColor(QPalette::HighlightedText, colours.color(QPalette::Text)); // in the editor of a row
     setPalette(colours);
     colourScrollBar(*this, colour);
     paintFocusFrame(*this, hasFocus());

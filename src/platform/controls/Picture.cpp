@@ -2,6 +2,7 @@
 
 #include <QDataStream>
 #include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QImageReader>
 #include <QPainter>
@@ -43,6 +44,10 @@ QPixmap barePixels(const QString &path) {
 } // namespace
 
 QImage LoadPicture(const QString &path) {
+    if (!QFileInfo(path).isFile()) {
+        // Reading a pipe or a device could wait for ever.
+        throw PictureError("Ce fichier n'est pas une image : " + path.toStdString());
+    }
     QImageReader::setAllocationLimit(kAllocationLimit);
     // The ending of the name is nearly always right, and then one plugin is loaded instead of all.
     QImage picture = readPicture(path, false);
@@ -52,7 +57,8 @@ QImage LoadPicture(const QString &path) {
     if (picture.isNull()) {
         throw PictureError("Ce fichier n'est pas une image : " + path.toStdString());
     }
-    return picture;
+    // A picture of one bit would be shrunk into dots.
+    return picture.depth() == 1 ? picture.convertToFormat(QImage::Format_ARGB32) : picture;
 }
 
 QPixmap resourcePicture(const QString &path) {

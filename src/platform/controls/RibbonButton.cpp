@@ -70,6 +70,13 @@ void RibbonButton::SetPicture(const QPixmap &picture) {
     update();
 }
 
+void RibbonButton::CopyPictures(const RibbonButton &other) {
+    m_pressed = other.m_pressed;
+    m_resting = other.m_resting;
+    m_hover = other.m_hover;
+    SetPicture(other.m_picture);
+}
+
 void RibbonButton::Release() {
     SetValue(false);
     if (!m_resting.isNull()) {
@@ -142,6 +149,9 @@ void RibbonButton::paintGround(QPainter &painter) const {
         paintBlock(painter, rect(), 8, ground.lighter(112), ground, skin.edge);
         break;
     }
+    case Look::Command:
+        paintBlock(painter, rect(), 6, skin.strip, skin.strip.darker(hovered ? 103 : 112), skin.edge);
+        break;
     case Look::Value:
         painter.fillRect(rect(), hovered ? kValueHover : kValueGround);
         painter.fillRect(QRect(0, height() - 1, width(), 1), skin.button);
@@ -179,6 +189,10 @@ void RibbonButton::paintCaption(QPainter &painter) const {
     if (m_look == Look::Sort) {
         area.setTop(pictureArea().toRect().bottom());
         painter.drawText(area, Qt::AlignCenter | Qt::TextWordWrap, text());
+        return;
+    }
+    if (m_look == Look::Command) {
+        painter.drawText(area, Qt::AlignCenter, text());
         return;
     }
     area.adjust(kTextMargin.pixels(), 0, 0, 0);

@@ -13,6 +13,7 @@ enum class Look {
     Tool,    ///< a picture on a ground that lights up under the pointer
     Sort,    ///< a picture over a caption, on a block of its own
     Value,   ///< a flat line of text, cut at the edge, that shows under the pointer that it can be pressed
+    Command, ///< a light block with a caption in its middle
 };
 
 /// A flat skinned button that is a toggle: pressed by the user or by code, its Value becomes true and its
@@ -51,6 +52,9 @@ public:
     void SetRestingPicture(const QPixmap &picture) { m_resting = picture; }
 
     void SetHoverPicture(const QPixmap &picture) { m_hover = picture; }
+
+    /// Takes all four pictures of another button.
+    void CopyPictures(const RibbonButton &other);
 
     /// Sets Value false and shows the resting picture again, also while the pointer is still over the button.
     void Release();

@@ -3,6 +3,7 @@
 #include "Skin.h"
 
 #include <QMouseEvent>
+#include <QScrollBar>
 
 namespace platform::controls {
 
@@ -18,6 +19,10 @@ void ScrollArea::SetScrollableHeight(Twips height) {
         m_height = height;
         fitContent();
     }
+}
+
+void ScrollArea::ScrollToTop() {
+    verticalScrollBar()->setValue(0);
 }
 
 void ScrollArea::SetBackColor(const QColor &colour) {

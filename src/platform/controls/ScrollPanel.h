@@ -21,6 +21,8 @@ public:
 
     Twips ScrollableHeight() const { return m_height; }
 
+    void ScrollToTop();
+
     void SetBackColor(const QColor &colour);
 
 Q_SIGNALS:

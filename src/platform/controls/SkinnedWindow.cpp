@@ -3,8 +3,10 @@
 #include "Fonts.h"
 
 #include <QCloseEvent>
+#include <QEventLoop>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScreen>
 #include <QWindow>
 #include <algorithm>
 
@@ -49,6 +51,35 @@ void SkinnedWindow::Move(Twips left, Twips top) {
         return qRound(std::clamp(place.value(), -kFarthest, kFarthest) / kTwipsPerPixel);
     };
     move(pixels(left), pixels(top));
+}
+
+void SkinnedWindow::CenterOn(const QWidget &other) {
+    const QRect free = other.screen()->availableGeometry();
+    QRect place = geometry();
+    place.moveCenter(other.geometry().center());
+    place.moveLeft(std::clamp(place.left(), free.left(), std::max(free.left(), free.right() + 1 - width())));
+    place.moveTop(std::clamp(place.top(), free.top(), std::max(free.top(), free.bottom() + 1 - height())));
+    move(place.topLeft());
+}
+
+void SkinnedWindow::ShowModal() {
+    setWindowModality(Qt::ApplicationModal);
+    show();
+    raise();
+    activateWindow();
+    if (m_loop == nullptr) {
+        QEventLoop loop;
+        m_loop = &loop;
+        loop.exec();
+        m_loop = nullptr;
+    }
+}
+
+void SkinnedWindow::Unload() {
+    hide();
+    if (m_loop != nullptr) {
+        m_loop->quit();
+    }
 }
 
 void SkinnedWindow::paintEvent(QPaintEvent * /*event*/) {

@@ -7,6 +7,8 @@
 #include <QWidget>
 #include <vector>
 
+class QEventLoop;
+
 namespace platform::controls {
 
 /// A borderless window of fixed size that paints itself in a skin, chosen by a display mode, and is moved by
@@ -33,6 +35,19 @@ public:
     Twips Top() const;
     void Move(Twips left, Twips top);
 
+    /// Puts the window over the middle of another one, inside the available area of its screen.
+    void CenterOn(const QWidget &other);
+
+    /// Shows the window and returns when it is unloaded; meanwhile, as long as it is visible, no other window takes
+    /// anything. For a window that is shown so already, and has been hidden meanwhile, it shows it and returns at once.
+    void ShowModal();
+
+    /// Whether a ShowModal has not returned yet.
+    bool IsModal() const { return m_loop != nullptr; }
+
+    /// Hides the window and lets its ShowModal return.
+    void Unload();
+
     /// Height of the title band, in twips from the top.
     static constexpr Twips kBand{600};
 
@@ -53,6 +68,7 @@ private:
     Extent m_size;
     int m_mode = 0;
     std::vector<Rectangle> m_strips;
+    QEventLoop *m_loop = nullptr; // that of ShowModal
 };
 
 /// Skin of the window that holds the control; the first one for a control outside a skinned window.

@@ -48,6 +48,24 @@ float ToSingle(const QString &text) {
     return number;
 }
 
+bool ToBoolean(const QString &text) {
+    const QString word = text.trimmed().toLower();
+    if (word == u"vrai" || word == u"true") {
+        return true;
+    }
+    if (word == u"faux" || word == u"false") {
+        return false;
+    }
+    return toDouble(text) != 0;
+}
+
+QString ToText(bool truth) {
+    if (QLocale::system().language() == QLocale::French) {
+        return truth ? QStringLiteral("Vrai") : QStringLiteral("Faux");
+    }
+    return truth ? QStringLiteral("True") : QStringLiteral("False");
+}
+
 QString ToText(float number) {
     return QString::number(number, 'g', std::numeric_limits<float>::max_digits10);
 }

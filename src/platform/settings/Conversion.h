@@ -22,6 +22,13 @@ qint32 ToLong(const QString &text);
 /// As ToInteger, for a 32-bit float, not rounded.
 float ToSingle(const QString &text);
 
+/// The truth that a text holds: its word in French or in English, in any case, or a number, where 0 is false. Throws
+/// ConversionError for any other text.
+bool ToBoolean(const QString &text);
+
+/// The word of a truth in the user's language: "Vrai" and "Faux" in French, "True" and "False" in all others.
+QString ToText(bool truth);
+
 /// A float as text with a decimal point, so that ToSingle gives back the same float.
 QString ToText(float number);
 

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "Placed.h"
+
+#include <QCheckBox>
+#include <QRadioButton>
+
+namespace platform::controls {
+
+/// A box that is ticked or not, with a caption; Base is a button of the toolkit that keeps its state.
+template <class Base>
+class CaptionedOption : public Base {
+public:
+    using Base::Base;
+
+    bool Value() const { return this->isChecked(); }
+
+    void SetValue(bool value) { this->setChecked(value); }
+
+    QString Caption() const { return this->text(); }
+
+    void SetCaption(const QString &caption) { this->setText(caption); }
+
+    void SetForeColor(const QColor &colour) {
+        QPalette colours = this->palette();
+        colours.setColor(QPalette::WindowText, colour);
+        this->setPalette(colours);
+    }
+};
+
+using CheckBox = Placed<CaptionedOption<QCheckBox>>;
+using OptionButton = Placed<CaptionedOption<QRadioButton>>;
+
+} // namespace platform::controls

@@ -1,0 +1,48 @@
+#include "ToolWindow.h"
+
+#include "Picture.h"
+
+namespace platform::controls {
+
+namespace {
+
+// Twips.
+constexpr int kTop = 120;
+constexpr int kSide = 360;
+constexpr int kMiniFromRight = 1170;
+constexpr int kQuitFromRight = 600;
+
+ControlRow bandButton(const char *name, Extent window, int fromRight, std::u16string_view toolTip) {
+    return {name, static_cast<int>(window.width.value()) - fromRight, kTop, kSide, kSide, u"", toolTip};
+}
+
+} // namespace
+
+void setBandPictures(RibbonButton &button, const QString &drawing) {
+    const QPixmap resting = resourcePicture(QStringLiteral(":/icones/%1.argb").arg(drawing));
+    button.SetPicture(resting);
+    button.SetRestingPicture(resting);
+    button.SetHoverPicture(resourcePicture(QStringLiteral(":/icones/%1-survol.argb").arg(drawing)));
+}
+
+ToolWindow::ToolWindow(const QString &name, Extent size)
+    : SkinnedWindow(name, size),
+      Mini(this, bandButton("Mini", size, kMiniFromRight, u"Minimiser")),
+      Quit(this, bandButton("Quit", size, kQuitFromRight, u"Fermer")) {
+    setBandPictures(Mini, QStringLiteral("reduire"));
+    setBandPictures(Quit, QStringLiteral("fermer"));
+    connect(&Mini, &Ribbon::toggled, this, [this](bool pressed) {
+        if (pressed) {
+            Mini.Release();
+            Q_EMIT MinimiseRequested();
+        }
+    });
+    connect(&Quit, &Ribbon::toggled, this, [this](bool pressed) {
+        if (pressed) {
+            Quit.Release();
+            Q_EMIT CloseRequested();
+        }
+    });
+}
+
+} // namespace platform::controls

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "RibbonButton.h"
+#include "SkinnedWindow.h"
+
+namespace platform::controls {
+
+/// Gives a button of a window's title band its picture at rest and under the pointer, by the name of the drawing.
+void setBandPictures(RibbonButton &button, const QString &drawing);
+
+/// A skinned window with the two buttons of its title band, Mini and Quit, at its upper right corner. A press of Quit
+/// asks to close, as closing from outside does.
+class ToolWindow : public SkinnedWindow {
+    Q_OBJECT
+
+public:
+    ToolWindow(const QString &name, Extent size);
+
+    Ribbon Mini, Quit;
+
+Q_SIGNALS:
+    void MinimiseRequested();
+};
+
+} // namespace platform::controls

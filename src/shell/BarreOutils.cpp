@@ -1,0 +1,72 @@
+#include "BarreOutils.h"
+
+#include "Fenetres.h"
+#include "Reglages.h"
+#include "Sauvegarde.h"
+
+#include "store/Configuration.h"
+
+#include <array>
+
+namespace shell {
+
+namespace {
+
+using namespace platform::controls;
+
+using Action = void (*)(Fenetres &);
+
+/// What each tool does; a tool without an action is disabled.
+constexpr std::array<Action, 11> kActions{
+    nullptr,
+    nullptr,
+    nullptr,
+    nullptr,
+    nullptr,
+    [](Fenetres &fenetres) { SauvegarderBase(fenetres.Principale); },
+    [](Fenetres &fenetres) { RestaurerBase(fenetres.Principale); },
+    [](Fenetres &fenetres) { Ouvrir(fenetres.Principale, store::PartnerSiteHome); },
+    [](Fenetres &fenetres) { Ouvrir(fenetres.Principale, store::AuteurSite); },
+    [](Fenetres &fenetres) { fenetres.Accueil().ShowModal(); },
+    [](Fenetres &fenetres) { Ouvrir(fenetres.Principale, u"aide/index.htm"); },
+};
+
+void PresserOutil(Fenetres &fenetres, int index) {
+    fenetres.Pop.FenetreOuverte = index;
+    kActions.at(static_cast<std::size_t>(index))(fenetres);
+    fenetres.Principale.Outils(index).SetValue(false);
+}
+
+// Black under the pointer, blue at rest.
+void Survoler(Panel &panneau, const Ribbon &outil) {
+    panneau.setToolTip(outil.toolTip());
+    panneau.SetForeColor(Qt::black);
+}
+
+void BrancherOutil(browser::Frmmain &frm, int index) {
+    Ribbon &outil = frm.Outils(index);
+    Panel &panneau = frm.LBtn(index);
+    const bool existe = kActions.at(static_cast<std::size_t>(index)) != nullptr;
+    outil.setEnabled(existe);
+    panneau.setEnabled(existe);
+    const auto entrer = [&panneau, &outil] { Survoler(panneau, outil); };
+    const auto sortir = [&panneau] { panneau.SetForeColor(Qt::blue); };
+    QObject::connect(&outil, &Ribbon::Entered, &panneau, entrer);
+    QObject::connect(&panneau, &Panel::Entered, &panneau, entrer);
+    QObject::connect(&outil, &Ribbon::Exited, &panneau, sortir);
+    QObject::connect(&panneau, &Panel::Exited, &panneau, sortir);
+    QObject::connect(&panneau, &Panel::Clicked, &outil, [&outil] { outil.SetValue(true); });
+}
+
+} // namespace
+
+void BrancherBarreOutils(Fenetres &fenetres) {
+    browser::Frmmain &frm = fenetres.Principale;
+    for (int index = 0; index < frm.Outils.Count(); ++index) {
+        BrancherOutil(frm, index);
+    }
+    QObject::connect(&frm, &browser::Frmmain::OutilPresse, &frm,
+                     [&fenetres](int index) { PresserOutil(fenetres, index); });
+}
+
+} // namespace shell

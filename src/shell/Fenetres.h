@@ -1,0 +1,31 @@
+#pragma once
+
+#include "Patch.h"
+#include "Splash.h"
+
+#include "browser/Frmmain.h"
+#include "browser/Pop.h"
+
+#include <optional>
+
+namespace shell {
+
+/// The windows of the program. The tool windows are made when they are first opened, take the display mode then, and
+/// stay for the run.
+class Fenetres {
+public:
+    Fenetres();
+
+    browser::Frmmain Principale;
+    browser::Pop Pop;
+
+    Splash &Accueil();
+
+    /// The tool windows made so far.
+    std::vector<platform::controls::ToolWindow *> Outils();
+
+private:
+    std::optional<Splash> m_accueil;
+};
+
+} // namespace shell

@@ -1,0 +1,88 @@
+#include "Patch.h"
+
+#include "Reglages.h"
+
+#include "browser/Frmmain.h"
+#include "platform/controls/Fonts.h"
+
+#include <array>
+
+namespace shell {
+
+namespace {
+
+using namespace platform::controls;
+
+constexpr Extent kTaille{Twips(4800), Twips(3900)};
+
+constexpr std::array kControles{
+    ControlRow{"Label1", 450, 840, 3900, 300, u"Choisissez les couleurs des fenêtres."},
+    ControlRow{"Label2", 450, 2580, 3900, 300, u"Les autres fenêtres suivent au prochain démarrage."},
+    ControlRow{"c(0)", 750, 1260, 3300, 360, u"Mode 1"},
+    ControlRow{"c(1)", 750, 1680, 3300, 360, u"Mode 2"},
+    ControlRow{"c(2)", 750, 2100, 3300, 360, u"Mode 3"},
+    ControlRow{"OK", 1650, 3120, 1500, 420, u"OK"},
+    ControlRow{"Quit", 4200, 120, 360, 360, u"", u"Fermer"},
+};
+
+} // namespace
+
+Patch::Patch(browser::Frmmain &frm)
+    : SkinnedWindow(QStringLiteral("Patch"), kTaille),
+      Label1(this, rowNamed(kControles, "Label1")),
+      Label2(this, rowNamed(kControles, "Label2")),
+      c(this, kControles, "c"),
+      OK(this, rowNamed(kControles, "OK")),
+      Quit(this, rowNamed(kControles, "Quit")) {
+    setWindowTitle(QStringLiteral("Affichage"));
+    setAccessibleName(windowTitle());
+    SetMode(frm.Mode());
+    Peindre(frm);
+    c(ModeAffichage()).SetValue(true);
+    Brancher(frm);
+}
+
+void Patch::Peindre(const browser::Frmmain &frm) {
+    for (Label *label : {&Label1, &Label2}) {
+        label->setFont(interfaceFont(Face::Verdana, 8.25));
+        label->SetForeColor(Qt::white);
+    }
+    c.ForEach([](OptionButton &option) {
+        option.setFont(interfaceFont(Face::Verdana, 9));
+        option.SetForeColor(Qt::white);
+    });
+    OK.SetLook(Look::Command);
+    OK.SetForeColor(Qt::black);
+    Quit.CopyPictures(frm.Btn_Quit);
+}
+
+int Patch::ModeChoisi() const {
+    constexpr int kDernier = 2;
+    for (int mode = 0; mode < kDernier; ++mode) {
+        if (c(mode).Value()) {
+            return mode;
+        }
+    }
+    return kDernier;
+}
+
+void Patch::Brancher(browser::Frmmain &frm) {
+    connect(&OK, &Ribbon::Entered, this, [this] { OK.SetForeColor(Qt::blue); });
+    connect(&OK, &Ribbon::Exited, this, [this] { OK.SetForeColor(Qt::black); });
+    connect(&OK, &Ribbon::toggled, this, [this, &frm](bool presse) {
+        if (presse) {
+            EnregistrerMode(ModeChoisi());
+            OK.SetValue(false);
+            frm.SetMode(ModeAffichage());
+        }
+    });
+    connect(&Quit, &Ribbon::toggled, this, [this](bool presse) {
+        if (presse) {
+            Quit.Release();
+            Unload();
+        }
+    });
+    connect(this, &SkinnedWindow::CloseRequested, this, &Patch::Unload);
+}
+
+} // namespace shell

@@ -1,0 +1,85 @@
+#include "Reduction.h"
+
+#include "BarreOutils.h"
+#include "Fenetres.h"
+
+#include <QGuiApplication>
+
+#include <array>
+
+namespace shell {
+
+namespace {
+
+using platform::controls::SkinnedWindow;
+
+using Ouverture = SkinnedWindow &(*)(Fenetres &);
+
+/// The window that each value of FenetreOuverte brings back. The values are tools of the toolbar, but the table is off by
+/// one from the search on, and always was: a backup brings the search window, the search window itself none.
+struct Retour {
+    int outil;
+    Ouverture ouvrir;
+};
+
+constexpr std::array kRetours{
+    Retour{8, [](Fenetres &fenetres) -> SkinnedWindow & { return fenetres.Accueil(); }},
+};
+
+// Wayland tells no program that its window was minimised or brought back.
+bool AnnonceLeRetour() {
+    return !QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
+}
+
+void RouvrirFenetre(Fenetres &fenetres) {
+    for (const Retour &retour : kRetours) {
+        if (retour.outil == fenetres.Pop.FenetreOuverte) {
+            retour.ouvrir(fenetres).ShowModal();
+        }
+    }
+}
+
+/// A window that was minimised while it was open, and that the table does not bring back, is closed: its opener waits.
+void FermerLesOubliees(Fenetres &fenetres) {
+    for (SkinnedWindow *fenetre : fenetres.Outils()) {
+        if (fenetre->IsModal() && !fenetre->isVisible()) {
+            fenetre->Unload();
+        }
+    }
+}
+
+void Restaurer(Fenetres &fenetres) {
+    try {
+        fenetres.Principale.show();
+        fenetres.Principale.activateWindow();
+        RouvrirFenetre(fenetres);
+        FermerLesOubliees(fenetres);
+    } catch (const std::exception &) {
+        // The main window at least has come back.
+    }
+    fenetres.Pop.hide();
+}
+
+} // namespace
+
+void Reduire(Fenetres &fenetres, SkinnedWindow &fenetre) {
+    if (!AnnonceLeRetour()) {
+        fenetre.showMinimized();
+        return;
+    }
+    fenetres.Pop.CenterOn(fenetre);
+    fenetres.Pop.setWindowState(Qt::WindowMinimized);
+    fenetre.hide();
+    fenetres.Principale.hide();
+    fenetres.Pop.setVisible(true);
+}
+
+void SuivreEtat(Fenetres &fenetres) {
+    if (fenetres.Pop.isMinimized()) {
+        fenetres.Principale.hide();
+    } else if (fenetres.Pop.isVisible()) {
+        Restaurer(fenetres);
+    }
+}
+
+} // namespace shell

@@ -1,0 +1,109 @@
+#include "Sauvegarde.h"
+
+#include "Progression.h"
+
+#include "browser/Frmmain.h"
+#include "browser/Vues.h"
+#include "platform/dialogs/FileDialog.h"
+#include "platform/dialogs/MessageBox.h"
+#include "store/AncienLivre.h"
+#include "store/CopieFichier.h"
+#include "store/Programme.h"
+
+#include <QDir>
+#include <QStandardPaths>
+
+namespace shell {
+
+namespace {
+
+namespace dialogs = platform::dialogs;
+
+const QString kFiltre = QStringLiteral("Tous les fichiers MDB (*.mdb)|*.mdb");
+
+QString DossierPropose() {
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+}
+
+bool EstLeLivre(const QString &chemin) {
+    return QDir::cleanPath(chemin).toLower() == QDir::cleanPath(store::CheminBase()).toLower();
+}
+
+/// Makes a new book of an old one, in the place of the present book, of which a copy is kept.
+void Convertir(const QString &ancien, const QString &copie) {
+    Progression progression(QStringLiteral("Conversion de l'ancien livre ..."));
+    store::ConvertirAncienLivre(
+        ancien, store::CheminNouveauLivre(),
+        [&progression](qint64 faites, qint64 total) { progression.Montrer(faites, total); });
+    store::RemplacerLivre(copie);
+}
+
+void RestaurerAncienLivre(browser::Frmmain &frm, const QString &fichier) {
+    try {
+        Convertir(fichier, store::CheminAvantRestauration());
+    } catch (const std::exception &echec) {
+        dialogs::Message(&frm, store::TitreProgramme.toString(), QString::fromUtf8(echec.what()),
+                         dialogs::Icon::Exclamation);
+    }
+}
+
+void RestaurerCopie(const QString &fichier) {
+    try {
+        store::CopierFichier(fichier, store::CheminNouveauLivre());
+        store::RemplacerLivre(store::CheminAvantRestauration());
+    } catch (const store::CopieError &) {
+        // The book is the former one, as the lists show.
+    }
+}
+
+void RechargerListes(browser::Frmmain &frm) {
+    try {
+        frm.CleCourante.clear();
+        TrierListe(frm, browser::VueCourante());
+    } catch (const std::exception &) {
+        // A file that is no book of ours fails again, and loudly, at the next query.
+    }
+}
+
+} // namespace
+
+void SauvegarderBase(browser::Frmmain &frm) {
+    const QString fichier = dialogs::ShowSave(&frm, QStringLiteral("Sauvegarder la base de donnée"), kFiltre,
+                                              DossierPropose(), QStringLiteral("mdb"));
+    if (fichier.isEmpty()) {
+        return;
+    }
+    if (EstLeLivre(fichier)) {
+        dialogs::Message(&frm, store::TitreProgramme.toString(),
+                         QStringLiteral("Vous ne devriez pas sauvegarder avec ce nom (db.mdb) !!!"),
+                         dialogs::Icon::Information);
+        return;
+    }
+    store::CopierFichier(store::CheminBase(), fichier);
+}
+
+void RestaurerBase(browser::Frmmain &frm) {
+    const QString fichier = dialogs::ShowOpen(&frm, QStringLiteral("Restaurer une ancienne base de donnée"),
+                                              kFiltre, DossierPropose());
+    if (!fichier.isEmpty()) {
+        if (EstLeLivre(fichier)) {
+            // Copied onto itself, the book would stay what it is.
+        } else if (store::EstAncienLivre(fichier)) {
+            RestaurerAncienLivre(frm, fichier);
+        } else {
+            RestaurerCopie(fichier);
+        }
+        RechargerListes(frm);
+    }
+    if (frm.Liste.Count() == 0) {
+        frm.LTDroit.SetCaption({});
+    }
+}
+
+void ReprendreAncienLivre() {
+    if (store::EstAncienLivre(store::CheminBase())) {
+        Convertir(store::CheminBase(), store::DossierProgramme() + QStringLiteral("/db-ancien.mdb"));
+    }
+}
+
+} // namespace shell

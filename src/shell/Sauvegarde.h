@@ -1,0 +1,20 @@
+#pragma once
+
+namespace browser {
+class Frmmain;
+}
+
+namespace shell {
+
+/// Saves a copy of the book where the user says. Throws store::CopieError.
+void SauvegarderBase(browser::Frmmain &frm);
+
+/// Puts a file that the user chooses in the place of the book, converted if it is an old book, and loads the lists
+/// again. A file that cannot be copied is passed over in silence; one that cannot be converted is told.
+void RestaurerBase(browser::Frmmain &frm);
+
+/// Converts the book of the program where it is one of old, and keeps that as db-ancien.mdb. Throws what the conversion
+/// throws; the book is untouched then.
+void ReprendreAncienLivre();
+
+} // namespace shell
