@@ -18,6 +18,9 @@ void measureRecipe(const GeneratedBook &small, const GeneratedBook &large, Repor
 /// A key pressed in a long text, alone and with the text stored.
 void measureKeyStroke(const GeneratedBook &book, Report &report);
 
+/// A quarter turn of a photograph, against the arithmetic that it is defined by.
+void measureTurn(Report &report);
+
 /// From the start of the process to the painted main window, and the memory it has taken by then; offscreen,
 /// and on a virtual X display where there is one.
 void measureStart(const GeneratedBook &book, Report &report);

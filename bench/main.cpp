@@ -39,6 +39,7 @@ bool measureAll(const QString &resultFile) {
     bench::measureIngredients(large, report);
     bench::measureRecipe(small, large, report);
     bench::measureKeyStroke(large, report);
+    bench::measureTurn(report);
     report.writeJson(resultFile);
     return report.allReached();
 }

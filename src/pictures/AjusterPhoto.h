@@ -10,6 +10,15 @@ namespace pictures {
 platform::controls::Rectangle PlaceDansCadre(platform::controls::Extent cadre,
                                              platform::controls::Extent naturelle);
 
+/// Where the picture of the workshop stands: over its frame, beside which it lies on the window, so from the
+/// frame's own position; 50 less than the frame allows in the direction that decides. Throws as above.
+platform::controls::Rectangle PlacePhotoScan(const platform::controls::Rectangle &cadre,
+                                             platform::controls::Extent naturelle);
+
+/// The same for a picture just scanned, which takes the whole height, or the width less 10.
+platform::controls::Rectangle PlaceNumerisation(const platform::controls::Rectangle &cadre,
+                                                platform::controls::Extent naturelle);
+
 /// Fits a picture control into its frame. The picture has been given to imageTemp before, whose unstretched
 /// size is its natural size.
 void AjusterPhoto(platform::controls::Extent cadre, platform::controls::Image &photo,
