@@ -166,6 +166,8 @@ private Q_SLOTS:
                     << size << size.transposed() << angle;
             }
         }
+        QTest::newRow("large enough for every way to round")
+            << QSize(1401, 700) << QSize(700, 1401) << kQuartGauche;
         QTest::newRow("into a larger surface") << QSize(20, 10) << QSize(60, 50) << 0.7F;
         QTest::newRow("into a smaller surface") << QSize(60, 50) << QSize(9, 14) << 0.7F;
         QTest::newRow("from a surface without points") << QSize(0, 0) << QSize(9, 14) << 0.7F;
