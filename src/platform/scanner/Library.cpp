@@ -1,0 +1,32 @@
+#include "Library.h"
+
+#include <sane/sane.h>
+
+namespace platform::scanner {
+
+Library::Library() {
+    const SANE_Status status = sane_init(nullptr, nullptr);
+    if (status != SANE_STATUS_GOOD) {
+        throw ScannerError(status);
+    }
+}
+
+Library::~Library() {
+    sane_exit();
+}
+
+QList<DeviceInfo> Library::devices() const {
+    const SANE_Device **list = nullptr;
+    const SANE_Status status = sane_get_devices(&list, SANE_FALSE);
+    if (status != SANE_STATUS_GOOD) {
+        throw ScannerError(status);
+    }
+    QList<DeviceInfo> devices;
+    for (; list != nullptr && *list != nullptr; ++list) {
+        devices.append({QString::fromUtf8((*list)->name), QString::fromUtf8((*list)->vendor),
+                        QString::fromUtf8((*list)->model)});
+    }
+    return devices;
+}
+
+} // namespace platform::scanner
