@@ -1,0 +1,182 @@
+#include "TestBackend.h"
+
+#include "platform/scandialogs/ImageSource.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QDialog>
+#include <QLabel>
+#include <QListWidget>
+#include <QProgressBar>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+
+using platform::scandialogs::ImageSource;
+
+namespace {
+
+/// Runs steps on the modal dialog of a name as soon as it is shown, before the call that shows it returns. What is
+/// still open at their end is closed, so that a failed check does not leave the call waiting.
+void onDialog(const QString &name, const std::function<void(QDialog &)> &steps) {
+    QTimer::singleShot(0, qApp, [name, steps] {
+        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        QVERIFY(dialog != nullptr);
+        if (dialog->objectName() == name) {
+            steps(*dialog);
+        }
+        dialog->done(dialog->result());
+        QCOMPARE(dialog->objectName(), name);
+    });
+}
+
+void click(const QDialog &dialog, const QString &button) {
+    dialog.findChild<QAbstractButton *>(button)->click();
+}
+
+QString state(const QDialog &dialog) {
+    return dialog.findChild<QLabel *>(u"Etat"_qs)->text();
+}
+
+bool ready(const QDialog &dialog) {
+    return dialog.findChild<QAbstractButton *>(u"Numeriser"_qs)->isEnabled();
+}
+
+void choose(ImageSource &source, int row) {
+    onDialog(u"SelectionSource"_qs, [row](QDialog &dialog) {
+        auto *list = dialog.findChild<QListWidget *>(u"Sources"_qs);
+        QTRY_COMPARE(list->count(), 2);
+        list->setCurrentRow(row);
+        click(dialog, u"Choisir"_qs);
+    });
+    QCOMPARE(source.SelectImageSource(nullptr), 1);
+}
+
+} // namespace
+
+class TestScanDialogs : public QObject {
+    Q_OBJECT
+
+private:
+    TestBackend m_backend;
+
+private Q_SLOTS:
+
+    void init() {
+        m_backend.configure();
+        QApplication::clipboard()->clear();
+    }
+
+    void choiceIsRemembered() {
+        ImageSource source;
+        choose(source, 1);
+        onDialog(u"SelectionSource"_qs, [](QDialog &dialog) {
+            auto *list = dialog.findChild<QListWidget *>(u"Sources"_qs);
+            QTRY_COMPARE(list->count(), 2);
+            QCOMPARE(list->currentRow(), 1);
+            click(dialog, u"Actualiser"_qs);
+            QCOMPARE(list->count(), 0);
+            QTRY_COMPARE(list->count(), 2);
+            QCOMPARE(list->currentRow(), 1);
+            click(dialog, u"Annuler"_qs);
+        });
+        QCOMPARE(source.SelectImageSource(nullptr), 0);
+    }
+
+    void noDevice() {
+        m_backend.withoutDevices();
+        ImageSource source;
+        onDialog(u"SelectionSource"_qs, [](QDialog &dialog) {
+            QTRY_VERIFY(state(dialog).startsWith(u"Aucun scanner trouvé"));
+            QVERIFY(!dialog.findChild<QAbstractButton *>(u"Choisir"_qs)->isEnabled());
+            click(dialog, u"Annuler"_qs);
+        });
+        QCOMPARE(source.SelectImageSource(nullptr), 0);
+        QCOMPARE(source.AcquireToClipboard(nullptr), 0);
+    }
+
+    void pictureOfTheDrawnAreaComesToTheClipboard() {
+        ImageSource source;
+        choose(source, 0);
+        onDialog(u"Numerisation"_qs, [](QDialog &dialog) {
+            QTRY_VERIFY(ready(dialog));
+            auto *mode = dialog.findChild<QComboBox *>(u"Mode"_qs);
+            QCOMPARE(mode->currentText(), u"Niveaux de gris"_qs);
+            mode->setCurrentText(u"Couleur"_qs);
+            auto *resolution = dialog.findChild<QComboBox *>(u"Resolution"_qs);
+            QCOMPARE(resolution->currentText(), u"300 ppp"_qs);
+            resolution->setCurrentText(u"100 ppp"_qs);
+
+            auto *glass = dialog.findChild<QWidget *>(u"Zone"_qs);
+            const QImage empty = glass->grab().toImage();
+            click(dialog, u"Apercu"_qs);
+            QVERIFY(!ready(dialog));
+            QTRY_VERIFY(ready(dialog));
+            QVERIFY(glass->grab().toImage() != empty);
+            // The quarter around the middle.
+            const QPoint middle = glass->rect().center();
+            const int quarter = qMin(glass->width(), glass->height()) / 4;
+            QTest::mousePress(glass, Qt::LeftButton, {}, middle - QPoint(quarter, quarter));
+            QTest::mouseRelease(glass, Qt::LeftButton, {}, middle + QPoint(quarter, quarter));
+            click(dialog, u"Numeriser"_qs);
+            QTRY_VERIFY(!dialog.isVisible());
+        });
+        QCOMPARE(source.AcquireToClipboard(nullptr), 1);
+        const QImage picture = QApplication::clipboard()->image();
+        // 100 of 200 millimetres at 100 dots per inch.
+        QVERIFY(qAbs(picture.width() - 393) <= 8 && qAbs(picture.height() - 393) <= 8);
+    }
+
+    void failureIsToldAndLeavesTheDialog() {
+        m_backend.configure("read-status-code \"SANE_STATUS_COVER_OPEN\"\n");
+        ImageSource source;
+        choose(source, 0);
+        onDialog(u"Numerisation"_qs, [](QDialog &dialog) {
+            QTRY_VERIFY(ready(dialog));
+            click(dialog, u"Numeriser"_qs);
+            QTRY_COMPARE(state(dialog), u"Le couvercle du scanner est ouvert."_qs);
+            QVERIFY(ready(dialog));
+            click(dialog, u"Annuler"_qs);
+            QVERIFY(!dialog.isVisible());
+        });
+        QCOMPARE(source.AcquireToClipboard(nullptr), 0);
+        QVERIFY(QApplication::clipboard()->image().isNull());
+    }
+
+    void scanIsCancelled() {
+        m_backend.configure("read-delay true\nread-delay-duration 100000\n");
+        ImageSource source;
+        choose(source, 0);
+        onDialog(u"Numerisation"_qs, [](QDialog &dialog) {
+            QTRY_VERIFY(ready(dialog));
+            click(dialog, u"Numeriser"_qs);
+            QTRY_VERIFY(dialog.findChild<QProgressBar *>(u"Progression"_qs)->value() > 0);
+            click(dialog, u"Annuler"_qs);
+            QVERIFY(dialog.isVisible());
+            QTRY_COMPARE(state(dialog), u"Numérisation annulée."_qs);
+            click(dialog, u"Annuler"_qs);
+            QVERIFY(!dialog.isVisible());
+        });
+        QCOMPARE(source.AcquireToClipboard(nullptr), 0);
+    }
+
+    void closedWhileTheDriverIsBusy() {
+        m_backend.configure("read-delay true\nread-delay-duration 200000\n");
+        ImageSource source;
+        choose(source, 0);
+        onDialog(u"Numerisation"_qs, [](QDialog &dialog) {
+            QTRY_VERIFY(ready(dialog));
+            click(dialog, u"Numeriser"_qs);
+            dialog.reject();
+            dialog.reject();
+            QVERIFY(!dialog.isVisible());
+        });
+        QCOMPARE(source.AcquireToClipboard(nullptr), 0);
+    }
+};
+
+QTEST_MAIN(TestScanDialogs)
+#include "TestScanDialogs.moc"
