@@ -1,8 +1,8 @@
 # The Debian packages of the project, and their installation; sourced by ./run and ./test.
 
 PAQUETS_CONSTRUCTION=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-base-dev-tools qt6-svg-dev
-    libsqlcipher-dev libssl-dev mdbtools-dev qt6-translations-l10n)
-PAQUETS_EXECUTION=(qt6-wayland fonts-dejavu-core fonts-liberation fonts-comic-neue)
+    libsqlcipher-dev libssl-dev mdbtools-dev libsane-dev libwmf-dev qt6-translations-l10n)
+PAQUETS_EXECUTION=(qt6-wayland libsane1 fonts-dejavu-core fonts-liberation fonts-comic-neue fonts-urw-base35)
 PAQUETS_ECRAN_VIRTUEL=(xvfb xauth x11-utils imagemagick)
 PAQUETS_TESTS=(sqlcipher)
 

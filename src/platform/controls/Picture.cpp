@@ -1,5 +1,7 @@
 #include "Picture.h"
 
+#include "platform/metafile/Metafile.h"
+
 #include <QDataStream>
 #include <QFile>
 #include <QFileInfo>
@@ -14,6 +16,27 @@ namespace {
 constexpr qint64 kLargestPicture = 200'000'000; // pixels
 // 200 megapixels of four bytes, in the unit of QImageReader's own limit (MiB), which is 128 by default.
 constexpr int kAllocationLimit = 1024;
+
+constexpr qint64 kLargestMetafile = 64 << 20; // bytes
+constexpr qint64 kLongestHeader = 40;
+
+/// The content of a metafile; empty when the file is something else, or of an absurd size.
+QByteArray metafileContent(const QString &path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || file.size() > kLargestMetafile ||
+        !metafile::isMetafile(file.peek(kLongestHeader))) {
+        return {};
+    }
+    return file.readAll();
+}
+
+QImage loadMetafile(const QString &path, const QByteArray &content) {
+    try {
+        return metafile::readMetafile(content);
+    } catch (const metafile::MetafileError &) {
+        throw PictureError("Ce fichier n'est pas une image : " + path.toStdString());
+    }
+}
 
 /// The picture in a file; null where it cannot be read.
 QImage readPicture(const QString &path, bool byContent) {
@@ -47,6 +70,9 @@ QImage LoadPicture(const QString &path) {
     if (!QFileInfo(path).isFile()) {
         // Reading a pipe or a device could wait for ever.
         throw PictureError("Ce fichier n'est pas une image : " + path.toStdString());
+    }
+    if (const QByteArray content = metafileContent(path); !content.isEmpty()) {
+        return loadMetafile(path, content);
     }
     QImageReader::setAllocationLimit(kAllocationLimit);
     // The ending of the name is nearly always right, and then one plugin is loaded instead of all.

@@ -15,7 +15,8 @@ public:
 };
 
 /// Reads a picture by the content of the file, not by the ending of its name, turned as its EXIF orientation
-/// says. Throws PictureError for a file that is no picture, or one of more than 200 megapixels.
+/// says; of several, the first. A metafile is drawn in its natural size. Throws PictureError for a file that is
+/// no picture, or one of more than 200 megapixels.
 QImage LoadPicture(const QString &path);
 
 /// A picture of the program's own resources, in the resolution of the screen: ":/icones/vue-0.argb", or its
