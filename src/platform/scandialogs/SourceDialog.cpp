@@ -6,6 +6,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace platform::scandialogs {
 
 using scanner::DeviceInfo;
@@ -20,10 +22,10 @@ QString caption(const DeviceInfo &device) {
 
 } // namespace
 
-SourceDialog::SourceDialog(scanner::Scanner &scanner, const QString &current, QWidget *parent)
+SourceDialog::SourceDialog(scanner::Scanner &scanner, QString current, QWidget *parent)
     : QDialog(parent),
       m_scanner(scanner),
-      m_current(current),
+      m_current(std::move(current)),
       m_list(new QListWidget(this)),
       m_state(new QLabel(this)),
       m_refresh(new QPushButton(QStringLiteral("Actuali&ser"), this)),

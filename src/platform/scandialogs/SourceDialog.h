@@ -17,7 +17,7 @@ class SourceDialog : public QDialog {
 
 public:
     /// @param current SANE's name of the device to be marked, if it is there
-    SourceDialog(scanner::Scanner &scanner, const QString &current, QWidget *parent);
+    SourceDialog(scanner::Scanner &scanner, QString current, QWidget *parent);
 
     /// The device marked when the dialog was accepted.
     scanner::DeviceInfo choice() const;

@@ -15,7 +15,7 @@ namespace platform::scanner {
 namespace {
 
 constexpr std::array kUsualResolutions{75.0, 100.0, 150.0, 200.0, 300.0, 400.0, 600.0, 1200.0};
-constexpr std::size_t kBuffer = 64 * 1024;
+constexpr std::size_t kBuffer = 65'536;
 
 void check(SANE_Status status) {
     if (status != SANE_STATUS_GOOD) {
@@ -226,7 +226,7 @@ QImage Device::scan(const std::function<bool(std::optional<double>)> &progress) 
             assembler.add(buffer.data(), static_cast<std::size_t>(length));
         }
     } while (frame.last_frame == SANE_FALSE);
-    const QImage picture = assembler.picture();
+    QImage picture = assembler.picture();
     if (picture.isNull()) {
         throw ScannerError(SANE_STATUS_IO_ERROR);
     }

@@ -36,7 +36,7 @@ bool describesPicture(const SANE_Parameters &frame) {
 
 /// Pictures are made higher by whole copies, so seldom.
 QImage withHeight(const QImage &picture, int height) {
-    const QImage higher = picture.copy(0, 0, picture.width(), height);
+    QImage higher = picture.copy(0, 0, picture.width(), height);
     if (higher.isNull()) {
         throw ScannerError(SANE_STATUS_NO_MEM);
     }
