@@ -21,7 +21,7 @@ constexpr qsizetype kMetafileHeader = 18;
 
 QByteArray drawn(const QByteArray &content) {
     QProcess renderer;
-    renderer.setProgram(QCoreApplication::applicationDirPath() + QStringLiteral("/savorel-metafichier"));
+    renderer.setProgram(QCoreApplication::applicationDirPath() + QStringLiteral("/lecteur-wmf"));
     renderer.setStandardErrorFile(QProcess::nullDevice());
     renderer.start();
     renderer.write(content);
