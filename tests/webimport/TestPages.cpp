@@ -1,0 +1,342 @@
+// Whole pages of both layouts, the branches in which they differ, and what a page leaves to the next one.
+#include "webimport/ErreurExecution.h"
+#include "webimport/Page.h"
+#include "webimport/PageCommentee.h"
+#include "webimport/PageDebutFin.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTest>
+
+#include <algorithm>
+
+using namespace webimport;
+
+namespace {
+
+QString fichier(const char *nom) {
+    QFile page(QStringLiteral(SAVOREL_PAGES "/") + QLatin1String(nom));
+    return page.open(QIODevice::ReadOnly) ? QString::fromUtf8(page.readAll()).replace(u"\n"_qs, u"\r\n"_qs)
+                                          : QString();
+}
+
+PageCapturee capture(const QString &texte, const QString &adresse = u"http://www.margaux.example/r"_qs) {
+    return {texte, adresse, {u"http://www.margaux.example"_qs, u"margaux.example"_qs}};
+}
+
+ChampsPage commentee(const QString &texte, const QString &adresse = u"http://www.margaux.example/r"_qs) {
+    return ExtrairePageCommentee(capture(texte, adresse), [](const QString & /*ligne*/) {});
+}
+
+ChampsPage debutFin(const QString &texte, const QString &adresse = u"http://www.margaux.example/r"_qs) {
+    MemoireImport memoire;
+    return ExtrairePageDebutFin(capture(texte, adresse), memoire);
+}
+
+/// "quantity|measure|ingredient" for each row.
+QStringList lignes(const ChampsPage &champs) {
+    QStringList textes;
+    for (const LigneIngredient &ligne : champs.Lignes) {
+        textes.append(ligne.Quantite + u'|' + ligne.Mesure + u'|' + ligne.Ingredient);
+    }
+    return textes;
+}
+
+QString type(const ChampsPage &champs) {
+    return champs.Liste[ListeTypeDePlat].texte;
+}
+
+QString methode(const ChampsPage &champs) {
+    return champs.Saisie[SaisieMethode].texte;
+}
+
+QString complements(const ChampsPage &champs) {
+    return champs.Saisie[SaisieComplements].texte;
+}
+
+constexpr qsizetype kGrande = 5 * 1024 * 1024;
+
+} // namespace
+
+class TestPages : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+
+    void initTestCase() { QLocale::setDefault(QLocale(QLocale::French, QLocale::France)); }
+
+    void commentedPage() {
+        const QString texte = fichier("commentee.html");
+        QVERIFY(EstPageDeRecette(texte) && !EstPageDebutFin(texte));
+        QStringList legendes;
+        const ChampsPage champs = ExtrairePageCommentee(
+            capture(texte), [&legendes](const QString &ligne) { legendes.append(ligne); });
+
+        QCOMPARE(champs.TitreRecette.texte, u"Gratin de poireaux"_qs);
+        QCOMPARE(champs.calorie.texte, u"au vieux comté"_qs);
+        QCOMPARE(champs.NomPhoto, u"http://www.margaux.example/photos/gratin-poireaux.jpg"_qs);
+        QCOMPARE(champs.DReal.texte, u"20 min,de repos"_qs);
+        QCOMPARE(champs.Liste[ListeCuisson].texte, u"35 min., au four"_qs);
+        QCOMPARE(champs.Liste[ListePersonnes].texte, u"4 personnes"_qs);
+        QCOMPARE(champs.Liste[ListeCout].texte, u"Moyen"_qs);
+        QCOMPARE(champs.Liste[ListeDifficulte].texte, u"Facile"_qs);
+        QCOMPARE(champs.Liste[ListeVin].texte, u"Un vin jaune\r\nou un savagnin"_qs);
+        QCOMPARE(type(champs), u"Plat"_qs);
+        // The last line of the list holds "UL" and is read for its end tag alone.
+        QCOMPARE(lignes(champs),
+                 (QStringList{u"6 ||poireaux"_qs, u"20 |cl. de |crème"_qs, u"150 |g de |vieux comté râpé"_qs,
+                              u"une pincée de ||muscade"_qs, u"||sel"_qs}));
+        QCOMPARE(methode(champs), u"- Lavez les poireaux,coupez-les en tronçons.\r\n\r\n"
+                                  "- Faites-les <B>fondre</B> au beurre.\r\n\r\n"
+                                  "- Couvrez de crème et de comté, puis enfournez."_qs);
+        QCOMPARE(complements(champs), u"Gardez un peu de vert :\r\nil donne sa couleur au gratin."_qs);
+
+        QCOMPARE(champs.Liste[ListeCout].infobulle, u"Moyen"_qs);
+        QVERIFY(!champs.TitreRecette.infobulle);
+        QCOMPARE(legendes.join(u"\r\n"_qs) + u"\r\n"_qs, texte);
+    }
+
+    void pageByBeginningsAndEnds() {
+        const QString texte = fichier("debut-fin.html");
+        QVERIFY(EstPageDeRecette(texte) && EstPageDebutFin(texte));
+        const ChampsPage champs = debutFin(texte);
+
+        QCOMPARE(champs.TitreRecette.texte, u"Clafoutis aux quetsches"_qs);
+        QCOMPARE(champs.calorie.texte, u"une recette de septembre"_qs);
+        QCOMPARE(champs.NomPhoto, u"http://www.margaux.example/photos/clafoutis.gif"_qs);
+        QCOMPARE(champs.DReal.texte, u"15 min,environ"_qs);
+        QCOMPARE(champs.Liste[ListeCuisson].texte, u"40 min.,four moyen"_qs);
+        QCOMPARE(champs.Liste[ListePersonnes].texte, u"6 personnes"_qs);
+        QCOMPARE(champs.Liste[ListeCout].texte, u"Moyen"_qs);
+        QCOMPARE(champs.Liste[ListeDifficulte].texte, u"Difficile"_qs);
+        QCOMPARE(champs.Liste[ListeVin].texte, u"Cidre doux"_qs);
+        // No group in the address: the whole title cell.
+        QCOMPARE(type(champs), u"Clafoutis aux quetsches<BR> "
+                               "<FONT color=#ffcc00>une recette de septembre</FONT>"_qs);
+        QCOMPARE(lignes(champs), (QStringList{u"500 |gr. de |quetsches"_qs, u"3 ||oeufs"_qs,
+                                              u"2,5 |dl. de |lait(roux de préférence)"_qs, u"||sel"_qs}));
+        QCOMPARE(methode(champs), u"- <B>La pâte :</B>\r\nbattez les oeufs.\r\n\r\n- Versez le lait.\r\n\r\n"
+                                  "- Ajoutez les fruits.\r\n\r\n- Servez tiède."_qs);
+        QCOMPARE(complements(champs), u"Farinez les fruits :\r\nils restent en haut."_qs);
+    }
+
+    void dishTypeOfACommentedPage_data() {
+        QTest::addColumn<QString>("adresse");
+        QTest::addColumn<QString>("section");
+        QTest::addColumn<QString>("attendu");
+        QTest::newRow("section") << u"r.asp?id=1"_qs << u"type-2"_qs << u"Plat"_qs;
+        QTest::newRow("address first") << u"r.asp?id=1&groupid=9"_qs << u"type-2"_qs << u"Poissons"_qs;
+        QTest::newRow("leading zero, third digit") << u"r?&groupid=099"_qs << u"type-2"_qs << u"Poissons"_qs;
+        QTest::newRow("unknown group") << u"r?&groupid=99"_qs << u"type-03"_qs << u"Desserts"_qs;
+        QTest::newRow("unknown number") << u"r"_qs << u"type-07"_qs << u"type-07"_qs;
+        QTest::newRow("group that is no number") << u"r?&groupid=9&p=1"_qs << u"type-2"_qs << QString();
+        QTest::newRow("empty group") << u"r?&groupid="_qs << u"type-2"_qs << QString();
+        QTest::newRow("section that is no number") << u"r"_qs << u"type-2.gif"_qs << QString();
+    }
+
+    void dishTypeOfACommentedPage() {
+        QFETCH(const QString, adresse);
+        QFETCH(const QString, section);
+        QFETCH(const QString, attendu);
+        const QString texte = u"<HTML>\r\n<!-- TYPE DE PLAT -->" + section + u"<!-- FIN TYPE DE PLAT -->";
+        if (attendu.isEmpty()) {
+            QVERIFY_EXCEPTION_THROWN(commentee(texte, adresse), IncompatibiliteDeType);
+        } else {
+            QCOMPARE(type(commentee(texte, adresse)), attendu);
+        }
+    }
+
+    void dishTypeOfTheSecondLayoutIsTheTitle() {
+        const QString texte = u"<HTML>\r\n<!--DEBUT  TITRE DE LA RECETTE -->Daube<BR>"_qs;
+        const ChampsPage champs = debutFin(texte);
+        QCOMPARE(type(champs), u"Daube<BR>"_qs);
+        // A second line that is empty leaves the first one as it is.
+        QCOMPARE(champs.TitreRecette.texte, u"Daube<BR>"_qs);
+        QCOMPARE(type(debutFin(texte, u"r?&groupid=15"_qs)), u"Viandes"_qs);
+        QCOMPARE(commentee(u"<!-- TITRE RECETTE -->Daube<BR>"_qs).TitreRecette.texte, u"Daube"_qs);
+    }
+
+    void secondLineOfTheTitle() {
+        const auto deux = [](QStringView suite) {
+            return debutFin(u"<!--DEBUT  TITRE DE LA RECETTE -->Daube<BR>" + suite).calorie.texte;
+        };
+        const auto une = [](QStringView suite) {
+            return commentee(u"<!-- TITRE RECETTE -->Daube<BR>" + suite).calorie.texte;
+        };
+        QCOMPARE(deux(u"<FONT color=#ffcc00>de fête</FONT>"), u"de fête"_qs);
+        QCOMPARE(une(u"<FONT size=1>de fête</FONT>"), u"size=1>de fête"_qs);
+        QCOMPARE(une(u"de fête"), u"de fête"_qs);
+        QVERIFY_EXCEPTION_THROWN(deux(u"de fête"), ArgumentIncorrect);
+        QVERIFY_EXCEPTION_THROWN(deux(u"a</FONT><FONT color=#ffcc00>de fête</FONT>"), ArgumentIncorrect);
+        QVERIFY_EXCEPTION_THROWN(une(u"a</FONT><FONT color=#663300>de fête</FONT>"), ArgumentIncorrect);
+    }
+
+    void picture_data() {
+        QTest::addColumn<QString>("section");
+        QTest::addColumn<QString>("attendu");
+        QTest::newRow("own host") << u"<IMG src=\"http://margaux.example/a.jpg\">"_qs
+                                  << u"http://margaux.example/a.jpg"_qs;
+        QTest::newRow("relative") << u"<IMG SRC=\"p/a.JPG\" width=2>"_qs
+                                  << u"http://www.margaux.example/p/a.JPG"_qs;
+        QTest::newRow("gif") << u"<IMG src=\"p/a.gif\">"_qs << u"http://www.margaux.example/p/a.gif"_qs;
+        QTest::newRow("other format")
+            << u"<IMG src=\"p/a.png\">"_qs << u"http://www.margaux.example/\"p/a.png\">"_qs;
+        QTest::newRow("no picture") << u"sans image"_qs << QString();
+    }
+
+    void picture() {
+        QFETCH(const QString, section);
+        QFETCH(const QString, attendu);
+        QCOMPARE(commentee(u"<!-- IMAGES RECETTE -->" + section + u"<!-- FIN IMAGES RECETTE -->").NomPhoto,
+                 attendu);
+        QCOMPARE(
+            debutFin(u"<!--DEBUT IMAGE DE LA RECETTE -->" + section + u"<!-- FIN IMAGE DE LA RECETTE -->")
+                .NomPhoto,
+            attendu);
+    }
+
+    void levels() {
+        const auto images = [](int nombre, QStringView devant) {
+            const ChampsPage champs = debutFin(u"<!-- A REPETER SI PLUS CHERE -->" + devant +
+                                               u"images/cout.gif "_qs.repeated(nombre) + u"Budget</FONT>");
+            return champs.Liste[ListeCout].texte;
+        };
+        QCOMPARE(images(4, u"<"), u"Très Cher"_qs);
+        QCOMPARE(images(5, u""), u"Très Cher"_qs); // one at the very first position
+        QVERIFY(images(5, u"<").contains(u"images/cout"));
+
+        const auto difficulte = [](QStringView section) {
+            return commentee(u"<!-- difficulte -->" + section + u"<!-- fin difficulte -->")
+                .Liste[ListeDifficulte]
+                .texte;
+        };
+        QCOMPARE(difficulte(u"difficulte-04"), u"Très Difficile"_qs);
+        QCOMPARE(difficulte(u"difficulte-05"), u"difficulte-05"_qs);
+        QVERIFY_EXCEPTION_THROWN(difficulte(u"difficulte-x1"), IncompatibiliteDeType);
+        QCOMPARE(commentee(u"<!-- cout de la recette -->prix-05</TD>"_qs).Liste[ListeCout].texte,
+                 u"prix-05"_qs);
+    }
+
+    void ingredientLines_data() {
+        QTest::addColumn<bool>("commentee");
+        QTest::addColumn<QString>("texte");
+        QTest::addColumn<QStringList>("attendu");
+        QTest::newRow("closing line collected whole and once more")
+            << true << u"<!-- debut ingredient -->\r\n<LI>2 pommes</LI><!-- fin ingredient -->"_qs
+            << QStringList{u"2 ||pommes</LI><!"_qs, u"||"_qs, u"||fin ingredient"_qs, u"||"_qs, u"||>"_qs,
+                           u"2 ||pommes"_qs};
+        QTest::newRow("blank before a line end stays")
+            << true
+            << u"<!-- debut ingredient -->\r\n <DT>sel \r\n<DT>DL\r\n<DT>poivre</DT></DL><!-- fin ingredient -->"_qs
+            << QStringList{u"||sel "_qs, u"||poivre"_qs};
+        QTest::newRow("never closed")
+            << true << u"<!-- debut ingredient -->\r\n<LI>2 pommes"_qs << QStringList{};
+        QTest::newRow("on the persons' line") << false
+                                              << u"<!-- DEBUT NOMBRE DE PERSONNE -->4<!-- FIN NOMBRE "
+                                                 u"PERSONNE --><!-- DEBUT INGREDIENTS  -->- 2 pommes, "
+                                                 "rouges<BR>sel<!-- FIN INGREDIENTS -->"_qs
+                                              << QStringList{u"2 ||pommes  rouges"_qs, u"||sel"_qs};
+        QTest::newRow("hyphen of the first not doubled")
+            << false
+            << u"<!-- DEBUT INGREDIENTS  --> - sel\r\n- poivre\r\nnoir\r\n<TD><!-- FIN INGREDIENTS -->"_qs
+            << QStringList{u"||sel"_qs, u"||poivre noir"_qs};
+        QTest::newRow("closed twice") << false
+                                      << u"<!-- DEBUT INGREDIENTS  -->sel\r\n<TD><!-- FIN INGREDIENT "
+                                         u"-->\r\n<TD><!-- FIN INGREDIENTS -->\r\n"
+                                         "<!-- DEBUT INGREDIENTS  -->ail\r\n<TD><!-- FIN INGREDIENT -->"_qs
+                                      << QStringList{u"||sel"_qs, u"||ail"_qs};
+    }
+
+    void ingredientLines() {
+        QFETCH(const bool, commentee);
+        QFETCH(const QString, texte);
+        QFETCH(const QStringList, attendu);
+        QCOMPARE(lignes(commentee ? ::commentee(texte) : debutFin(texte)), attendu);
+    }
+
+    void methodWithoutPictures() {
+        const QString etapes = u"perdu <IMG border=0>Hachez.<BR> <IMG border=0>Cuisez.<BR>Au four."_qs;
+        QCOMPARE(methode(commentee(etapes + u"<!--x--><!-- FIN RECETTE -->")),
+                 u"- Hachez.\r\n\r\n- Cuisez.Au four. x-->"_qs);
+
+        const QString ouverture = u"<!-- DEBUT EXPLICATION RECETTE -->\r\n"_qs;
+        const ChampsPage champs = debutFin(ouverture + etapes + u"<!-- FIN EXPLICATION RECETTE -->");
+        QCOMPARE(methode(champs), u"- Hachez.\r\n\r\n- Cuisez.Au four."_qs);
+        QCOMPARE(complements(champs), u"Au four."_qs);
+        // Opened on the same line, such steps are not looked for.
+        QCOMPARE(methode(debutFin(u"<!-- DEBUT EXPLICATION RECETTE -->" + etapes)), QString());
+        // A tip behind its picture overwrites the other.
+        QCOMPARE(complements(debutFin(ouverture + etapes + u"\r\nastuces.gif\r\n<B size=-2>Tip<BR>s</FONT>")),
+                 u"Tip\r\ns"_qs);
+    }
+
+    void tipOnTheNextLineOnly() {
+        const QString texte =
+            u"<IMG src=\"ASTUCES.gif\">astuces.gif<B size=-2>non</FONT>\r\nrien\r\n<B size=-2>oui</FONT>"_qs;
+        QCOMPARE(complements(commentee(texte)), u"oui"_qs);
+        QCOMPARE(complements(debutFin(texte)), QString());
+    }
+
+    void openMethodLeaksToTheNextPage() {
+        MemoireImport memoire;
+        const auto lire = [&memoire](const QString &texte) {
+            return methode(ExtrairePageDebutFin(capture(texte), memoire));
+        };
+        const QString etrangere = u"<IMG src=\"menu.gif\">Accueil\r\n"_qs;
+        QCOMPARE(lire(etrangere), QString());
+        QCOMPARE(lire(u"<!-- debut EXPLICATION recette --><IMG src=\"p.gif\">Pelez."_qs), u"- Pelez."_qs);
+        QVERIFY(memoire.methodeOuverte);
+        QCOMPARE(lire(etrangere + u"<!-- FIN EXPLICATION RECETTE -->"), u"- Accueil"_qs);
+        QVERIFY(!memoire.methodeOuverte);
+        QCOMPARE(lire(etrangere), QString());
+    }
+
+    void hostilePages_data() {
+        QTest::addColumn<QString>("texte");
+        const auto grande = [](const QString &motif) { return motif.repeated(kGrande / motif.size()); };
+        const QString methodes = u"<!-- DEBUT EXPLICATION RECETTE -->\r\n"_qs;
+        QTest::newRow("both layouts again and again")
+            << grande(fichier("commentee.html") + fichier("debut-fin.html"));
+        QTest::newRow("one line") << grande(fichier("commentee.html").remove(u"\r\n"_qs));
+        QTest::newRow("empty lines behind a long field")
+            << QString(u"<!--Cuisson -->" + QString(kGrande / 2, u'x') + QString(kGrande / 2, u'\r'));
+        QTest::newRow("nested tags in a field")
+            << QString(u"<!--Cuisson -->" + u"<FONT "_qs.repeated(kGrande / 40) +
+                       u"<FONT size=-2>size=-2>"_qs.repeated(kGrande / 40) + QString(kGrande / 4, u'\r'));
+        QTest::newRow("pictures without line break") << QString(
+            u"<!-- DEBUT EXPLICATION RECETTE -->" + grande(u".gif\">"_qs) + u"<!-- FIN RECETTE -->");
+        QTest::newRow("pictures without end")
+            << QString(u"<BR>" + grande(u"border=0>"_qs) + u"<BR><!-- FIN RECETTE -->");
+        QTest::newRow("method of many lines") << QString(methodes + grande(u".gif\">Cuisez.<BR>\r\n"_qs));
+        QTest::newRow("ingredients closed on every line") << QString(
+            u"<!-- debut ingredient -->" + QString(kGrande / 2, u'x') +
+            u"\r<LI>sel</LI><!-- fin ingredient --><!-- FIN INGREDIENT -->"_qs.repeated(kGrande / 128));
+        QString octets(kGrande, Qt::Uninitialized);
+        std::generate(octets.begin(), octets.end(),
+                      [n = 1U]() mutable { return QChar(char16_t(((n = n * 48271U) >> 16) & 0xFF)); });
+        QTest::newRow("binary bytes") << octets;
+    }
+
+    void hostilePages() {
+        QFETCH(const QString, texte);
+        QElapsedTimer duree;
+        duree.start();
+        commentee(texte);
+        debutFin(texte);
+        // Some seconds with the sanitizers; a step that looks at the whole page for each line takes hours.
+        QVERIFY2(duree.elapsed() < 60'000, qPrintable(QString::number(duree.elapsed())));
+    }
+
+    void tenThousandIngredients() {
+        const QString liste = u"<LI>100 g de sucre\r\n"_qs.repeated(10'000);
+        QCOMPARE(commentee(u"<!-- debut ingredient -->\r\n" + liste + u"<UL><!-- fin ingredient -->")
+                     .Lignes.size(),
+                 10'000U);
+        QCOMPARE(debutFin(u"<!-- DEBUT INGREDIENTS  -->\r\n" + liste + u"<UL><!-- FIN INGREDIENTS -->")
+                     .Lignes.size(),
+                 10'001U);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestPages)
+#include "TestPages.moc"

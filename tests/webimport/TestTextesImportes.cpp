@@ -1,0 +1,188 @@
+// The pieces that have rules of their own: sections, ingredients, numbers, marks, the temporary file.
+#include "webimport/ErreurExecution.h"
+#include "webimport/FichierTemporaire.h"
+#include "webimport/Ingredients.h"
+#include "webimport/LireSection.h"
+#include "webimport/Marquage.h"
+#include "webimport/Nombres.h"
+#include "webimport/Positions.h"
+#include "webimport/PreparationSauvegarde.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextBlock>
+#include <QTextDocument>
+
+using namespace webimport;
+
+class TestTextesImportes : public QObject {
+    Q_OBJECT
+
+private:
+    /// Runs of the document as text, with "*" before what is bold and the colour where it is not the plain
+    /// one.
+    static QString marque(const QString &texte) {
+        QTextDocument document;
+        document.setPlainText(texte);
+        MarquerTexte(document, CouleursComplements);
+        QString resultat;
+        for (QTextBlock bloc = document.begin(); bloc.isValid(); bloc = bloc.next()) {
+            for (auto i = bloc.begin(); !i.atEnd(); ++i) {
+                const QTextCharFormat format = i.fragment().charFormat();
+                const bool ordinaire = format.foreground().color() == Qt::white;
+                resultat += (format.fontWeight() == QFont::Bold ? u"*"_qs : QString()) +
+                            (ordinaire ? QString() : format.foreground().color().name()) + u'[' +
+                            i.fragment().text() + u']';
+            }
+            resultat += u'/';
+        }
+        return resultat;
+    }
+
+private Q_SLOTS:
+
+    void init() { QLocale::setDefault(QLocale(QLocale::French, QLocale::France)); }
+
+    void sections_data() {
+        QTest::addColumn<QString>("ligne");
+        QTest::addColumn<QString>("debut");
+        QTest::addColumn<QString>("fin");
+        QTest::addColumn<QString>("attendu");
+        QTest::newRow("case of letters with accents")
+            << u"<!-- PRÉP --> 2 h <!-- Fin Prép -->x"_qs << u"<!-- Prép -->"_qs << u"<!-- FIN PRÉP -->"_qs
+            << u"2 h"_qs;
+        QTest::newRow("letter that grows in upper case")
+            << u"Straße <B> miel</b>"_qs << u"<b>"_qs << u"</B>"_qs << u"miel"_qs;
+        QTest::newRow("table cell") << u"<B>miel</td></TR>"_qs << u"<B>"_qs << u"</B>"_qs << u"miel"_qs;
+        QTest::newRow("end of the line") << u"<B>miel \t "_qs << u"<B>"_qs << u"</B>"_qs << u"miel \t"_qs;
+        QTest::newRow("same marker twice") << u"<B>miel<B>sel"_qs << u"<B>"_qs << u"<B>"_qs << u"miel"_qs;
+        QTest::newRow("empty opening marker") << u" miel</B>sel"_qs << QString() << u"</B>"_qs << u"miel"_qs;
+        QTest::newRow("end at the first character is missed")
+            << u"</B>sel"_qs << QString() << u"</B>"_qs << u"</B>sel"_qs;
+        QTest::newRow("no opening marker") << u"miel</B>"_qs << u"<B>"_qs << u"</B>"_qs << QString();
+    }
+
+    void sections() {
+        QFETCH(const QString, ligne);
+        QFETCH(const QString, debut);
+        QFETCH(const QString, fin);
+        QString champ;
+        LireSection(ligne, debut, fin, champ);
+        QTEST(champ, "attendu");
+        champ = u"plein"_qs;
+        LireSection(ligne, debut, fin, champ);
+        QCOMPARE(champ, u"plein"_qs);
+    }
+
+    void linesOfAPage() {
+        LignesDePage page(u"a\r\nb\n\r\rc\r\n"_qs);
+        QStringList lues;
+        for (LigneLue ligne; page.Lire(ligne);) {
+            lues.append(ligne.texte.toString());
+        }
+        QCOMPARE(lues, (QStringList{u"a"_qs, u"b\n"_qs, QString(), u"c"_qs}));
+    }
+
+    void ingredients_data() {
+        QTest::addColumn<QString>("attendu");
+        for (const auto &[piece, attendu] : std::initializer_list<std::pair<const char *, QStringView>>{
+                 {"2 cuil. à soupe d'huile", u"2 |cuil. à soupe d'|huile"},
+                 {"250 g de farine", u"250 |g de |farine"},
+                 {"2,5 l. de lait", u"2,5 |l. de| lait"},
+                 {"une pincée de sel", u"une pincée de ||sel"},
+                 {"quelques feuilles de menthe", u"quelques ||feuilles de menthe"},
+                 {"10gr.de sel", u"|10gr.de| sel"},
+                 {"3 oeufs", u"3 ||oeufs"},
+                 {"sel", u"||sel"},
+                 {"hareng de la Baltique", u"hareng de ||la Baltique"},
+                 {"sel 1 cuil. à café rase", u"sel 1 cuil. à café ||rase"},
+                 {"un peu d' huile", u"un peu d' ||huile"},
+                 {"un peu d'huile", u"un peu ||d'huile"},
+                 {"cuil. à soupe de sucre", u"cuil. à soupe de ||sucre"},
+                 {"2 cuil. à soupe", u"2 |cuil. à soupe|"},
+                 {"2 Cuil. à soupe de sel", u"2 |Cuil. |à soupe de sel"},
+                 {"1/2 citron", u"||1/2 citron"},
+                 {"1/2 verre à moutarde de lait", u"1/2 verre à ||moutarde de lait"},
+             }) {
+            QTest::newRow(piece) << attendu.toString();
+        }
+    }
+
+    void ingredients() {
+        LigneIngredient ligne;
+        DecouperIngredient(QString::fromUtf8(QTest::currentDataTag()), ligne);
+        QTEST(QString(ligne.Quantite + u'|' + ligne.Mesure + u'|' + ligne.Ingredient), "attendu");
+    }
+
+    void hyphensCutRows() {
+        std::vector<LigneIngredient> lignes;
+        RemplirLignes(u"rien", lignes);
+        QVERIFY(lignes.empty());
+        RemplirLignes(u"- crème demi-écrémée\r\n-", lignes);
+        QCOMPARE(lignes,
+                 (std::vector<LigneIngredient>{{{}, {}, u"crème demi"_qs}, {{}, {}, u"écrémée"_qs}, {}}));
+    }
+
+    void numbers() {
+        for (const QStringView oui :
+             {u"2 ", u" \u00A0-3", u"+1,5", u"1\u00A0000", u"1\u202F000,5", u",5", u"5,", u"1e3", u"2E-1"}) {
+            QVERIFY2(EstNumerique(oui), qPrintable(oui.toString()));
+        }
+        for (const QStringView non :
+             {u"", u" ", u"1/2", u"2.5", u"3h", u"-", u",", u"1e", u"e5", u"1 2", u"½", u"٣", u"9&"}) {
+            QVERIFY2(!EstNumerique(non), qPrintable(non.toString()));
+        }
+        QCOMPARE(LireNombre(u" 1\u00A0234,5e1 "), 12345.);
+        QVERIFY(EstNumerique(u"1,234.5", QLocale(QLocale::English)));
+    }
+
+    void marks_data() {
+        QTest::addColumn<QString>("texte");
+        QTest::addColumn<QString>("attendu");
+        QTest::newRow("last character stays plain")
+            << u"a <B>titre</B> b"_qs << u"[a ]*#0000ff[titr][e b]/"_qs;
+        QTest::newRow("several, over lines") << u"<B>un</B>\r\n<B>deux\r\ntrois</B>"_qs
+                                             << u"*#0000ff[u][n]/*#0000ff[deux]/*#0000ff[troi][s]/"_qs;
+        QTest::newRow("not closed") << u"<B>un</B> <B>deux"_qs << u"*#0000ff[u][n deux]/"_qs;
+        QTest::newRow("closing tag alone") << u"un</B>"_qs << u"[un</B>]/"_qs;
+        QTest::newRow("closed before opened") << u"</B>un<B>"_qs << u"[un]/"_qs;
+        QTest::newRow("small letters") << u"<b>un</b>"_qs << u"[<b>un</b>]/"_qs;
+        // The opening tag is bold but for its bracket, and so is no text of its own.
+        QTest::newRow("nothing between") << u"<B></B>"_qs << u"*#0000ff[<B][>]/"_qs;
+    }
+
+    void marks() {
+        QFETCH(const QString, texte);
+        QTEST(marque(texte), "attendu");
+    }
+
+    void manyMarks() {
+        QTextDocument document;
+        document.setPlainText(u"<B>mot</B> "_qs.repeated(10'000));
+        MarquerTexte(document, CouleursMethode);
+        QCOMPARE(document.toPlainText().size(), 40'000);
+    }
+
+    void temporaryFile() {
+        QCOMPARE(EnregistrementDuTexte(u"é€Ω"_qs), QByteArray("\x08\0\x03\0\xE9\x80?", 7));
+        QCOMPARE(EnregistrementDuTexte(QString(0x10203, u'x')).left(4), QByteArray("\x08\0\x03\x02", 4));
+        QCOMPARE(TexteDuFichier("\xE9\x80\x81\r"), u"é€\u0081\r"_qs);
+
+        const QTemporaryDir dossier;
+        const QString chemin = dossier.filePath(u"temp.txt"_qs);
+        EcrireTexte(chemin, u"ancienne page"_qs);
+        EcrireTexte(chemin, u"page"_qs);
+        QCOMPARE(LireTexte(chemin).sliced(4), u"pageenne page"_qs);
+        QVERIFY_EXCEPTION_THROWN(LireTexte(dossier.filePath(u"absent"_qs)), ErreurExecution);
+        QVERIFY_EXCEPTION_THROWN(EcrireTexte(dossier.path(), QString()), ErreurExecution);
+    }
+
+    void textsToStore() {
+        QCOMPARE(TitreAStocker(u"Pommes/poires \\ coings"_qs), u"Pommes poires   coings"_qs);
+        QCOMPARE(VinAStocker(u"Vin d'Alsace"_qs), u"Vin dAlsace"_qs);
+    }
+};
+
+QTEST_MAIN(TestTextesImportes)
+#include "TestTextesImportes.moc"
