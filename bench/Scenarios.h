@@ -21,6 +21,9 @@ void measureKeyStroke(const GeneratedBook &book, Report &report);
 /// A quarter turn of a photograph, against the arithmetic that it is defined by.
 void measureTurn(Report &report);
 
+/// A recipe page of each layout from captured text to fields, a typical one, and large ones against each other.
+void measureImport(Report &report);
+
 /// From the start of the process to the painted main window, and the memory it has taken by then; offscreen,
 /// and on a virtual X display where there is one.
 void measureStart(const GeneratedBook &book, Report &report);

@@ -40,6 +40,7 @@ bool measureAll(const QString &resultFile) {
     bench::measureRecipe(small, large, report);
     bench::measureKeyStroke(large, report);
     bench::measureTurn(report);
+    bench::measureImport(report);
     report.writeJson(resultFile);
     return report.allReached();
 }
