@@ -13,16 +13,16 @@ namespace {
 
 using namespace platform::controls;
 
-constexpr Extent kTaille{Twips(4800), Twips(3900)};
+constexpr Extent kTaille{Twips(6000), Twips(3900)};
 
 constexpr std::array kControles{
-    ControlRow{"Label1", 450, 840, 3900, 300, u"Choisissez les couleurs des fenêtres."},
-    ControlRow{"Label2", 450, 2580, 3900, 300, u"Les autres fenêtres suivent au prochain démarrage."},
+    ControlRow{"Label1", 450, 840, 5100, 300, u"Choisissez les couleurs des fenêtres."},
+    ControlRow{"Label2", 450, 2580, 5100, 300, u"Les autres fenêtres suivent au prochain démarrage."},
     ControlRow{"c(0)", 750, 1260, 3300, 360, u"Mode 1"},
     ControlRow{"c(1)", 750, 1680, 3300, 360, u"Mode 2"},
     ControlRow{"c(2)", 750, 2100, 3300, 360, u"Mode 3"},
-    ControlRow{"OK", 1650, 3120, 1500, 420, u"OK"},
-    ControlRow{"Quit", 4200, 120, 360, 360, u"", u"Fermer"},
+    ControlRow{"OK", 2250, 3120, 1500, 420, u"OK"},
+    ControlRow{"Quit", 5400, 120, 360, 360, u"", u"Fermer"},
 };
 
 } // namespace

@@ -26,6 +26,10 @@ public:
         colours.setColor(QPalette::WindowText, colour);
         this->setPalette(colours);
     }
+
+protected:
+    /// The whole place of the control can be clicked, as its focus ring shows.
+    bool hitButton(const QPoint &point) const override { return this->rect().contains(point); }
 };
 
 using CheckBox = Placed<CaptionedOption<QCheckBox>>;

@@ -1,7 +1,5 @@
 #include "ToolWindow.h"
 
-#include "Picture.h"
-
 namespace platform::controls {
 
 namespace {
@@ -11,6 +9,8 @@ constexpr int kTop = 120;
 constexpr int kSide = 360;
 constexpr int kMiniFromRight = 1170;
 constexpr int kQuitFromRight = 600;
+
+constexpr ControlRow kIcone{"Icone", 150, 60, 480, 480, u"", u"", u"Emblème"};
 
 ControlRow bandButton(const char *name, Extent window, int fromRight, std::u16string_view toolTip) {
     return {name, static_cast<int>(window.width.value()) - fromRight, kTop, kSide, kSide, u"", toolTip};
@@ -27,8 +27,10 @@ void setBandPictures(RibbonButton &button, const QString &drawing) {
 
 ToolWindow::ToolWindow(const QString &name, Extent size)
     : SkinnedWindow(name, size),
+      Icone(this, kIcone),
       Mini(this, bandButton("Mini", size, kMiniFromRight, u"Minimiser")),
       Quit(this, bandButton("Quit", size, kQuitFromRight, u"Fermer")) {
+    Icone.SetPicture(resourcePicture(QStringLiteral(":/icones/savorel.argb")).toImage());
     setBandPictures(Mini, QStringLiteral("reduire"));
     setBandPictures(Quit, QStringLiteral("fermer"));
     connect(&Mini, &Ribbon::toggled, this, [this](bool pressed) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Picture.h"
 #include "RibbonButton.h"
 #include "SkinnedWindow.h"
 
@@ -16,6 +17,7 @@ class ToolWindow : public SkinnedWindow {
 public:
     ToolWindow(const QString &name, Extent size);
 
+    Image Icone;
     Ribbon Mini, Quit;
 
 Q_SIGNALS:
