@@ -28,11 +28,11 @@ struct ClesLignes {
 
 /// A column of the lines: its buttons, the list that all its rows share, its lookup table, and its part of a line.
 struct Colonne {
-    Frmmain::Array<Ribbon> Frmmain::*boutons;
-    DropList Frmmain::*liste;
+    Frmmain::Array<Ribbon> Frmmain::*boutons = nullptr;
+    DropList Frmmain::*liste = nullptr;
     QStringView table, cle;
-    QString TextesLigne::*texte;
-    qint64 LigneIngre::*numero;
+    QString TextesLigne::*texte = nullptr;
+    qint64 LigneIngre::*numero = nullptr;
 };
 
 constexpr std::array kColonnes{

@@ -27,7 +27,7 @@ constexpr int kPositionPhoto = 4;
 /// What a view asks for when a value is added, and how the list is headed and counted then. Some texts date from
 /// other uses of the same tables.
 struct Creation {
-    int vue;
+    int vue = 0;
     QStringView invite, titre, suffixe, entete;
 };
 

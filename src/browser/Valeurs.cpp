@@ -28,12 +28,12 @@ enum class Entree { Confirme, SansEffet };
 
 /// The list of a value button: its table and key, the position in Cocktails that it writes.
 struct ListeDeValeur {
-    DropList Frmmain::*liste;
+    DropList Frmmain::*liste = nullptr;
     QStringView table, cle;
-    int position;
-    Forme forme;
-    Texte texte;
-    Entree entree;
+    int position = 0;
+    Forme forme = Forme::Recherche;
+    Texte texte = Texte::AOuverture;
+    Entree entree = Entree::Confirme;
 };
 
 /// In the order of Data.

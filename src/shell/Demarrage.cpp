@@ -24,6 +24,7 @@
 #include <QScreen>
 #include <algorithm>
 #include <cstdlib>
+#include <memory>
 #include <stdexcept>
 
 namespace shell {
@@ -177,7 +178,7 @@ void PreparerApplication() {
     store::PreparerLivre();
     QApplication::setApplicationName(Titre());
     QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setStyle(new Style(QStringLiteral("Fusion")));
+    QApplication::setStyle(std::make_unique<Style>(QStringLiteral("Fusion")).release());
     QApplication::setWindowIcon(resourcePicture(QStringLiteral(":/icones/savorel.argb")));
     substituteFonts();
     QApplication::setFont(interfaceFont(Face::Verdana, 8.25));

@@ -7,7 +7,7 @@
 namespace store {
 
 QString AdresseComplete(QStringView adresse) {
-    const QString texte = adresse.toString();
+    QString texte = adresse.toString();
     if (texte.contains(QStringLiteral("://"))) {
         return texte;
     }

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <array>
+
 /// What belongs to whoever publishes the program: names and addresses. A build takes others by defining the macros,
 /// as in -DSAVOREL_AUTEUR='u"https://auteur.example"'. An address without a scheme is a file of the program's folder;
 /// the defaults are pages that travel with the program.
@@ -41,7 +43,7 @@ struct Lien {
     QStringView titre, description, adresse;
 };
 
-inline constexpr Lien kLiens[] = {SAVOREL_LIENS};
+inline constexpr auto kLiens = std::to_array<Lien>({SAVOREL_LIENS});
 
 /// A configured address in full: as it stands if it has a scheme, else the URL of a file of the program's folder.
 QString AdresseComplete(QStringView adresse);

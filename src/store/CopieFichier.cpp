@@ -63,7 +63,7 @@ void CopierFichier(const QString &source, const QString &destination) {
 }
 
 QString CheminNouveauLivre() {
-    const QString chemin = CheminBase() + QStringLiteral(".nouveau");
+    QString chemin = CheminBase() + QStringLiteral(".nouveau");
     QFile::remove(chemin);
     return chemin;
 }

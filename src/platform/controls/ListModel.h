@@ -63,13 +63,13 @@ Q_SIGNALS:
 
 private:
     struct Words {
-        qsizetype begin;
-        int size;
+        qsizetype begin = 0;
+        int size = 0;
     };
 
     struct Row {
         Words key, text;
-        int picture;
+        int picture = 0;
         bool highlighted = false;
     };
 
