@@ -2,6 +2,7 @@
 
 #include "Fonts.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QMouseEvent>
@@ -104,7 +105,19 @@ void SkinnedWindow::paintEvent(QPaintEvent * /*event*/) {
 }
 
 void SkinnedWindow::mousePressEvent(QMouseEvent *event) {
-    if (event->button() == Qt::LeftButton && windowHandle() != nullptr) {
+    m_grip.reset();
+    if (event->button() == Qt::LeftButton) {
+        m_grip = event->globalPosition().toPoint();
+    }
+}
+
+// Not at the press: the window system would take the second press of a double click for itself.
+void SkinnedWindow::mouseMoveEvent(QMouseEvent *event) {
+    const auto distance = [this, event] {
+        return (event->globalPosition().toPoint() - *m_grip).manhattanLength();
+    };
+    if (m_grip && distance() >= QApplication::startDragDistance() && windowHandle() != nullptr) {
+        m_grip.reset();
         windowHandle()->startSystemMove();
     }
 }

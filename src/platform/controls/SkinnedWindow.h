@@ -5,6 +5,7 @@
 
 #include <QString>
 #include <QWidget>
+#include <optional>
 #include <vector>
 
 class QEventLoop;
@@ -61,6 +62,7 @@ protected:
 
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
@@ -69,6 +71,7 @@ private:
     int m_mode = 0;
     std::vector<Rectangle> m_strips;
     QEventLoop *m_loop = nullptr; // that of ShowModal
+    std::optional<QPoint> m_grip; // where on the screen the skin was pressed
 };
 
 /// Skin of the window that holds the control; the first one for a control outside a skinned window.
