@@ -60,7 +60,8 @@ bool ToBoolean(const QString &text) {
 }
 
 QString ToText(bool truth) {
-    if (QLocale::system().language() == QLocale::French) {
+    // The language of the words, which may be another than that of the numbers.
+    if (QLocale(QLocale::system().uiLanguages().value(0)).language() == QLocale::French) {
         return truth ? QStringLiteral("Vrai") : QStringLiteral("Faux");
     }
     return truth ? QStringLiteral("True") : QStringLiteral("False");
