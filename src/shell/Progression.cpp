@@ -18,25 +18,28 @@ using namespace platform::controls;
 constexpr Extent kTaille{Twips(6000), Twips(2100)};
 
 constexpr std::array kControles{
+    ControlRow{"Icone", 150, 60, 480, 480, u"", u"", u"Emblème"},
     ControlRow{"Label1", 450, 840, 5100, 300},
     ControlRow{"Pb", 450, 1290, 5100, 330, u"", u"", u"Avancement"},
 };
 
 } // namespace
 
-Progression::Progression(const QString &travail)
+Progression::Progression(const QWidget &sur, const QString &travail)
     : SkinnedWindow(QStringLiteral("Progression"), kTaille),
+      Icone(this, rowNamed(kControles, "Icone")),
       Label1(this, rowNamed(kControles, "Label1")),
       Pb(this, rowNamed(kControles, "Pb")) {
     setWindowTitle(store::TitreProgramme.toString());
     setAccessibleName(windowTitle());
     SetMode(ModeAffichage());
+    Icone.SetPicture(resourcePicture(QStringLiteral(":/icones/savorel.argb")).toImage());
     Label1.SetCaption(travail);
     Label1.setFont(interfaceFont(Face::Verdana, 9));
     Label1.SetForeColor(Qt::white);
     Pb.SetBackColor(Qt::white);
     setWindowModality(Qt::ApplicationModal);
-    CenterOn(*this);
+    CenterOn(sur);
     show();
     Montrer(0, 0);
 }

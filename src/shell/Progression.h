@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/controls/Labels.h"
+#include "platform/controls/Picture.h"
 #include "platform/controls/SkinnedWindow.h"
 
 namespace shell {
@@ -10,8 +11,10 @@ class Progression : public platform::controls::SkinnedWindow {
     Q_OBJECT
 
 public:
-    explicit Progression(const QString &travail);
+    /// Stands in the middle of the other window, which may be hidden.
+    Progression(const QWidget &sur, const QString &travail);
 
+    platform::controls::Image Icone;
     platform::controls::Label Label1;
     platform::controls::Panel Pb;
 

@@ -25,13 +25,15 @@ QString DossierPropose() {
     return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
 }
 
-bool EstLeLivre(const QString &chemin) {
-    return QDir::cleanPath(chemin).toLower() == QDir::cleanPath(store::CheminBase()).toLower();
+/// Whether a copy would carry the name of the book, in any case, or be the book under another one.
+bool NomDuLivre(const QString &chemin) {
+    return QDir::cleanPath(chemin).toLower() == QDir::cleanPath(store::CheminBase()).toLower() ||
+           store::EstLeLivre(chemin);
 }
 
 /// Makes a new book of an old one, in the place of the present book, of which a copy is kept.
-void Convertir(const QString &ancien, const QString &copie) {
-    Progression progression(QStringLiteral("Conversion de l'ancien livre ..."));
+void Convertir(const browser::Frmmain &frm, const QString &ancien, const QString &copie) {
+    Progression progression(frm, QStringLiteral("Conversion de l'ancien livre ..."));
     store::ConvertirAncienLivre(
         ancien, store::CheminNouveauLivre(),
         [&progression](qint64 faites, qint64 total) { progression.Montrer(faites, total); });
@@ -40,7 +42,7 @@ void Convertir(const QString &ancien, const QString &copie) {
 
 void RestaurerAncienLivre(browser::Frmmain &frm, const QString &fichier) {
     try {
-        Convertir(fichier, store::CheminAvantRestauration());
+        Convertir(frm, fichier, store::CheminAvantRestauration());
     } catch (const std::exception &echec) {
         dialogs::Message(&frm, store::TitreProgramme.toString(), QString::fromUtf8(echec.what()),
                          dialogs::Icon::Exclamation);
@@ -62,6 +64,7 @@ void RechargerListes(browser::Frmmain &frm) {
         TrierListe(frm, browser::VueCourante());
     } catch (const std::exception &) {
         // A file that is no book of ours fails again, and loudly, at the next query.
+        frm.Chargement.hide();
     }
 }
 
@@ -73,20 +76,20 @@ void SauvegarderBase(browser::Frmmain &frm) {
     if (fichier.isEmpty()) {
         return;
     }
-    if (EstLeLivre(fichier)) {
+    if (NomDuLivre(fichier)) {
         dialogs::Message(&frm, store::TitreProgramme.toString(),
                          QStringLiteral("Vous ne devriez pas sauvegarder avec ce nom (db.mdb) !!!"),
                          dialogs::Icon::Information);
         return;
     }
-    store::CopierFichier(store::CheminBase(), fichier);
+    store::CopierLivre(fichier);
 }
 
 void RestaurerBase(browser::Frmmain &frm) {
     const QString fichier = dialogs::ShowOpen(&frm, QStringLiteral("Restaurer une ancienne base de donnée"),
                                               kFiltre, DossierPropose());
     if (!fichier.isEmpty()) {
-        if (EstLeLivre(fichier)) {
+        if (store::EstLeLivre(fichier)) {
             // Copied onto itself, the book would stay what it is.
         } else if (store::EstAncienLivre(fichier)) {
             RestaurerAncienLivre(frm, fichier);
@@ -100,9 +103,9 @@ void RestaurerBase(browser::Frmmain &frm) {
     }
 }
 
-void ReprendreAncienLivre() {
+void ReprendreAncienLivre(const browser::Frmmain &frm) {
     if (store::EstAncienLivre(store::CheminBase())) {
-        Convertir(store::CheminBase(), store::DossierProgramme() + QStringLiteral("/db-ancien.mdb"));
+        Convertir(frm, store::CheminBase(), store::DossierProgramme() + QStringLiteral("/db-ancien.mdb"));
     }
 }
 

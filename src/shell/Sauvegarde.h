@@ -15,6 +15,6 @@ void RestaurerBase(browser::Frmmain &frm);
 
 /// Converts the book of the program where it is one of old, and keeps that as db-ancien.mdb. Throws what the conversion
 /// throws; the book is untouched then.
-void ReprendreAncienLivre();
+void ReprendreAncienLivre(const browser::Frmmain &frm);
 
 } // namespace shell

@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QScopeGuard>
 
 #include <filesystem>
 
@@ -16,6 +17,21 @@ namespace store {
 namespace {
 
 constexpr qint64 kMorceau = 1 << 20; // bytes copied at a time
+
+const QString kNouveau = QStringLiteral(".nouveau");
+const QString kJournal = QStringLiteral("-journal");
+
+/// The file itself where db.mdb is a link to it, so that the link stays and the journal is found.
+QString FichierDuLivre() {
+    const QString fichier = QFileInfo(CheminBase()).canonicalFilePath();
+    return fichier.isEmpty() ? CheminBase() : fichier;
+}
+
+/// Looks at the files without opening them: closing the book would drop the locks on it.
+bool MemeFichier(const QString &un, const QString &autre) {
+    std::error_code absent;
+    return std::filesystem::equivalent(un.toStdU16String(), autre.toStdU16String(), absent);
+}
 
 [[noreturn]] void Echouer(const QString &chemin, const QString &raison) {
     throw CopieError(chemin + QStringLiteral(" : ") + raison);
@@ -45,7 +61,7 @@ void AcheverChangement() {
 } // namespace
 
 void CopierFichier(const QString &source, const QString &destination) {
-    if (QFileInfo(source) == QFileInfo(destination)) {
+    if (MemeFichier(source, destination)) {
         Echouer(source, QStringLiteral("ce fichier ne peut pas être copié sur lui-même"));
     }
     QFile lu(source);
@@ -62,9 +78,19 @@ void CopierFichier(const QString &source, const QString &destination) {
     }
 }
 
+bool EstLeLivre(const QString &chemin) {
+    return MemeFichier(chemin, CheminBase());
+}
+
+void CopierLivre(const QString &destination) {
+    AcheverChangement();
+    CopierFichier(CheminBase(), destination);
+}
+
 QString CheminNouveauLivre() {
-    QString chemin = CheminBase() + QStringLiteral(".nouveau");
+    QString chemin = FichierDuLivre() + kNouveau;
     QFile::remove(chemin);
+    QFile::remove(chemin + kJournal);
     return chemin;
 }
 
@@ -73,14 +99,17 @@ QString CheminAvantRestauration() {
 }
 
 void RemplacerLivre(const QString &copie) {
-    const QString livre = CheminBase();
-    AcheverChangement();
-    if (QFile::exists(livre)) {
-        CopierFichier(livre, copie);
+    const QString livre = FichierDuLivre();
+    const QString nouveau = livre + kNouveau;
+    const auto menage = qScopeGuard([&nouveau] { QFile::remove(nouveau); });
+    if (const QFileInfo present(livre); present.exists()) {
+        if (!present.isWritable()) {
+            Echouer(livre, QStringLiteral("le fichier est protégé en écriture"));
+        }
+        CopierLivre(copie);
     }
     // A journal that is left belongs to the former book and would be played back into the new one.
-    QFile::remove(livre + QStringLiteral("-journal"));
-    const QString nouveau = livre + QStringLiteral(".nouveau");
+    QFile::remove(livre + kJournal);
     std::error_code echec;
     std::filesystem::rename(nouveau.toStdU16String(), livre.toStdU16String(), echec);
     if (echec) {

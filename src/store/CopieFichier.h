@@ -16,6 +16,12 @@ public:
 /// failure it is what it was. To be called for a book only while it is closed. Throws CopieError.
 void CopierFichier(const QString &source, const QString &destination);
 
+/// Whether a path leads to the book itself, under whatever name.
+bool EstLeLivre(const QString &chemin);
+
+/// Copies the book, after a change that was killed half-way is undone. Throws CopieError.
+void CopierLivre(const QString &destination);
+
 /// Name beside the book under which a new one is made ready; a leftover of an earlier run is removed.
 QString CheminNouveauLivre();
 
@@ -23,7 +29,7 @@ QString CheminNouveauLivre();
 QString CheminAvantRestauration();
 
 /// Puts the complete book at CheminNouveauLivre in the place of the present one, of which a copy is kept first at the
-/// path given. At every moment there is one whole book or the other. Throws CopieError.
+/// path given. At every moment there is one whole book or the other. Throws CopieError; the new book is gone then.
 void RemplacerLivre(const QString &copie);
 
 } // namespace store
