@@ -76,9 +76,24 @@ bool EstVisible(const QRect &fenetre) {
                        [&prise](const QScreen *ecran) { return ecran->availableGeometry().contains(prise); });
 }
 
+struct Place {
+    Twips gauche, haut;
+};
+
+Place PlaceCentree(const browser::Frmmain &frm) {
+    return {IntegerHalf(Ecran().width - Twips(frm.width() * kTwipsPerPixel)),
+            IntegerHalf(Ecran().height - Twips(frm.height() * kTwipsPerPixel))};
+}
+
+/// Centred, but beside a bar at the edge of the screen.
+void Centrer(browser::Frmmain &frm) {
+    const auto [gauche, haut] = PlaceCentree(frm);
+    frm.Move(gauche, haut);
+    frm.CenterOn(frm);
+}
+
 void Placer(browser::Frmmain &frm) {
-    const Twips hautCentre = IntegerHalf(Ecran().height - Twips(frm.height() * kTwipsPerPixel));
-    const Twips gaucheCentre = IntegerHalf(Ecran().width - Twips(frm.width() * kTwipsPerPixel));
+    const auto [gaucheCentre, hautCentre] = PlaceCentree(frm);
     const Twips haut(
         settings::ToSingle(Lire(kReglages, QStringLiteral("MainTop"), settings::ToText(hautCentre.value()))));
     const Twips gauche(settings::ToSingle(
@@ -86,7 +101,7 @@ void Placer(browser::Frmmain &frm) {
     frm.Move(gauche, haut);
     // The screen that the place was stored for may be gone.
     if (!EstVisible(frm.geometry())) {
-        frm.Move(gaucheCentre, hautCentre);
+        Centrer(frm);
     }
 }
 
@@ -190,6 +205,8 @@ void ChargerFrmmain(Fenetres &fenetres, const platform::desktop::SingleInstance 
     frm.setWindowTitle(Titre());
     frm.setAccessibleName(Titre());
     Brancher(fenetres);
+    // The opening screen stands over the window that is to come.
+    Centrer(frm);
     AccueillirSiVoulu(fenetres);
     frm.SetMode(ModeAffichage());
     for (auto *groupe : {&frm.Outils, &frm.Bouton}) {
@@ -209,7 +226,7 @@ void ChargerFrmmain(Fenetres &fenetres, const platform::desktop::SingleInstance 
     frm.Scroll(0).SetBackColor(QColor(kListGround));
     frm.Liste.SetBackColor(QColor(kListGround));
     frm.LFilms.SetBackColor(QColor(kListGround));
-    ReprendreAncienLivre();
+    ReprendreAncienLivre(frm);
     ChargerPremiereListe(frm);
     frm.show();
     frm.Liste.setFocus();

@@ -16,6 +16,7 @@ using namespace platform::controls;
 constexpr Extent kTaille{Twips(6000), Twips(3900)};
 
 constexpr std::array kControles{
+    ControlRow{"Icone", 150, 60, 480, 480, u"", u"", u"Emblème"},
     ControlRow{"Label1", 450, 840, 5100, 300, u"Choisissez les couleurs des fenêtres."},
     ControlRow{"Label2", 450, 2580, 5100, 300, u"Les autres fenêtres suivent au prochain démarrage."},
     ControlRow{"c(0)", 750, 1260, 3300, 360, u"Mode 1"},
@@ -29,6 +30,7 @@ constexpr std::array kControles{
 
 Patch::Patch(browser::Frmmain &frm)
     : SkinnedWindow(QStringLiteral("Patch"), kTaille),
+      Icone(this, rowNamed(kControles, "Icone")),
       Label1(this, rowNamed(kControles, "Label1")),
       Label2(this, rowNamed(kControles, "Label2")),
       c(this, kControles, "c"),
@@ -43,6 +45,7 @@ Patch::Patch(browser::Frmmain &frm)
 }
 
 void Patch::Peindre(const browser::Frmmain &frm) {
+    Icone.SetPicture(resourcePicture(QStringLiteral(":/icones/savorel.argb")).toImage());
     for (Label *label : {&Label1, &Label2}) {
         label->setFont(interfaceFont(Face::Verdana, 8.25));
         label->SetForeColor(Qt::white);

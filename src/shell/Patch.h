@@ -3,6 +3,7 @@
 #include "platform/controls/ControlArray.h"
 #include "platform/controls/Labels.h"
 #include "platform/controls/Options.h"
+#include "platform/controls/Picture.h"
 #include "platform/controls/RibbonButton.h"
 #include "platform/controls/SkinnedWindow.h"
 
@@ -20,6 +21,7 @@ public:
     /// Throws std::out_of_range when the stored mode is none of those offered.
     explicit Patch(browser::Frmmain &frm);
 
+    platform::controls::Image Icone;
     platform::controls::Label Label1, Label2;
     platform::controls::ControlArray<platform::controls::OptionButton> c;
     platform::controls::Ribbon OK, Quit;

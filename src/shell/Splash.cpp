@@ -46,6 +46,8 @@ Splash::Splash()
     Peindre();
     SphashAuto.SetValue(platform::settings::ToBoolean(Lire(kReglages, kSplashAuto, QStringLiteral("True"))));
     Brancher();
+    // Enter goes on to the book; the first button of the window would minimise it.
+    Quit.setFocus();
 }
 
 void Splash::Peindre() {
