@@ -16,6 +16,7 @@ namespace {
 using namespace platform::controls;
 
 constexpr Extent kTaille{Twips(4500), Twips(1500)};
+constexpr ControlRow kInvitation{"Invitation", 300, 870, 3900, 360, u"Cliquez ici pour revenir au livre."};
 
 void Nommer(QObject &objet, const char *nom) {
     objet.setObjectName(QLatin1String(nom));
@@ -25,6 +26,7 @@ void Nommer(QObject &objet, const char *nom) {
 
 Pop::Pop(Frmmain &frm)
     : SkinnedWindow(QStringLiteral("Pop"), kTaille),
+      Invitation(this, kInvitation),
       Menu1(this),
       Menu2(this),
       Ajouter(QStringLiteral("&Ajouter")),
@@ -34,6 +36,8 @@ Pop::Pop(Frmmain &frm)
       SuppPhoto(QStringLiteral("&Supprimer la photo")) {
     setWindowTitle(store::TitreProgramme.toString());
     setAccessibleName(windowTitle());
+    Invitation.SetForeColor(Qt::white);
+    Invitation.setAlignment(Qt::AlignCenter);
     Composer();
     BrancherMenus(frm);
     BrancherFenetre(frm);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/controls/Labels.h"
 #include "platform/controls/SkinnedWindow.h"
 
 #include <QAction>
@@ -23,6 +24,7 @@ public:
     /// Tool of the window that is to be shown again when the program comes back.
     int FenetreOuverte = 0;
 
+    platform::controls::Label Invitation;
     QMenu Menu1, Menu2;
     QAction Ajouter, Modifier, Supprimer;
     QAction ModifPhoto, SuppPhoto;

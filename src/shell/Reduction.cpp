@@ -49,15 +49,16 @@ void FermerLesOubliees(Fenetres &fenetres) {
 }
 
 void Restaurer(Fenetres &fenetres) {
+    fenetres.Principale.show();
+    fenetres.Principale.activateWindow();
+    // It has done its part before a window comes back, which may stay open for long.
+    fenetres.Pop.hide();
     try {
-        fenetres.Principale.show();
-        fenetres.Principale.activateWindow();
         RouvrirFenetre(fenetres);
-        FermerLesOubliees(fenetres);
     } catch (const std::exception &) {
         // The main window at least has come back.
     }
-    fenetres.Pop.hide();
+    FermerLesOubliees(fenetres);
 }
 
 } // namespace
