@@ -1,5 +1,6 @@
 #include "AccesBase.h"
 
+#include "FiltreTexte.h"
 #include "Livre.h"
 #include "Textes.h"
 
@@ -82,18 +83,16 @@ QStringList LireListeSimple(const QString &table, const QString &ordre, int posi
 }
 
 std::vector<Resultat> LireResultats(const QString &requete, bool enTete, const QString &filtre) {
-    const QString cherche = filtre.toUpper();
-    const auto garde = [&](const QString &texte) {
-        const QString majuscules = texte.toUpper();
-        return enTete ? majuscules.startsWith(cherche) : !cherche.isEmpty() && majuscules.contains(cherche);
-    };
-
+    FiltreTexte gardes(enTete, filtre);
     Database base = OuvrirLivre();
     Recordset fiches = base.OpenRecordset(requete);
     std::vector<Resultat> resultats;
     for (qsizetype compteur = 0; compteur < fiches.RecordCount(); ++compteur, fiches.MoveNext()) {
+        if (!gardes.Garde(fiches.Fields(1).Utf8())) {
+            continue;
+        }
         const QString texte = fiches.Fields(1).Text();
-        if (!texte.contains(u"</") && garde(texte)) {
+        if (!texte.contains(u"</")) {
             resultats.push_back({CleDeListe(fiches.Fields(0).Number()), texte});
         }
     }
@@ -125,7 +124,8 @@ void RemplacerLigneIngre(qint64 recette, const LigneIngre &ancienne, const Ligne
     Database base = OuvrirLivre();
     // The new line comes first: killed between the two, the program leaves one line too many, never one too few.
     const qsizetype quiPart = ancienne == nouvelle ? 1 : 0;
-    if (Recordset lignes = base.OpenRecordset(ligneIngre(recette, nouvelle)); lignes.RecordCount() <= quiPart) {
+    if (Recordset lignes = base.OpenRecordset(ligneIngre(recette, nouvelle));
+        lignes.RecordCount() <= quiPart) {
         lignes.AddNew();
         lignes.Fields(u"Numero") = recette;
         lignes.Fields(u"NQuantite") = nouvelle.quantite;

@@ -193,6 +193,17 @@ QString Cursor::text(int column) {
     return m_rows.text(m_row, column);
 }
 
+QByteArrayView Cursor::utf8(int column) {
+    if (isCached(column)) {
+        requireRow();
+        if (m_rows.isText(m_row, column)) {
+            return m_rows.utf8(m_row, column);
+        }
+    }
+    m_utf8 = text(column).toUtf8();
+    return m_utf8;
+}
+
 bool Cursor::isNull(int column) {
     if (!isCached(column)) {
         return value(column).isNull();

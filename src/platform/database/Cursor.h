@@ -26,6 +26,8 @@ public:
     int column(QStringView name) const;
     QVariant value(int column);
     QString text(int column);
+    /// Valid until the next call or change of the cursor.
+    QByteArrayView utf8(int column);
     bool isNull(int column);
     void setValue(int column, const QVariant &value);
 
@@ -70,6 +72,7 @@ private:
     bool m_deleted = false;
     Change m_change = Change::None;
     std::map<int, QVariant> m_changes;
+    QByteArray m_utf8; // what utf8 gave, where it had to be made
     qint64 m_lastModified = 0;
 };
 

@@ -13,6 +13,10 @@ QString Field::Text() const {
     return m_cursor.text(m_position);
 }
 
+QByteArrayView Field::Utf8() const {
+    return m_cursor.utf8(m_position);
+}
+
 qint64 Field::Number() const {
     return Value().toLongLong();
 }

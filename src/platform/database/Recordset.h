@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArrayView>
 #include <QString>
 #include <QStringView>
 #include <QVariant>
@@ -25,6 +26,9 @@ public:
     bool IsNull() const;
     /// The value as text; empty for Null.
     QString Text() const;
+    /// The value as text in UTF-8; for the first two columns of a table without a copy. Valid until the recordset moves
+    /// or changes, or the next call.
+    QByteArrayView Utf8() const;
     /// The value as a number; 0 for Null and for a text that is no number.
     qint64 Number() const;
     /// A QString, qlonglong, double or QByteArray as stored; an invalid QVariant is Null.

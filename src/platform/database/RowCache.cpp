@@ -108,6 +108,15 @@ bool RowCache::isNull(qsizetype row, int column) const {
     return cell(row, column).type == SQLITE_NULL;
 }
 
+bool RowCache::isText(qsizetype row, int column) const {
+    return cell(row, column).type == SQLITE_TEXT;
+}
+
+QByteArrayView RowCache::utf8(qsizetype row, int column) const {
+    const Cell &stored = cell(row, column);
+    return {m_texts.constData() + stored.offset, stored.size};
+}
+
 qsizetype RowCache::find(qint64 rowid) const {
     const auto row =
         std::find_if(m_rows.begin(), m_rows.end(), [rowid](const Row &r) { return r.rowid == rowid; });

@@ -32,6 +32,9 @@ public:
     /// The value as text; empty for Null.
     QString text(qsizetype row, int column) const;
     bool isNull(qsizetype row, int column) const;
+    bool isText(qsizetype row, int column) const;
+    /// The bytes of a text, until the cache changes.
+    QByteArrayView utf8(qsizetype row, int column) const;
     /// The place of a row number, or -1.
     qsizetype find(qint64 rowid) const;
 
