@@ -2,13 +2,15 @@
 
 #include <QFont>
 
+#include <algorithm>
+
 namespace platform::controls {
 
 void ListModel::beginLoading() {
     beginResetModel();
     m_rows.clear();
     m_words.clear();
-    m_rowOfKey.clear();
+    m_keys.clear();
 }
 
 void ListModel::endLoading() {
@@ -16,10 +18,17 @@ void ListModel::endLoading() {
 }
 
 void ListModel::append(const QString &key, const QString &text, int picture) {
-    if (find(key) >= 0) {
+    requireNew(key);
+    appendDistinct(key, text, picture);
+}
+
+void ListModel::requireNew(const QString &key) {
+    for (auto row = static_cast<int>(m_keys.size()); row < rowCount(); ++row) {
+        m_keys.insert(this->key(row));
+    }
+    if (m_keys.contains(key)) {
         throw DuplicateKeyError("La clé « " + key.toStdString() + " » n'est pas unique dans la liste.");
     }
-    appendDistinct(key, text, picture);
 }
 
 void ListModel::appendDistinct(const QString &key, const QString &text, int picture) {
@@ -35,7 +44,7 @@ ListModel::Words ListModel::keep(QStringView words) {
 void ListModel::remove(int row) {
     beginRemoveRows({}, row, row);
     m_rows.remove(row);
-    m_rowOfKey.clear();
+    m_keys.clear();
     endRemoveRows();
 }
 
@@ -49,11 +58,13 @@ void ListModel::setHighlight(int row, bool highlighted) {
     Q_EMIT dataChanged(index(row), index(row), {Qt::FontRole, Qt::ForegroundRole});
 }
 
-int ListModel::find(const QString &key) const {
-    for (auto row = static_cast<int>(m_rowOfKey.size()); row < rowCount(); ++row) {
-        m_rowOfKey.insert(this->key(row), row);
-    }
-    return m_rowOfKey.value(key, -1);
+int ListModel::find(QStringView key) const {
+    // A glance at each key costs less than an index, which would be looked into once or twice for each load.
+    const QStringView all(m_words);
+    const auto row = std::find_if(m_rows.cbegin(), m_rows.cend(), [all, key](const Row &candidate) {
+        return all.sliced(candidate.key.begin, candidate.key.size) == key;
+    });
+    return row == m_rows.cend() ? -1 : static_cast<int>(row - m_rows.cbegin());
 }
 
 int ListModel::rowCount(const QModelIndex &parent) const {

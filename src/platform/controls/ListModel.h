@@ -2,9 +2,9 @@
 
 #include <QAbstractListModel>
 #include <QColor>
-#include <QHash>
 #include <QIcon>
 #include <QList>
+#include <QSet>
 #include <stdexcept>
 #include <vector>
 
@@ -43,7 +43,7 @@ public:
     int picture(int row) const { return m_rows.at(row).picture; }
 
     /// Row of a key, -1 if absent.
-    int find(const QString &key) const;
+    int find(QStringView key) const;
 
     void setPictures(std::vector<QIcon> pictures) { m_pictures = std::move(pictures); }
 
@@ -77,11 +77,13 @@ private:
 
     QString words(Words place) const { return m_words.mid(place.begin, place.size); }
 
+    void requireNew(const QString &key);
+
     // These grow in place, which a std::vector would not.
     QList<Row> m_rows;
     QString m_words;
-    // The keys of the first rows; a look-up adds the rows that have come since.
-    mutable QHash<QString, int> m_rowOfKey;
+    // The keys of the first rows, for the test of new ones; it adds the rows that have come since.
+    QSet<QString> m_keys;
     std::vector<QIcon> m_pictures; // number 1 is the first
     QColor m_highlight;
     QString m_heading;

@@ -83,6 +83,7 @@ void ListBox::SetImageList(const std::vector<QPixmap> &pictures) {
 void ListBox::SetBackColor(const QColor &colour) {
     QPalette colours = palette();
     colours.setColor(QPalette::Base, colour);
+    colours.setColor(QPalette::Disabled, QPalette::Text, colour.darker(135));
     colours.setColor(QPalette::Highlight, colour.lighter(118));
     colours.setColor(QPalette::HighlightedText, colours.color(QPalette::Text)); // in the editor of a row
     setPalette(colours);
@@ -120,6 +121,11 @@ void ListBox::keyPressEvent(QKeyEvent *event) {
         Select(currentIndex().isValid() ? currentIndex().row() + 1 : 1);
         return;
     }
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && SelectedIndex() != 0 && !event->isAutoRepeat()) {
+        Q_EMIT DblClick();
+        return;
+    }
     QListView::keyPressEvent(event);
 }
 
@@ -150,6 +156,13 @@ void ListBox::mouseReleaseEvent(QMouseEvent *event) {
         Q_EMIT RightClicked(event->globalPosition().toPoint());
     } else if (event->button() == Qt::LeftButton && (onRow || reached)) {
         Q_EMIT ItemClicked();
+    }
+}
+
+void ListBox::mouseDoubleClickEvent(QMouseEvent *event) {
+    QListView::mouseDoubleClickEvent(event);
+    if (event->button() == Qt::LeftButton) {
+        Q_EMIT DblClick();
     }
 }
 

@@ -83,6 +83,8 @@ public:
 Q_SIGNALS:
     /// The user clicked a row.
     void ItemClicked();
+    /// The user clicked twice into the list, on no row perhaps, or pressed Enter on the selected row.
+    void DblClick();
     /// The user chose a row by the keyboard; raised when the key is let go.
     void ArrowReleased();
     /// The user ended a label edit; the row still holds its former text and takes the new one afterwards.
@@ -96,6 +98,7 @@ protected:
     void keyReleaseEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;

@@ -24,12 +24,18 @@ public:
     void SetForeColor(const QColor &colour) {
         QPalette colours = this->palette();
         colours.setColor(QPalette::WindowText, colour);
+        QColor faded = colour;
+        faded.setAlphaF(kDisabledAlpha);
+        colours.setColor(QPalette::Disabled, QPalette::WindowText, faded);
         this->setPalette(colours);
     }
 
 protected:
     /// The whole place of the control can be clicked, as its focus ring shows.
     bool hitButton(const QPoint &point) const override { return this->rect().contains(point); }
+
+private:
+    static constexpr float kDisabledAlpha = 0.45F;
 };
 
 using CheckBox = Placed<CaptionedOption<QCheckBox>>;
