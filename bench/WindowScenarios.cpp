@@ -1,13 +1,11 @@
 #include "BareBook.h"
 #include "Measure.h"
+#include "OpenWindow.h"
 #include "Scenarios.h"
 
 #include "browser/Fiche.h"
 #include "browser/Frmmain.h"
 #include "browser/Vues.h"
-#include "platform/desktop/SingleInstance.h"
-#include "shell/Demarrage.h"
-#include "shell/Fenetres.h"
 #include "store/Programme.h"
 #include "store/Textes.h"
 
@@ -28,24 +26,6 @@ constexpr double kListGoal = 2;
 constexpr double kRecipeGoal = 10; // ms
 // Two medians of the same work differ by about this much on a busy machine.
 constexpr double kNoGrowth = 1.25;
-
-/// The main window of a book, as the program starts it.
-class OpenWindow {
-public:
-    explicit OpenWindow(const GeneratedBook &book)
-        : m_instance((store::DefinirDossierProgramme(book.folder), QStringLiteral("bench"))) {
-        shell::ChargerFrmmain(m_windows, m_instance);
-        paint();
-    }
-
-    browser::Frmmain &window() { return m_windows.Principale; }
-
-    static void paint() { QCoreApplication::processEvents(); }
-
-private:
-    platform::desktop::SingleInstance m_instance;
-    shell::Fenetres m_windows;
-};
 
 /// The rows of a list as a plain program would hold them: the numbers beside a model of the texts.
 struct BareList {

@@ -14,6 +14,13 @@ namespace {
 
 using namespace platform::controls;
 
+/// Shows a tool window in the place of the main one until it is closed.
+void OuvrirOutil(Fenetres &fenetres, ToolWindow &fenetre) {
+    fenetres.Principale.hide();
+    fenetre.ShowModal();
+    fenetres.Principale.show();
+}
+
 using Action = void (*)(Fenetres &);
 
 /// What each tool does; a tool without an action is disabled.
@@ -22,7 +29,7 @@ constexpr std::array<Action, 11> kActions{
     nullptr,
     nullptr,
     nullptr,
-    nullptr,
+    [](Fenetres &fenetres) { OuvrirOutil(fenetres, fenetres.Recherche()); },
     [](Fenetres &fenetres) { SauvegarderBase(fenetres.Principale); },
     [](Fenetres &fenetres) { RestaurerBase(fenetres.Principale); },
     [](Fenetres &fenetres) { Ouvrir(fenetres.Principale, store::PartnerSiteHome); },

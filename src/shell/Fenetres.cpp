@@ -9,11 +9,11 @@ namespace {
 
 using platform::controls::ToolWindow;
 
-/// The tool window of an optional, made and prepared if it is not there yet.
-template <class Fenetre>
-Fenetre &Preparee(std::optional<Fenetre> &fenetre, Fenetres &fenetres) {
+/// The tool window of an optional, made of the arguments and prepared if it is not there yet.
+template <class Fenetre, class... Arguments>
+Fenetre &Preparee(std::optional<Fenetre> &fenetre, Fenetres &fenetres, Arguments &...arguments) {
     if (!fenetre) {
-        fenetre.emplace();
+        fenetre.emplace(arguments...);
         fenetre->SetMode(ModeAffichage());
         fenetre->setWindowIcon(fenetres.Principale.windowIcon());
         fenetre->CenterOn(fenetres.Principale);
@@ -31,11 +31,19 @@ Splash &Fenetres::Accueil() {
     return Preparee(m_accueil, *this);
 }
 
+search::FrmFind &Fenetres::Recherche() {
+    return Preparee(m_recherche, *this, Principale);
+}
+
 std::vector<ToolWindow *> Fenetres::Outils() {
     std::vector<ToolWindow *> faites;
-    if (m_accueil) {
-        faites.push_back(&*m_accueil);
-    }
+    const auto ajouter = [&faites](auto &fenetre) {
+        if (fenetre) {
+            faites.push_back(&*fenetre);
+        }
+    };
+    ajouter(m_accueil);
+    ajouter(m_recherche);
     return faites;
 }
 

@@ -5,6 +5,7 @@
 
 #include "browser/Frmmain.h"
 #include "browser/Pop.h"
+#include "search/FrmFind.h"
 
 #include <optional>
 
@@ -20,12 +21,14 @@ public:
     browser::Pop Pop;
 
     Splash &Accueil();
+    search::FrmFind &Recherche();
 
     /// The tool windows made so far.
     std::vector<platform::controls::ToolWindow *> Outils();
 
 private:
     std::optional<Splash> m_accueil;
+    std::optional<search::FrmFind> m_recherche;
 };
 
 } // namespace shell

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "platform/controls/ControlArray.h"
+#include "platform/controls/Labels.h"
+#include "platform/controls/ListView.h"
+#include "platform/controls/Options.h"
+#include "platform/controls/TextBox.h"
+#include "platform/controls/ToolWindow.h"
+
+namespace browser {
+class Frmmain;
+}
+
+namespace search {
+
+/// The search on several criteria. It holds the controls; what it does is in Recherche.h. The rows found stay until
+/// the next search, also while the window is closed.
+class FrmFind : public platform::controls::ToolWindow {
+    Q_OBJECT
+
+public:
+    /// @param frm the main window, in which the rows found are brought up; it must outlive this one
+    explicit FrmFind(browser::Frmmain &frm);
+
+    using Label = platform::controls::Label;
+    using List = platform::controls::List;
+    using Ribbon = platform::controls::Ribbon;
+    using TextBox = platform::controls::TextBox;
+    using CheckBox = platform::controls::CheckBox;
+    using OptionButton = platform::controls::OptionButton;
+    template <class Control>
+    using Array = platform::controls::ControlArray<Control>;
+
+    Array<Label> Libelle;
+    Array<OptionButton> Opt_Liste;
+    Array<OptionButton> Choix;
+    TextBox Saisie;
+    /// Cost and difficulty: whether to restrict the recipes by it, and to which class; a row's place is its code.
+    Array<CheckBox> Chk;
+    Array<List> LChk;
+    Ribbon Creer;
+    List Liste;
+    /// How many rows were found, and what to do with them or what was done last.
+    Label LNombre, LSuite;
+
+    /// The table searched.
+    QString TableRecherche;
+    /// Picture number of the rows found.
+    int IconeRecherche = 0;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
+private:
+    void Grouper(Array<OptionButton> &options);
+    void Peindre();
+    void PreparerListes(const browser::Frmmain &frm);
+    void Brancher(browser::Frmmain &frm);
+};
+
+} // namespace search
