@@ -15,6 +15,9 @@ void measureIngredients(const GeneratedBook &book, Report &report);
 /// A recipe displayed and painted, in a small and in a large book.
 void measureRecipe(const GeneratedBook &small, const GeneratedBook &large, Report &report);
 
+/// The rows of the search read, listed and painted, and one brought up in the main window.
+void measureSearch(const GeneratedBook &book, Report &report);
+
 /// A key pressed in a long text, alone and with the text stored.
 void measureKeyStroke(const GeneratedBook &book, Report &report);
 
