@@ -1,6 +1,7 @@
 #include "Device.h"
 
 #include "FrameAssembler.h"
+#include "Sane.h"
 
 #include <QScopeGuard>
 
@@ -51,17 +52,17 @@ double largest(const SANE_Option_Descriptor &option) {
 } // namespace
 
 Device::Device(const QString &name) {
-    check(sane_open(name.toUtf8().constData(), &m_handle));
+    check(sane().open(name.toUtf8().constData(), &m_handle));
 }
 
 Device::~Device() {
-    sane_close(m_handle);
+    sane().close(m_handle);
 }
 
 std::optional<Device::Option> Device::find(const char *name) const {
     // Option 0 holds their number; setting one option may change the others.
     for (SANE_Int index = 1;; ++index) {
-        const SANE_Option_Descriptor *option = sane_get_option_descriptor(m_handle, index);
+        const SANE_Option_Descriptor *option = sane().get_option_descriptor(m_handle, index);
         if (option == nullptr) {
             return std::nullopt;
         }
@@ -90,7 +91,7 @@ QString Device::text(const char *name) const {
         return {};
     }
     std::vector<char> value(static_cast<std::size_t>(option->descriptor->size) + 1);
-    check(sane_control_option(m_handle, option->index, SANE_ACTION_GET_VALUE, value.data(), nullptr));
+    check(sane().control_option(m_handle, option->index, SANE_ACTION_GET_VALUE, value.data(), nullptr));
     return QString::fromUtf8(value.data());
 }
 
@@ -115,7 +116,7 @@ QList<double> Device::resolutions() const {
 
 double Device::number(const Option &option) const {
     SANE_Word word = 0;
-    check(sane_control_option(m_handle, option.index, SANE_ACTION_GET_VALUE, &word, nullptr));
+    check(sane().control_option(m_handle, option.index, SANE_ACTION_GET_VALUE, &word, nullptr));
     return fromWord(*option.descriptor, word);
 }
 
@@ -149,7 +150,7 @@ ScanOptions Device::options() const {
 }
 
 void Device::control(const Option &option, void *value) {
-    check(sane_control_option(m_handle, option.index, SANE_ACTION_SET_VALUE, value, nullptr));
+    check(sane().control_option(m_handle, option.index, SANE_ACTION_SET_VALUE, value, nullptr));
 }
 
 void Device::set(const char *name, const QString &value) {
@@ -204,13 +205,13 @@ void Device::apply(const ScanSettings &settings) {
 
 QImage Device::scan(const std::function<bool(std::optional<double>)> &progress) {
     // Ends a scan that is complete as well as one that is not.
-    const auto end = qScopeGuard([this] { sane_cancel(m_handle); });
+    const auto end = qScopeGuard([this] { sane().cancel(m_handle); });
     FrameAssembler assembler;
     std::vector<SANE_Byte> buffer(kBuffer);
     SANE_Parameters frame{};
     do {
-        check(sane_start(m_handle));
-        check(sane_get_parameters(m_handle, &frame));
+        check(sane().start(m_handle));
+        check(sane().get_parameters(m_handle, &frame));
         assembler.begin(frame);
         while (true) {
             if (!progress(assembler.progress())) {
@@ -218,7 +219,7 @@ QImage Device::scan(const std::function<bool(std::optional<double>)> &progress) 
             }
             SANE_Int length = 0;
             const SANE_Status status =
-                sane_read(m_handle, buffer.data(), static_cast<SANE_Int>(buffer.size()), &length);
+                sane().read(m_handle, buffer.data(), static_cast<SANE_Int>(buffer.size()), &length);
             if (status == SANE_STATUS_EOF) {
                 break;
             }

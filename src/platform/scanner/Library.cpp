@@ -1,23 +1,23 @@
 #include "Library.h"
 
-#include <sane/sane.h>
+#include "Sane.h"
 
 namespace platform::scanner {
 
 Library::Library() {
-    const SANE_Status status = sane_init(nullptr, nullptr);
+    const SANE_Status status = sane().init(nullptr, nullptr);
     if (status != SANE_STATUS_GOOD) {
         throw ScannerError(status);
     }
 }
 
 Library::~Library() {
-    sane_exit();
+    sane().exit();
 }
 
 QList<DeviceInfo> Library::devices() const {
     const SANE_Device **list = nullptr;
-    const SANE_Status status = sane_get_devices(&list, SANE_FALSE);
+    const SANE_Status status = sane().get_devices(&list, SANE_FALSE);
     if (status != SANE_STATUS_GOOD) {
         throw ScannerError(status);
     }

@@ -1,14 +1,18 @@
 #include "ScannerTypes.h"
 
-#include <sane/sane.h>
+#include "Sane.h"
 
 namespace platform::scanner {
 
 ScannerError::ScannerError(int status)
-    : std::runtime_error(sane_strstatus(static_cast<SANE_Status>(status))), m_status(status) {}
+    : ScannerError(status, sane().strstatus(static_cast<SANE_Status>(status))) {}
+
+ScannerError::ScannerError(int status, const char *text) : std::runtime_error(text), m_status(status) {}
 
 QString ScannerError::sentence() const {
     switch (m_status) {
+    case kNotInstalled:
+        return QStringLiteral("Les pilotes de scanner (SANE) ne sont pas installés.");
     case SANE_STATUS_DEVICE_BUSY:
         return QStringLiteral("Le scanner est occupé par un autre programme.");
     case SANE_STATUS_JAMMED:

@@ -9,13 +9,17 @@
 
 namespace platform::scanner {
 
+/// The status of an error for want of SANE; SANE's own are not negative.
+inline constexpr int kNotInstalled = -1;
+
 /// What a scanner or its driver refused. what() is the English text of SANE for it.
 class ScannerError : public std::runtime_error {
 public:
     /// @param status a SANE_Status
     explicit ScannerError(int status);
+    ScannerError(int status, const char *text);
 
-    /// A SANE_Status.
+    /// A SANE_Status, or kNotInstalled.
     int status() const { return m_status; }
 
     /// A sentence for the user, in French.
