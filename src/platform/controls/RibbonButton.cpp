@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QTextDocument>
 #include <QToolTip>
+#include <algorithm>
 
 namespace platform::controls {
 
@@ -15,6 +16,8 @@ namespace {
 constexpr Twips kTextMargin{75};
 constexpr Twips kSortPicture{480};
 constexpr Twips kSortTop{60};
+constexpr Twips kTileMargin{60};
+constexpr Twips kTilePicture{1080}; // at most
 const QColor kValueGround(214, 225, 242);
 const QColor kValueHover(251, 243, 226);
 
@@ -150,6 +153,7 @@ void RibbonButton::paintGround(QPainter &painter) const {
         break;
     }
     case Look::Command:
+    case Look::Tile:
         paintBlock(painter, rect(), 6, skin.strip, skin.strip.darker(hovered ? 103 : 112), skin.edge);
         break;
     case Look::Value:
@@ -164,8 +168,42 @@ QRectF RibbonButton::pictureArea() const {
         const double side = kSortPicture.pixels();
         return {(width() - side) / 2.0, static_cast<double>(kSortTop.pixels()), side, side};
     }
+    if (m_look == Look::Tile) {
+        return tilePictureArea();
+    }
     const double side = m_look == Look::Tool ? 0.86 * qMin(width(), height()) : qMin(width(), height());
     return {(width() - side) / 2.0, (height() - side) / 2.0, side, side};
+}
+
+bool RibbonButton::isWide() const {
+    return width() > 2 * height();
+}
+
+/// Above the caption, picture and caption stand together in the middle of the tile.
+QRectF RibbonButton::tilePictureArea() const {
+    const double margin = kTileMargin.pixels();
+    if (isWide()) {
+        const double side = height() - 2 * margin;
+        return {2 * margin, margin, side, side};
+    }
+    const QRect room = rect().adjusted(kTileMargin.pixels(), 0, -kTileMargin.pixels(), 0);
+    const int lines = fontMetrics().boundingRect(room, Qt::AlignCenter | Qt::TextWordWrap, text()).height();
+    const double side = std::min(
+        {static_cast<double>(kTilePicture.pixels()), width() - 2 * margin, height() - lines - 3 * margin});
+    return {(width() - side) / 2.0, (height() - side - margin - lines) / 2.0, side, side};
+}
+
+void RibbonButton::paintTileCaption(QPainter &painter) const {
+    const double margin = kTileMargin.pixels();
+    const QRectF picture = tilePictureArea();
+    QRectF area = QRectF(rect()).adjusted(margin, 0, -margin, 0);
+    if (isWide()) {
+        area.setLeft(picture.right());
+        painter.drawText(area, Qt::AlignCenter, text());
+    } else {
+        area.setTop(picture.bottom() + margin);
+        painter.drawText(area, Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, text());
+    }
 }
 
 void RibbonButton::paintPicture(QPainter &painter) const {
@@ -193,6 +231,12 @@ void RibbonButton::paintCaption(QPainter &painter) const {
     }
     if (m_look == Look::Command) {
         painter.drawText(area, Qt::AlignCenter, text());
+        return;
+    }
+    if (m_look == Look::Tile) {
+        painter.setOpacity(isEnabled() ? 1.0 : 0.45);
+        paintTileCaption(painter);
+        painter.setOpacity(1.0);
         return;
     }
     area.adjust(kTextMargin.pixels(), 0, 0, 0);

@@ -14,6 +14,7 @@ enum class Look {
     Sort,    ///< a picture over a caption, on a block of its own
     Value,   ///< a flat line of text, cut at the edge, that shows under the pointer that it can be pressed
     Command, ///< a light block with a caption in its middle
+    Tile, ///< a light block with a picture above a caption, beside it where the block is much wider than high
 };
 
 /// A flat skinned button that is a toggle: pressed by the user or by code, its Value becomes true and its
@@ -76,6 +77,9 @@ private:
     void paintPicture(QPainter &painter) const;
     void paintCaption(QPainter &painter) const;
     QRectF pictureArea() const;
+    bool isWide() const;
+    QRectF tilePictureArea() const;
+    void paintTileCaption(QPainter &painter) const;
 
     Look m_look = Look::Picture;
     QString m_title; // what the button's value is of
