@@ -14,6 +14,8 @@ namespace {
 
 using namespace platform::controls;
 
+using Action = void (*)(Fenetres &);
+
 /// Shows a tool window in the place of the main one until it is closed.
 void OuvrirOutil(Fenetres &fenetres, ToolWindow &fenetre) {
     fenetres.Principale.hide();
@@ -21,14 +23,18 @@ void OuvrirOutil(Fenetres &fenetres, ToolWindow &fenetre) {
     fenetres.Principale.show();
 }
 
-using Action = void (*)(Fenetres &);
+// Its picture is gone with the window.
+void OuvrirAtelier(Fenetres &fenetres) {
+    OuvrirOutil(fenetres, fenetres.Atelier());
+    fenetres.OublierAtelier();
+}
 
 /// What each tool does; a tool without an action is disabled.
 constexpr std::array<Action, 11> kActions{
     nullptr,
     nullptr,
     nullptr,
-    nullptr,
+    OuvrirAtelier,
     [](Fenetres &fenetres) { OuvrirOutil(fenetres, fenetres.Recherche()); },
     [](Fenetres &fenetres) { SauvegarderBase(fenetres.Principale); },
     [](Fenetres &fenetres) { RestaurerBase(fenetres.Principale); },

@@ -35,6 +35,14 @@ search::FrmFind &Fenetres::Recherche() {
     return Preparee(m_recherche, *this, Principale);
 }
 
+pictures::atelier::Acquisition &Fenetres::Atelier() {
+    return Preparee(m_atelier, *this, m_scanner);
+}
+
+void Fenetres::OublierAtelier() {
+    m_atelier.reset();
+}
+
 std::vector<ToolWindow *> Fenetres::Outils() {
     std::vector<ToolWindow *> faites;
     const auto ajouter = [&faites](auto &fenetre) {
@@ -44,6 +52,7 @@ std::vector<ToolWindow *> Fenetres::Outils() {
     };
     ajouter(m_accueil);
     ajouter(m_recherche);
+    ajouter(m_atelier);
     return faites;
 }
 

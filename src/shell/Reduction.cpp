@@ -23,6 +23,7 @@ struct Retour {
 };
 
 constexpr std::array kRetours{
+    Retour{3, [](Fenetres &fenetres) -> SkinnedWindow & { return fenetres.Atelier(); }},
     Retour{5, [](Fenetres &fenetres) -> SkinnedWindow & { return fenetres.Recherche(); }},
     Retour{8, [](Fenetres &fenetres) -> SkinnedWindow & { return fenetres.Accueil(); }},
 };

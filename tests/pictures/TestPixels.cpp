@@ -1,3 +1,5 @@
+#include "SmallFilesOnly.h"
+
 #include "pictures/AjusterPhoto.h"
 #include "pictures/FichierBmp.h"
 #include "pictures/Miroirs.h"
@@ -11,10 +13,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <sys/resource.h>
-
 #include <cmath>
-#include <csignal>
 #include <stdexcept>
 #include <vector>
 
@@ -93,30 +92,6 @@ void plainTurn(const Surface &source, Surface &destination, float angle, const S
         told.finDePas();
     }
 }
-
-/// As long as it lives, no file grows beyond a few pages: what a full disk does to a writer.
-class SmallFilesOnly {
-public:
-    SmallFilesOnly() {
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit small{8192, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-        // Without this a write beyond the limit would end the process instead of failing.
-        m_handler = std::signal(SIGXFSZ, SIG_IGN);
-    }
-
-    SmallFilesOnly(const SmallFilesOnly &) = delete;
-    SmallFilesOnly &operator=(const SmallFilesOnly &) = delete;
-
-    ~SmallFilesOnly() {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-
-private:
-    rlimit m_before{};
-    void (*m_handler)(int);
-};
 
 } // namespace
 

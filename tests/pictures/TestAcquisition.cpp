@@ -1,0 +1,376 @@
+#include "SmallFilesOnly.h"
+#include "TestBackend.h"
+
+#include "pictures/atelier/Acquisition.h"
+#include "pictures/atelier/Scan.h"
+#include "platform/scandialogs/ImageSource.h"
+#include "store/Programme.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+#include <optional>
+#include <stdexcept>
+
+using namespace pictures::atelier;
+using platform::controls::Twips;
+
+namespace {
+
+constexpr int kLeft = 0;
+constexpr int kOpen = 2;
+constexpr int kSave = 3;
+constexpr int kMirror = 4;
+constexpr int kScan = 6;
+
+/// The left half red, the right one blue.
+QImage twoColours(int width, int height) {
+    QImage picture(width, height, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    for (int y = 0; y < height; ++y) {
+        for (int x = width / 2; x < width; ++x) {
+            picture.setPixelColor(x, y, Qt::blue);
+        }
+    }
+    return picture;
+}
+
+/// Acts on each modal dialog as it comes, as long as it lives.
+class OnDialogs {
+public:
+    explicit OnDialogs(std::function<void(QDialog &)> act) {
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [act = std::move(act)] {
+            if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget())) {
+                act(*dialog);
+            }
+        });
+        m_timer.start(5);
+    }
+
+private:
+    QTimer m_timer;
+};
+
+void click(const QDialog &dialog, const QString &button) {
+    dialog.findChild<QAbstractButton *>(button)->click();
+}
+
+/// Chooses the first scanner and scans with what it is set to.
+void scan(QDialog &dialog) {
+    if (dialog.objectName() == u"SelectionSource"_qs) {
+        if (dialog.findChild<QListWidget *>(u"Sources"_qs)->count() > 0) {
+            click(dialog, u"Choisir"_qs);
+        }
+    } else {
+        click(dialog, u"Numeriser"_qs); // disabled until the device is ready, and while it scans
+    }
+}
+
+} // namespace
+
+class TestAcquisition : public QObject {
+    Q_OBJECT
+
+private:
+    TestBackend m_backend;
+    QTemporaryDir m_folder;
+    std::optional<platform::scandialogs::ImageSource> m_scanner;
+    std::optional<Acquisition> m_window;
+    QString m_start, m_proposed, m_filters; // of the last file dialog
+    QString m_message;
+
+    QString path(const QString &name) const { return m_folder.filePath(name); }
+
+    void press(int button) { m_window->Btn_ScanS(button).SetValue(true); }
+
+    /// Presses a button and gives its dialog a file, or cancels.
+    void press(int button, const QString &file) {
+        const OnDialogs user([this, file](QDialog &dialog) {
+            auto &files = dynamic_cast<QFileDialog &>(dialog);
+            m_start = files.directory().path();
+            m_proposed = files.selectedFiles().value(0);
+            m_filters = files.nameFilters().join(u'|');
+            if (file.isEmpty()) {
+                files.reject();
+            } else {
+                files.setOption(QFileDialog::DontConfirmOverwrite);
+                files.selectFile(file);
+                dialog.accept();
+            }
+        });
+        press(button);
+    }
+
+    QImage shown() const { return m_window->PhotoScan.Picture(); }
+
+    /// The buttons that are enabled, by their indices.
+    QString enabled() {
+        QString found;
+        for (int index = 0; index < m_window->Btn_ScanS.Count(); ++index) {
+            if (m_window->Btn_ScanS(index).isEnabled()) {
+                found += QString::number(index);
+            }
+        }
+        return found;
+    }
+
+private Q_SLOTS:
+
+    void initTestCase() {
+        QVERIFY(QDir(m_folder.path()).mkdir(u"image"_qs));
+        store::DefinirDossierProgramme(m_folder.path());
+        for (const QString &name : {u"tarte.jpg"_qs, u"TARTE.JPG"_qs, u"tarte.png"_qs}) {
+            QVERIFY(twoColours(40, 20).save(path(name)));
+        }
+        QFile text(path(u"texte.jpg"_qs));
+        QVERIFY(text.open(QIODevice::WriteOnly) && text.write("Tarte aux pommes") > 0);
+    }
+
+    void init() {
+        QApplication::clipboard()->clear();
+        QFile::remove(path(u"temp.bmp"_qs));
+        m_scanner.emplace();
+        m_window.emplace(*m_scanner);
+        m_window->move(1, 1); // the wait below is long for a window at the origin
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowActive(&*m_window));
+    }
+
+    void cleanup() {
+        m_window.reset();
+        QCOMPARE(QGuiApplication::overrideCursor(), nullptr);
+    }
+
+    void buttonsFollowThePicture() {
+        QCOMPARE(enabled(), u"0123456"_qs);
+        press(kOpen, path(u"tarte.png"_qs));
+        press(kSave, {});
+        QCOMPARE(enabled(), u"0123456"_qs);
+        press(kSave, path(u"gardee.bmp"_qs));
+        QCOMPARE(enabled(), u"26"_qs);
+        QCOMPARE(shown().size(), QSize(40, 20));
+        press(kOpen, {});
+        QCOMPARE(enabled(), u"26"_qs);
+        press(kOpen, path(u"tarte.png"_qs));
+        QCOMPARE(enabled(), u"0123456"_qs);
+    }
+
+    void buttonTellsThePointerByItsColour() {
+        auto &button = m_window->Btn_ScanS(kMirror);
+        Q_EMIT button.Entered();
+        QCOMPARE(button.ForeColor(), QColor(Qt::red));
+        button.SetValue(false);
+        QCOMPARE(button.ForeColor(), QColor(Qt::red));
+        button.SetValue(true);
+        QCOMPARE(button.ForeColor(), QColor(Qt::black));
+        QVERIFY(!button.Value());
+        Q_EMIT button.Exited();
+        QCOMPARE(button.ForeColor(), QColor(0, 0, 128));
+    }
+
+    void withoutPictureNothingHappens() {
+        for (int button = 0; button < kScan; ++button) {
+            if (button != kOpen && button != kSave) {
+                press(button);
+            }
+        }
+        QVERIFY(shown().isNull());
+        QVERIFY(!QFile::exists(path(u"temp.bmp"_qs)));
+        press(kSave, path(u"vide.bmp"_qs));
+        QVERIFY(!QFile::exists(path(u"vide.bmp"_qs)));
+        QVERIFY(!m_window->Cadre.Caption().isEmpty());
+    }
+
+    void openDialogStartsWhereItLastWas() {
+        press(kOpen, {});
+        QCOMPARE(m_start, path(u"image"_qs));
+        press(kOpen, path(u"tarte.png"_qs));
+        QCOMPARE(m_window->PhotoScan.Tag(), path(u"tarte.png"_qs));
+        QVERIFY(m_window->Cadre.Caption().isEmpty());
+        press(kOpen, path(u"texte.jpg"_qs));
+        QCOMPARE(m_proposed, path(u"tarte.png"_qs));
+        // What is no picture leaves the one before.
+        QCOMPARE(shown().size(), QSize(40, 20));
+        QVERIFY(!m_window->PhotoScan.isHidden());
+        press(kOpen, {});
+        QVERIFY(shown().isNull());
+        QCOMPARE(m_window->PhotoScan.Tag(), QString());
+    }
+
+    void turnsAndMirrors() {
+        press(kOpen, path(u"tarte.png"_qs));
+        press(kLeft);
+        QCOMPARE(shown().size(), QSize(20, 40));
+        QCOMPARE(shown().pixelColor(10, 10), QColor(Qt::blue));
+        QCOMPARE(shown().pixelColor(10, 30), QColor(Qt::red));
+        // By the height, which is 50 less than the frame's.
+        QCOMPARE(m_window->PhotoScan.Height(), Twips(7465));
+        QVERIFY(!m_window->PhotoScan.isHidden());
+        QVERIFY(QFile::exists(path(u"temp.bmp"_qs)));
+        press(kMirror);
+        press(kMirror + 1);
+        QCOMPARE(shown().pixelColor(10, 10), QColor(Qt::red));
+        QVERIFY(!QFile::exists(path(u"temp.bmp"_qs)));
+        press(kLeft + 1);
+        QCOMPARE(shown().pixelColor(10, 10), QColor(Qt::blue));
+        QCOMPARE(shown().pixelColor(30, 10), QColor(Qt::red));
+    }
+
+    void turnTellsItsProgressAndLetsEventsRun() {
+        m_window->PhotoScan.SetPicture(twoColours(600, 400));
+        QList<float> widths;
+        QTimer events;
+        connect(&events, &QTimer::timeout, this, [this, &widths] {
+            QVERIFY(m_window->Pb.isVisible() && m_window->PbCadre.isVisible());
+            widths.append(m_window->Pb.Width().value());
+        });
+        events.start(0);
+        press(kLeft);
+        QCOMPARE(widths.size(), 300);
+        QVERIFY(std::is_sorted(widths.begin(), widths.end()));
+        QCOMPARE(widths.first(), 0.0F);
+        QCOMPARE(widths.last(), m_window->PbCadre.Width().value());
+        QVERIFY(m_window->Pb.isHidden() && m_window->PbCadre.isHidden());
+        QCOMPARE(m_window->Pb.Width(), Twips());
+    }
+
+    void pictureTakenAwayWhileItTurns() {
+        m_window->PhotoScan.SetPicture(twoColours(60, 40));
+        QTimer::singleShot(0, &*m_window, [this] { OuvrirFichier(*m_window, {}); });
+        press(kLeft);
+        QVERIFY(shown().isNull());
+        QVERIFY(!QFile::exists(path(u"temp.bmp"_qs)));
+    }
+
+    void pictureThatCannotBeTurned() {
+        m_window->PhotoScan.SetPicture(twoColours(40'000, 1));
+        QVERIFY_THROWS_EXCEPTION(std::overflow_error, RotationGauche(*m_window));
+        QVERIFY_THROWS_EXCEPTION(std::overflow_error, MiroirVertical(*m_window));
+        m_window->PhotoScan.SetPicture(twoColours(2, 2));
+        QVERIFY_THROWS_EXCEPTION(std::domain_error, RotationDroite(*m_window));
+        m_window->PhotoScan.SetPicture(twoColours(1, 1));
+        RotationDroite(*m_window);
+        QCOMPARE(shown().size(), QSize(1, 1));
+    }
+
+    void saveDialogProposesNoJpeg_data() {
+        QTest::addColumn<QString>("opened");
+        QTest::addColumn<QString>("proposed");
+        QTest::addColumn<QString>("patterns");
+        const QString all = u"(*.bmp *.wmf *.ico)"_qs;
+        QTest::newRow("jpg") << u"tarte.jpg"_qs << u"tarte.bmp"_qs << u"(*.bmp)"_qs;
+        QTest::newRow("only that spelling") << u"TARTE.JPG"_qs << u"TARTE.JPG"_qs << all;
+        QTest::newRow("others") << u"tarte.png"_qs << u"tarte.png"_qs << all;
+    }
+
+    void saveDialogProposesNoJpeg() {
+        QFETCH(QString, opened);
+        QFETCH(QString, proposed);
+        QFETCH(QString, patterns);
+        press(kOpen, path(opened));
+        press(kSave, {});
+        QCOMPARE(m_proposed, path(proposed));
+        QVERIFY(m_filters.endsWith(patterns));
+        // The name stays for the next dialog, the file that was opened too.
+        press(kSave, path(u"autre nom.bmp"_qs));
+        press(kSave, {});
+        QCOMPARE(m_proposed, path(u"autre nom.bmp"_qs));
+        QCOMPARE(m_window->PhotoScan.Tag(), path(opened));
+    }
+
+    void fullSizeIsSavedAsABitmap() {
+        const QImage large = twoColours(3000, 1000);
+        QVERIFY(large.save(path(u"grande.png"_qs)));
+        press(kOpen, path(u"grande.png"_qs));
+        QVERIFY(m_window->PhotoScan.width() < 800);
+        press(kSave, path(u"grande.ico"_qs));
+        QFile saved(path(u"grande.ico"_qs));
+        QVERIFY(saved.open(QIODevice::ReadOnly));
+        QCOMPARE(saved.peek(2), QByteArray("BM"));
+        QCOMPARE(QImage::fromData(saved.readAll()).convertToFormat(QImage::Format_RGB32), large);
+    }
+
+    void fullDiskLeavesFileAndPicture() {
+        QVERIFY(twoColours(10, 10).save(path(u"plein.bmp"_qs)));
+        m_window->PhotoScan.SetPicture(twoColours(300, 200));
+        {
+            const SmallFilesOnly full;
+            press(kSave, path(u"plein.bmp"_qs));
+        }
+        QCOMPARE(shown().size(), QSize(300, 200));
+        QCOMPARE(QImage(path(u"plein.bmp"_qs)).size(), QSize(10, 10));
+        QCOMPARE(QDir(m_folder.path()).entryList({u"plein*"_qs}).size(), 1);
+    }
+
+    void pastedPictureIsTakenAsAScan() {
+        press(kOpen, path(u"tarte.png"_qs));
+        press(kSave, path(u"collee.bmp"_qs));
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&*m_window));
+        QApplication::clipboard()->setText(u"Tarte"_qs);
+        QTest::keyClick(&*m_window, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(enabled(), u"26"_qs);
+        QApplication::clipboard()->setImage(twoColours(30, 30));
+        QTest::keyClick(&*m_window, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(enabled(), u"0123456"_qs);
+        QCOMPARE(shown().size(), QSize(30, 30));
+        QCOMPARE(m_window->PhotoScan.Height(), m_window->Cadre.Height());
+        QCOMPARE(m_window->PhotoScan.Tag(), path(u"tarte.png"_qs));
+    }
+
+    void droppedFileOpens() {
+        press(kOpen, path(u"tarte.jpg"_qs));
+        press(kSave, path(u"deposee.bmp"_qs));
+        const QPoint middle = m_window->PhotoScan.geometry().center();
+        QCOMPARE(m_window->childAt(middle), &m_window->Cadre);
+        QMimeData dragged;
+        dragged.setUrls({QUrl::fromLocalFile(path(u"tarte.png"_qs))});
+        QDragEnterEvent enter({}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&m_window->Cadre, &enter);
+        QDropEvent drop(QPointF(), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&m_window->Cadre, &drop);
+        QCOMPARE(m_window->PhotoScan.Tag(), path(u"tarte.png"_qs));
+        QCOMPARE(enabled(), u"0123456"_qs);
+        press(kSave, {});
+        QCOMPARE(m_proposed, path(u"tarte.png"_qs));
+    }
+
+    void scannedPictureIsShown() {
+        m_backend.configure();
+        const OnDialogs user(scan);
+        press(kScan);
+        QVERIFY(!shown().isNull());
+        QCOMPARE(shown().size(), QApplication::clipboard()->image().size());
+        QCOMPARE(m_window->PhotoScan.Height(), m_window->Cadre.Height());
+    }
+
+    void nothingChosenIsAnError() {
+        m_backend.withoutDevices();
+        press(kOpen, path(u"tarte.png"_qs));
+        QApplication::clipboard()->setText(u"Tarte"_qs);
+        const OnDialogs user([this](QDialog &dialog) {
+            if (auto *box = qobject_cast<QMessageBox *>(&dialog)) {
+                m_message = box->windowTitle() + QString::number(box->icon()) + box->text();
+            }
+            dialog.reject();
+        });
+        press(kScan);
+        QCOMPARE(m_message,
+                 u"Savorel3                       Une erreur est survenue ...\n\nVeuillez vérifier votre "
+                 "Scanner et recommencer l'opération plus tard !"_qs);
+        QCOMPARE(shown().size(), QSize(40, 20));
+        QCOMPARE(QApplication::clipboard()->text(), u"Tarte"_qs);
+    }
+};
+
+QTEST_MAIN(TestAcquisition)
+#include "TestAcquisition.moc"
