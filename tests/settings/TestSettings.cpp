@@ -1,12 +1,16 @@
 #include "platform/settings/Conversion.h"
 #include "platform/settings/Settings.h"
 
+#include <QCoreApplication>
 #include <QFile>
+#include <QProcess>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <cmath>
+#include <cstdio>
+#include <cstdlib>
 #include <memory>
 
 using namespace platform::settings;
@@ -14,6 +18,9 @@ using namespace platform::settings;
 namespace {
 
 const QString kApplication = u"Essai"_qs;
+
+/// Argument that makes this program say its words of truth and end.
+const QString kSayTruth = u"--truth"_qs;
 
 void keepSettingsIn(const QString &folder) {
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder);
@@ -130,7 +137,52 @@ private Q_SLOTS:
         }
         QVERIFY_THROWS_EXCEPTION(ConversionError, ToSingle(u"1e39"_qs));
     }
+
+    void truthsFromTexts() {
+        for (const char *text : {"Vrai", "vrai", "TRUE", " True ", "-1", "0,5"}) {
+            QVERIFY2(ToBoolean(QString::fromLatin1(text)), text);
+        }
+        for (const char *text : {"Faux", "false", "0", "0,0"}) {
+            QVERIFY2(!ToBoolean(QString::fromLatin1(text)), text);
+        }
+        for (const char *text : {"", "oui", "vraiment"}) {
+            QVERIFY_THROWS_EXCEPTION(ConversionError, ToBoolean(QString::fromLatin1(text)));
+        }
+    }
+
+    void wordsOfTruthByLanguage_data() {
+        QTest::addColumn<QStringList>("environment");
+        QTest::addColumn<QByteArray>("words");
+        QTest::newRow("French") << QStringList{u"LC_ALL=fr_FR.UTF-8"_qs} << QByteArray("Vrai Faux");
+        QTest::newRow("of Canada") << QStringList{u"LANG=fr_CA"_qs} << QByteArray("Vrai Faux");
+        QTest::newRow("French with other numbers")
+            << QStringList{u"LANG=fr_FR.UTF-8"_qs, u"LC_NUMERIC=en_US.UTF-8"_qs} << QByteArray("Vrai Faux");
+        QTest::newRow("German") << QStringList{u"LANG=de_DE.UTF-8"_qs} << QByteArray("True False");
+        QTest::newRow("none") << QStringList{u"LANG=C"_qs} << QByteArray("True False");
+    }
+
+    void wordsOfTruthByLanguage() {
+        QFETCH(QStringList, environment);
+        // The language is settled once for a process.
+        QProcess other;
+        other.setEnvironment(environment);
+        other.start(QCoreApplication::applicationFilePath(), {kSayTruth});
+        QVERIFY(other.waitForFinished());
+        QTEST(other.readAllStandardOutput(), "words");
+    }
 };
 
-QTEST_GUILESS_MAIN(TestSettings)
+int main(int argc, char *argv[]) {
+    const QCoreApplication application(argc, argv);
+    if (QCoreApplication::arguments().value(1) == kSayTruth) {
+        QFile out;
+        return out.open(stdout, QIODevice::WriteOnly) &&
+                       out.write(QString(ToText(true) + u' ' + ToText(false)).toUtf8()) > 0
+                   ? EXIT_SUCCESS
+                   : EXIT_FAILURE;
+    }
+    TestSettings test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "TestSettings.moc"

@@ -1,0 +1,241 @@
+#include "EssaiCoque.h"
+#include "Reponse.h"
+
+#include "platform/settings/Conversion.h"
+
+#include <QScreen>
+
+using platform::controls::Ribbon;
+using shell::Splash;
+
+namespace {
+
+constexpr int kAbout = 9;
+
+void setMode(const QString &mode) {
+    platform::settings::SaveSetting(u"Savorel"_qs, u"Patch"_qs, u"Mode"_qs, mode);
+}
+
+QString mode() {
+    return platform::settings::GetSetting(u"Savorel"_qs, u"Patch"_qs, u"Mode"_qs);
+}
+
+void enter(QWidget &control) {
+    QEnterEvent event(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
+    QApplication::sendEvent(&control, &event);
+}
+
+void leave(QWidget &control) {
+    QEvent event(QEvent::Leave);
+    QApplication::sendEvent(&control, &event);
+}
+
+/// What the user does in a window of that class once it is open; true from the function ends it.
+template <class Window, class Function>
+std::unique_ptr<QTimer> in(Function act) {
+    return meanwhile([act] {
+        auto *window = qobject_cast<Window *>(QApplication::activeModalWidget());
+        return window != nullptr && act(*window);
+    });
+}
+
+} // namespace
+
+class TestFenetres : public QObject {
+    Q_OBJECT
+
+private:
+    Splash &about() const { return m_test->windows->Accueil(); }
+
+    /// Minimises, brings the program back as the task bar does, and ends the window that came back.
+    void minimiseAndReturn(Ribbon &button) const {
+        browser::Pop &pop = m_test->windows->Pop;
+        button.SetValue(true);
+        QVERIFY(!button.Value() && pop.isMinimized() && !m_test->main().isVisible());
+        QCoreApplication::processEvents();
+        QVERIFY(pop.isVisible() && !m_test->main().isVisible());
+        pop.setWindowState(Qt::WindowNoState);
+        QCoreApplication::processEvents();
+        QVERIFY(m_test->main().isVisible() && !pop.isVisible());
+    }
+
+    std::unique_ptr<EssaiCoque> m_test;
+
+private Q_SLOTS:
+
+    void init() {
+        m_test.reset(); // a second one would find the first one running
+        m_test = std::make_unique<EssaiCoque>();
+    }
+
+    void openingScreenByTheWordStored_data() {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<bool>("opens");
+        QTest::addColumn<bool>("ticked");
+        QTest::newRow("nothing: ticked, yet it stays away") << QString() << false << true;
+        QTest::newRow("French") << u"Vrai"_qs << true << true;
+        QTest::newRow("English") << u"True"_qs << false << true;
+        QTest::newRow("other case") << u"vrai"_qs << false << true;
+        QTest::newRow("no") << u"Faux"_qs << false << false;
+        QTest::newRow("number") << u"0"_qs << false << false;
+    }
+
+    void openingScreenByTheWordStored() {
+        QFETCH(QString, stored);
+        if (!stored.isNull()) {
+            LivreEssai::setSetting(u"SplashAuto"_qs, stored);
+        }
+        bool opened = false;
+        const auto user = in<Splash>([&](Splash &screen) {
+            opened = true;
+            // The checks of the start come after it.
+            const bool early = !m_test->main().isVisible() && m_test->windows->Pop.FenetreOuverte == 0;
+            screen.Quit.SetValue(early);
+            return early;
+        });
+        m_test->start();
+        QTEST(opened, "opens");
+        QTEST(about().SphashAuto.Value(), "ticked");
+    }
+
+    void tickIsStoredInTheUsersWords() {
+        about().SphashAuto.click();
+        QCOMPARE(LivreEssai::setting(u"SplashAuto"_qs), u"False"_qs);
+        about().SphashAuto.click();
+        QCOMPARE(LivreEssai::setting(u"SplashAuto"_qs), u"True"_qs);
+        LivreEssai::setSetting(u"SplashAuto"_qs, u"peut-être"_qs);
+        QVERIFY_THROWS_EXCEPTION(platform::settings::ConversionError, Splash());
+    }
+
+    void panelPressesItsTool() {
+        m_test->start();
+        int openings = 0;
+        const auto close = [&](Splash &screen) {
+            ++openings;
+            screen.Quit.SetValue(true);
+            return true;
+        };
+        {
+            const auto user = in<Splash>(close);
+            QTest::mouseClick(&m_test->main().LBtn(kAbout), Qt::LeftButton);
+        }
+        QCOMPARE(m_test->windows->Pop.FenetreOuverte, kAbout);
+        QVERIFY(!m_test->main().Outils(kAbout).Value());
+        {
+            const auto user = in<Splash>(close);
+            m_test->main().Outils(kAbout).SetValue(true);
+        }
+        QCOMPARE(openings, 2);
+        QVERIFY(!about().isVisible() && m_test->main().isVisible());
+    }
+
+    void pointerOverToolAndPanel() {
+        m_test->start();
+        auto &panel = m_test->main().LBtn(kAbout);
+        for (QWidget *control :
+             {static_cast<QWidget *>(&panel), static_cast<QWidget *>(&m_test->main().Outils(kAbout))}) {
+            panel.setToolTip({});
+            enter(*control);
+            QCOMPARE(panel.palette().color(panel.foregroundRole()), QColor(Qt::black));
+            QCOMPARE(panel.toolTip(), u"A Propos"_qs);
+            leave(*control);
+            QCOMPARE(panel.palette().color(panel.foregroundRole()), QColor(Qt::blue));
+        }
+        Ribbon &close = about().Quit;
+        const auto resting = close.Picture().cacheKey();
+        enter(close);
+        QVERIFY(close.Picture().cacheKey() != resting);
+        close.SetValue(true);
+        QCOMPARE(close.Picture().cacheKey(), resting);
+    }
+
+    void whatComesBackAfterMinimising_data() {
+        QTest::addColumn<int>("stored");
+        QTest::addColumn<bool>("aboutOpens");
+        QTest::newRow("search window, which does not come back") << 4 << false;
+        QTest::newRow("author's site, which brings the opening screen") << 8 << true;
+        QTest::newRow("opening screen, which does not come back") << 9 << false;
+        QTest::newRow("help") << 10 << false;
+    }
+
+    void whatComesBackAfterMinimising() {
+        QFETCH(int, stored);
+        m_test->start();
+        bool opened = false;
+        const auto user = in<Splash>([&](Splash &screen) {
+            opened = true;
+            screen.Quit.SetValue(true);
+            return true;
+        });
+        m_test->windows->Pop.FenetreOuverte = stored;
+        minimiseAndReturn(about().Mini);
+        QTEST(opened, "aboutOpens");
+        QCOMPARE(m_test->windows->Pop.FenetreOuverte, stored);
+        minimiseAndReturn(m_test->main().Btn_Min);
+        QCOMPARE(m_test->windows->Pop.FenetreOuverte, browser::Pop::kSeule);
+    }
+
+    void minimisedToolWindowLetsItsOpenerGoOn() {
+        m_test->start();
+        bool minimised = false;
+        const auto user = in<Splash>([&](Splash &screen) {
+            minimised = true;
+            minimiseAndReturn(screen.Mini);
+            return true;
+        });
+        m_test->main().Outils(kAbout).SetValue(true);
+        QVERIFY(minimised && !about().IsModal() && !m_test->main().Outils(kAbout).Value());
+    }
+
+    void closingFromTheTaskBarAsks() {
+        m_test->start();
+        m_test->main().Btn_Min.SetValue(true);
+        const Reponse no(u"Non"_qs);
+        m_test->windows->Pop.close();
+        QCOMPARE(no.question(), u"Voulez vous quitter Savorel ?"_qs);
+        QVERIFY(m_test->windows->Pop.isVisible());
+    }
+
+    void displayModeIsChosen() {
+        setMode(u"1"_qs);
+        m_test->start();
+        QCOMPARE(m_test->main().Mode(), 1);
+        QCOMPARE(about().Mode(), 1);
+        bool seen = false;
+        const auto user = in<shell::Patch>([&](shell::Patch &patch) {
+            seen = patch.c(1).Value();
+            patch.c(2).click();
+            enter(patch.OK);
+            seen = seen && patch.OK.ForeColor() == QColor(Qt::blue);
+            patch.OK.SetValue(true);
+            seen = seen && patch.isVisible() && !patch.OK.Value() && m_test->main().Mode() == 2;
+            patch.Quit.SetValue(true);
+            return true;
+        });
+        QTest::mouseDClick(&m_test->main().LPatch, Qt::LeftButton);
+        QVERIFY(seen);
+        QCOMPARE(mode(), u"2"_qs);
+        QCOMPARE(about().Mode(), 1);
+    }
+
+    void modesThatDoNotExist() {
+        for (const QString &wrong : {u"3"_qs, u"-1"_qs}) {
+            setMode(wrong);
+            QVERIFY_THROWS_EXCEPTION(std::out_of_range, shell::Patch(m_test->main()));
+        }
+        setMode(u"bleu"_qs);
+        QVERIFY_THROWS_EXCEPTION(platform::settings::ConversionError, m_test->start());
+    }
+
+    void unreachablePlaceIsLeft() {
+        for (const QString &far : {u"-60000"_qs, u"90000"_qs, u"3e37"_qs}) {
+            init();
+            LivreEssai::setSetting(u"MainLeft"_qs, far);
+            m_test->start();
+            QVERIFY(m_test->main().screen()->availableGeometry().contains(m_test->main().geometry()));
+        }
+    }
+};
+
+QTEST_MAIN(TestFenetres)
+#include "TestFenetres.moc"

@@ -1,0 +1,212 @@
+#include "platform/database/DatabaseError.h"
+#include "store/CopieFichier.h"
+#include "store/Livre.h"
+#include "store/Programme.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <memory>
+
+using namespace store;
+
+namespace {
+
+/// No file grows beyond a size, as on a full disk, for as long as the object lives.
+class FullDisk {
+public:
+    explicit FullDisk(rlim_t bytes) {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit{bytes, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+
+    FullDisk(const FullDisk &) = delete;
+    FullDisk &operator=(const FullDisk &) = delete;
+
+    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &m_before); }
+
+private:
+    rlimit m_before{};
+};
+
+/// The administrator, whom nothing is forbidden, is somebody else for as long as the object lives.
+class PlainUser {
+public:
+    PlainUser() : m_administrator(geteuid() == 0) {
+        constexpr uid_t kNobody = 65534;
+        if (m_administrator && setresuid(kNobody, kNobody, 0) != 0) {
+            qFatal("cannot become another user");
+        }
+    }
+
+    PlainUser(const PlainUser &) = delete;
+    PlainUser &operator=(const PlainUser &) = delete;
+
+    ~PlainUser() {
+        if (m_administrator && setresuid(0, 0, 0) != 0) {
+            qFatal("cannot become the administrator again");
+        }
+    }
+
+private:
+    bool m_administrator;
+};
+
+void makeBook(const QString &path, const QString &recipe) {
+    CreerLivre(path);
+    auto book = OuvrirLivre(path);
+    book.Execute(u"INSERT INTO Cocktails (Numero, Recette) VALUES (1, '%1')"_qs.arg(recipe));
+}
+
+QString recipeOf(const QString &path) {
+    auto book = OuvrirLivre(path);
+    return book.OpenRecordset(u"SELECT * From Cocktails"_qs).Fields(1).Text();
+}
+
+void write(const QString &path, const QByteArray &bytes) {
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+}
+
+QByteArray read(const QString &path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+class TestCopieFichier : public QObject {
+    Q_OBJECT
+
+private:
+    QString path(const QString &name) const { return m_folder->filePath(name); }
+
+    QStringList files() const { return QDir(m_folder->path()).entryList(QDir::Files | QDir::System); }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+
+private Q_SLOTS:
+
+    void init() {
+        m_folder = std::make_unique<QTemporaryDir>();
+        DefinirDossierProgramme(m_folder->path());
+        makeBook(CheminBase(), u"Tarte"_qs);
+        makeBook(path(u"copie.mdb"_qs), u"Soupe"_qs);
+    }
+
+    void replacedBookIsKept() {
+        CopierFichier(path(u"copie.mdb"_qs), CheminNouveauLivre());
+        write(CheminBase() + u"-journal"_qs, "of a change that is done");
+        RemplacerLivre(CheminAvantRestauration());
+        QCOMPARE(recipeOf(CheminBase()), u"Soupe"_qs);
+        QCOMPARE(recipeOf(CheminAvantRestauration()), u"Tarte"_qs);
+        QCOMPARE(files(), QStringList({u"copie.mdb"_qs, u"db-avant-restauration.mdb"_qs, u"db.mdb"_qs}));
+        // What was kept goes back, and changes places with the book.
+        CopierFichier(CheminAvantRestauration(), CheminNouveauLivre());
+        RemplacerLivre(CheminAvantRestauration());
+        QCOMPARE(recipeOf(CheminBase()) + recipeOf(CheminAvantRestauration()), u"TarteSoupe"_qs);
+    }
+
+    void aLinkedBookStaysALink() {
+        const QTemporaryDir elsewhere;
+        const QString real = elsewhere.filePath(u"livre.mdb"_qs);
+        QVERIFY(QFile::rename(CheminBase(), real) && QFile::link(real, CheminBase()));
+        QVERIFY(EstLeLivre(real) && EstLeLivre(CheminBase()) && !EstLeLivre(path(u"copie.mdb"_qs)));
+        QVERIFY_THROWS_EXCEPTION(CopieError, CopierLivre(real));
+        CopierFichier(path(u"copie.mdb"_qs), CheminNouveauLivre());
+        RemplacerLivre(CheminAvantRestauration());
+        QVERIFY(QFileInfo(CheminBase()).isSymLink());
+        QCOMPARE(recipeOf(real), u"Soupe"_qs);
+    }
+
+    void fullDiskChangesNothing() {
+        const QByteArray before = read(CheminBase());
+        const QByteArray small = "small";
+        write(path(u"petit.mdb"_qs), small);
+        const QStringList present = files();
+        {
+            const FullDisk full(10'000);
+            QVERIFY_THROWS_EXCEPTION(CopieError, CopierLivre(path(u"copie.mdb"_qs)));
+            QVERIFY_THROWS_EXCEPTION(CopieError, CopierLivre(path(u"absente.mdb"_qs)));
+            // The new book still has its place, the copy of the former one no more.
+            CopierFichier(path(u"petit.mdb"_qs), CheminNouveauLivre());
+            QVERIFY_THROWS_EXCEPTION(CopieError, RemplacerLivre(CheminAvantRestauration()));
+        }
+        QCOMPARE(read(CheminBase()), before);
+        QCOMPARE(recipeOf(path(u"copie.mdb"_qs)), u"Soupe"_qs);
+        QCOMPARE(files(), present);
+    }
+
+    void whatMustNotBeWrittenStays() {
+        const QByteArray before = read(CheminBase());
+        CopierFichier(path(u"copie.mdb"_qs), CheminNouveauLivre());
+        QVERIFY(QFile::setPermissions(CheminBase(), QFile::ReadOwner | QFile::ReadOther));
+        QVERIFY(QFile::setPermissions(m_folder->path(), QFile::Permissions(0x7777)));
+        {
+            const PlainUser user;
+            QVERIFY_THROWS_EXCEPTION(CopieError, RemplacerLivre(CheminAvantRestauration()));
+        }
+        QVERIFY(QFile::setPermissions(m_folder->path(), QFile::Permissions(0x5555)));
+        {
+            const PlainUser user;
+            QVERIFY_THROWS_EXCEPTION(CopieError, CopierFichier(path(u"copie.mdb"_qs), CheminNouveauLivre()));
+            QVERIFY_THROWS_EXCEPTION(CopieError, CopierFichier(path(u"absente.mdb"_qs), path(u"x"_qs)));
+        }
+        QCOMPARE(read(CheminBase()), before);
+        QVERIFY(QFile::setPermissions(m_folder->path(), QFile::Permissions(0x7777)));
+        QCOMPARE(files(), QStringList({u"copie.mdb"_qs, u"db.mdb"_qs}));
+    }
+
+    void killedAtAnyMomentLeavesAWholeBook() {
+        constexpr int kRounds = 25;
+        const QByteArray whole = read(CheminBase());
+        const QByteArray other = read(path(u"copie.mdb"_qs));
+        for (int round = 0; round < kRounds; ++round) {
+            const pid_t child = fork();
+            QVERIFY(child >= 0);
+            if (child == 0) {
+                for (;;) {
+                    CopierFichier(path(u"copie.mdb"_qs), CheminNouveauLivre());
+                    RemplacerLivre(CheminAvantRestauration());
+                }
+            }
+            QTest::qSleep(3 + 2 * round);
+            kill(child, SIGKILL);
+            waitpid(child, nullptr, 0);
+            for (const QString &book : {CheminBase(), CheminAvantRestauration()}) {
+                const QByteArray found = read(book);
+                QVERIFY(found == whole || found == other || !QFile::exists(book));
+            }
+            QVERIFY(QFile::exists(CheminBase()) && !recipeOf(CheminBase()).isEmpty());
+        }
+        QCOMPARE(recipeOf(CheminBase()), u"Soupe"_qs);
+    }
+
+    void errorNamesTheCopyThatIsKept() {
+        for (const QByteArray &damage : {QByteArray("no book at all"), read(CheminBase()).left(20'000)}) {
+            write(path(u"mauvais.mdb"_qs), damage);
+            CopierFichier(path(u"mauvais.mdb"_qs), CheminNouveauLivre());
+            RemplacerLivre(CheminAvantRestauration());
+            try {
+                OuvrirLivre();
+                QFAIL("a damaged book was opened");
+            } catch (const platform::database::DatabaseError &failure) {
+                QVERIFY(QString::fromUtf8(failure.what()).contains(CheminAvantRestauration()));
+            }
+            QCOMPARE(recipeOf(CheminAvantRestauration()), u"Tarte"_qs);
+            QVERIFY(QFile::remove(CheminBase()) && QFile::rename(CheminAvantRestauration(), CheminBase()));
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(TestCopieFichier)
+#include "TestCopieFichier.moc"
