@@ -151,25 +151,26 @@ private Q_SLOTS:
 
     void whatComesBackAfterMinimising_data() {
         QTest::addColumn<int>("stored");
-        QTest::addColumn<bool>("aboutOpens");
-        QTest::newRow("search window, which does not come back") << 4 << false;
-        QTest::newRow("author's site, which brings the opening screen") << 8 << true;
-        QTest::newRow("opening screen, which does not come back") << 9 << false;
-        QTest::newRow("help") << 10 << false;
+        QTest::addColumn<QString>("window");
+        QTest::newRow("search window, which does not come back") << 4 << QString();
+        QTest::newRow("backup, which brings the search window") << 5 << u"FrmFind"_qs;
+        QTest::newRow("author's site, which brings the opening screen") << 8 << u"Splash"_qs;
+        QTest::newRow("opening screen, which does not come back") << 9 << QString();
+        QTest::newRow("help") << 10 << QString();
     }
 
     void whatComesBackAfterMinimising() {
         QFETCH(int, stored);
         m_test->start();
-        bool opened = false;
-        const auto user = in<Splash>([&](Splash &screen) {
-            opened = true;
-            screen.Quit.SetValue(true);
+        QString opened;
+        const auto user = in<platform::controls::ToolWindow>([&](platform::controls::ToolWindow &window) {
+            opened = window.objectName();
+            window.Quit.SetValue(true);
             return true;
         });
         m_test->windows->Pop.FenetreOuverte = stored;
         minimiseAndReturn(about().Mini);
-        QTEST(opened, "aboutOpens");
+        QTEST(opened, "window");
         QCOMPARE(m_test->windows->Pop.FenetreOuverte, stored);
         minimiseAndReturn(m_test->main().Btn_Min);
         QCOMPARE(m_test->windows->Pop.FenetreOuverte, browser::Pop::kSeule);
