@@ -97,11 +97,11 @@ void Refleter(Acquisition &fenetre, Miroir miroir) {
 
 /// Where the file dialogs start: at the file last opened, at first in the folder of pictures.
 QString Depart(const Acquisition &fenetre) {
-    const QString dernier = fenetre.PhotoScan.Tag();
+    QString dernier = fenetre.PhotoScan.Tag();
     if (!dernier.trimmed().isEmpty()) {
         return dernier;
     }
-    const QString images = store::DossierProgramme() + QStringLiteral("/image");
+    QString images = store::DossierProgramme() + QStringLiteral("/image");
     return QFileInfo(images).isDir() ? images : store::DossierProgramme();
 }
 
