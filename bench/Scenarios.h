@@ -8,6 +8,9 @@ namespace bench {
 /// A row read, and a value changed, from opening the book to closing it.
 void measureDatabase(const GeneratedBook &book, Report &report);
 
+/// A recipe saved with eleven lines and other values that are all new to the book.
+void measureCreation(const GeneratedBook &book, Report &report);
+
 /// The list of recipes, and that of ingredients, loaded into the shown main window.
 void measureList(const GeneratedBook &book, Report &report);
 void measureIngredients(const GeneratedBook &book, Report &report);

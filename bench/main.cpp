@@ -32,6 +32,7 @@ bool measureAll(const QString &resultFile) {
     bench::measureStart(large, report);
     for (const bench::GeneratedBook &book : {small, large}) {
         bench::measureDatabase(book, report);
+        bench::measureCreation(book, report);
     }
     for (const bench::GeneratedBook &book : {small, large}) {
         bench::measureList(book, report);

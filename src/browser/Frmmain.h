@@ -116,6 +116,8 @@ Q_SIGNALS:
     void ReductionDemandee();
     /// A tool of the toolbar was pressed; Value is still true.
     void OutilPresse(int index);
+    /// A new recipe is to be made, by the menu of a list.
+    void CreationDemandee();
 
 private:
     void Peindre();

@@ -139,6 +139,20 @@ void StockerPhoto(Frmmain &frm) {
     store::ModifierSiRenseigne(chemin, kTableRecettes, NumeroDeLaFiche(frm), kPositionPhoto);
 }
 
+/// Asks for a new value of a view and adds it, whether it is there already or not.
+void AjouterValeur(Frmmain &frm, const Creation &creation) {
+    const auto texte = dialogs::InputBox(&frm, creation.titre.toString(), creation.invite.toString());
+    if (!texte || store::SansBlancs(*texte).isEmpty()) {
+        return;
+    }
+    const QString table = VueNumero(creation.vue)->table.toString();
+    store::AjouterFiche(*texte, table, VueNumero(creation.vue)->cle.toString());
+    ChargerListe(frm, {table, table, creation.entete.toString(), creation.suffixe.toString()}, creation.vue);
+    ListeHaute(frm);
+    // The loading has emptied the lower list, and a row that was selected before is not acted on again.
+    ChargerRecettesVue(frm, creation.vue);
+}
+
 void ChoisirPhoto(Frmmain &frm) {
     const pictures::Choix choix = pictures::ChoisirImage(CadreDe(frm), frm.DossierImages);
     if (choix != pictures::Choix::Illisible) {
@@ -156,25 +170,15 @@ const List &ListeConcernee(const Frmmain &frm) {
 }
 
 bool PeutAjouter(const Frmmain &frm) {
-    return !AjouteUneRecette(frm) && CreationDe(VueCourante()) != nullptr;
+    return AjouteUneRecette(frm) || CreationDe(VueCourante()) != nullptr;
 }
 
-void AjouterValeur(Frmmain &frm) {
-    if (!PeutAjouter(frm)) {
-        return;
+void AjouterRangee(Frmmain &frm) {
+    if (AjouteUneRecette(frm)) {
+        Q_EMIT frm.CreationDemandee();
+    } else if (const Creation *creation = CreationDe(VueCourante())) {
+        AjouterValeur(frm, *creation);
     }
-    const int vue = VueCourante();
-    const Creation *creation = CreationDe(vue);
-    const auto texte = dialogs::InputBox(&frm, creation->titre.toString(), creation->invite.toString());
-    if (!texte || store::SansBlancs(*texte).isEmpty()) {
-        return;
-    }
-    const QString table = VueNumero(vue)->table.toString();
-    store::AjouterFiche(*texte, table, VueNumero(vue)->cle.toString());
-    ChargerListe(frm, {table, table, creation->entete.toString(), creation->suffixe.toString()}, vue);
-    ListeHaute(frm);
-    // The loading has emptied the lower list, and a row that was selected before is not acted on again.
-    ChargerRecettesVue(frm, vue);
 }
 
 void ModifierRangee(Frmmain &frm) {

@@ -17,8 +17,8 @@ const platform::controls::List &ListeConcernee(const Frmmain &frm);
 /// Whether something can be added to that list.
 bool PeutAjouter(const Frmmain &frm);
 
-/// Asks for a new value of the view and adds it, whether it is there already or not.
-void AjouterValeur(Frmmain &frm);
+/// Asks for a new value of the view and adds it; where the rows are recipes, raises CreationDemandee.
+void AjouterRangee(Frmmain &frm);
 
 /// Opens the editor of the selected row.
 void ModifierRangee(Frmmain &frm);

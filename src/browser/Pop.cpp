@@ -56,7 +56,7 @@ void Pop::Composer() {
 }
 
 void Pop::BrancherMenus(Frmmain &frm) {
-    connect(&Ajouter, &QAction::triggered, this, [&frm] { AjouterValeur(frm); });
+    connect(&Ajouter, &QAction::triggered, this, [&frm] { AjouterRangee(frm); });
     connect(&Modifier, &QAction::triggered, this, [&frm] { ModifierRangee(frm); });
     connect(&Supprimer, &QAction::triggered, this, [&frm] { SupprimerRangee(frm); });
     connect(&ModifPhoto, &QAction::triggered, this, [&frm] { ModifierPhoto(frm); });

@@ -14,13 +14,18 @@ namespace {
 
 using namespace platform::controls;
 
-using Action = void (*)(Fenetres &);
+constexpr int kOutilCreation = 0;
 
-/// Shows a tool window in the place of the main one until it is closed.
-void OuvrirOutil(Fenetres &fenetres, ToolWindow &fenetre) {
+/// The main window makes room for a tool window, and comes back after it.
+void OuvrirOutil(Fenetres &fenetres, SkinnedWindow &fenetre) {
     fenetres.Principale.hide();
     fenetre.ShowModal();
     fenetres.Principale.show();
+}
+
+void CreerUneRecette(Fenetres &fenetres) {
+    OuvrirOutil(fenetres, fenetres.Creation());
+    fenetres.Decharger();
 }
 
 // Its picture is gone with the window.
@@ -29,9 +34,11 @@ void OuvrirAtelier(Fenetres &fenetres) {
     fenetres.OublierAtelier();
 }
 
+using Action = void (*)(Fenetres &);
+
 /// What each tool does; a tool without an action is disabled.
 constexpr std::array<Action, 11> kActions{
-    nullptr,
+    CreerUneRecette,
     nullptr,
     nullptr,
     OuvrirAtelier,
@@ -80,6 +87,11 @@ void BrancherBarreOutils(Fenetres &fenetres) {
     }
     QObject::connect(&frm, &browser::Frmmain::OutilPresse, &frm,
                      [&fenetres](int index) { PresserOutil(fenetres, index); });
+    QObject::connect(&frm, &browser::Frmmain::CreationDemandee, &frm, [&fenetres] {
+        // As the tool does, so that the window comes back when it is minimised.
+        fenetres.Pop.FenetreOuverte = kOutilCreation;
+        CreerUneRecette(fenetres);
+    });
 }
 
 } // namespace shell

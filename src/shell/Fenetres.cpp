@@ -43,6 +43,21 @@ void Fenetres::OublierAtelier() {
     m_atelier.reset();
 }
 
+entry::Manuelle &Fenetres::Creation() {
+    const bool nouvelle = !m_creation;
+    entry::Manuelle &fenetre = Preparee(m_creation, *this, Principale);
+    if (nouvelle) {
+        fenetre.SetMode(ModeCreation());
+    }
+    return fenetre;
+}
+
+void Fenetres::Decharger() {
+    if (m_creation && !m_creation->IsModal()) {
+        m_creation.reset();
+    }
+}
+
 std::vector<ToolWindow *> Fenetres::Outils() {
     std::vector<ToolWindow *> faites;
     const auto ajouter = [&faites](auto &fenetre) {
@@ -53,6 +68,7 @@ std::vector<ToolWindow *> Fenetres::Outils() {
     ajouter(m_accueil);
     ajouter(m_recherche);
     ajouter(m_atelier);
+    ajouter(m_creation);
     return faites;
 }
 

@@ -5,6 +5,7 @@
 
 #include "browser/Frmmain.h"
 #include "browser/Pop.h"
+#include "entry/Manuelle.h"
 #include "pictures/atelier/Acquisition.h"
 #include "platform/scandialogs/ImageSource.h"
 #include "search/FrmFind.h"
@@ -14,7 +15,7 @@
 namespace shell {
 
 /// The windows of the program. The tool windows are made when they are first opened, take the display mode then, and
-/// stay for the run.
+/// stay for the run, but for the window of creation.
 class Fenetres {
 public:
     Fenetres();
@@ -29,6 +30,12 @@ public:
     pictures::atelier::Acquisition &Atelier();
     void OublierAtelier();
 
+    /// Made anew after each Decharger, and in a display mode of its own.
+    entry::Manuelle &Creation();
+
+    /// Unloads the window of creation, unless it is open: then the one who opened it does.
+    void Decharger();
+
     /// The tool windows made so far.
     std::vector<platform::controls::ToolWindow *> Outils();
 
@@ -37,6 +44,7 @@ private:
     std::optional<search::FrmFind> m_recherche;
     platform::scandialogs::ImageSource m_scanner;
     std::optional<pictures::atelier::Acquisition> m_atelier;
+    std::optional<entry::Manuelle> m_creation;
 };
 
 } // namespace shell

@@ -23,6 +23,7 @@ struct Retour {
 };
 
 constexpr std::array kRetours{
+    Retour{0, [](Fenetres &fenetres) -> SkinnedWindow & { return fenetres.Creation(); }},
     Retour{3, [](Fenetres &fenetres) -> SkinnedWindow & { return fenetres.Atelier(); }},
     Retour{5, [](Fenetres &fenetres) -> SkinnedWindow & { return fenetres.Recherche(); }},
     Retour{8, [](Fenetres &fenetres) -> SkinnedWindow & { return fenetres.Accueil(); }},
@@ -37,6 +38,7 @@ void RouvrirFenetre(Fenetres &fenetres) {
     for (const Retour &retour : kRetours) {
         if (retour.outil == fenetres.Pop.FenetreOuverte) {
             retour.ouvrir(fenetres).ShowModal();
+            fenetres.Decharger();
         }
     }
 }

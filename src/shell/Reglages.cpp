@@ -13,6 +13,7 @@ namespace {
 
 const QString kPatch = QStringLiteral("Patch");
 const QString kMode = QStringLiteral("Mode");
+const QString kSplash = QStringLiteral("Splash");
 
 } // namespace
 
@@ -26,6 +27,10 @@ void Enregistrer(const QString &section, const QString &cle, const QString &text
 
 int ModeAffichage() {
     return platform::settings::ToInteger(Lire(kPatch, kMode, QStringLiteral("0")));
+}
+
+int ModeCreation() {
+    return platform::settings::ToInteger(Lire(kSplash, kSplash, QStringLiteral("0")));
 }
 
 void EnregistrerMode(int mode) {

@@ -20,6 +20,10 @@ void Enregistrer(const QString &section, const QString &cle, const QString &text
 int ModeAffichage();
 void EnregistrerMode(int mode);
 
+/// The display mode of the windows in which recipes are made. Nothing writes it: it is 0 unless the user's settings say
+/// otherwise by hand. Throws ConversionError.
+int ModeCreation();
+
 /// Opens a configured address with the desktop's program for it; says so when there is none.
 void Ouvrir(QWidget &fenetre, QStringView adresse);
 

@@ -67,7 +67,7 @@ private Q_SLOTS:
         QCOMPARE(frm.LTDroit.Caption(), u"Tarte"_qs); // shown before anything acts on it
         QCOMPARE(frm.Outils(2).Tag(), kHaut);
         QTRY_VERIFY(m_menus->Menu1.isVisible());
-        QVERIFY(!m_menus->Ajouter.isEnabled());
+        QVERIFY(m_menus->Ajouter.isEnabled()); // a recipe
         m_menus->Menu1.close();
 
         opened(1);
@@ -106,7 +106,7 @@ private Q_SLOTS:
         for (const auto &[button, typed] :
              {std::pair(u"OK"_qs, u"  "_qs), std::pair(u"Annuler"_qs, u"x"_qs)}) {
             const Reponse nothing(button, typed);
-            AjouterValeur(frm);
+            AjouterRangee(frm);
             QVERIFY(nothing.asked());
         }
         QCOMPARE(frm.Liste.Count(), 2);

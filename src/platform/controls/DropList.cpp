@@ -3,10 +3,12 @@
 #include "Fonts.h"
 
 #include <QApplication>
+#include <QCompleter>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QWheelEvent>
 
 namespace platform::controls {
@@ -14,6 +16,12 @@ namespace platform::controls {
 namespace {
 
 constexpr int kMeasuredRows = 20; // longer lists keep the width of their field
+
+/// A key that an opened list acts on.
+bool isListKey(int key) {
+    return key == Qt::Key_Escape || key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Up ||
+           key == Qt::Key_Down;
+}
 
 } // namespace
 
@@ -28,7 +36,25 @@ DropBox::DropBox(QWidget *parent) : QComboBox(parent), m_rows(this) {
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     // The toolkit takes a typed text that happens to be a row for a choice, also when the box is merely left.
     disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
+    connect(this, &QComboBox::editTextChanged, this, &DropBox::Change);
     connect(this, &QComboBox::activated, this, &DropBox::Click);
+}
+
+void DropBox::SetText(const QString &text) {
+    const QSignalBlocker quiet(this);
+    setEditText(text);
+}
+
+void DropBox::SetListIndex(int index) {
+    const QSignalBlocker quiet(this);
+    setCurrentIndex(index);
+}
+
+void DropBox::SetProposes() {
+    auto *proposals = new QCompleter(&m_rows, this);
+    proposals->setCompletionMode(QCompleter::PopupCompletion);
+    proposals->setCaseSensitivity(Qt::CaseInsensitive);
+    setCompleter(proposals);
 }
 
 void DropBox::Open() {
@@ -56,9 +82,13 @@ void DropBox::offerTyped(const QString &written) {
 void DropBox::showPopup() {
     // The list opens at the row of the text, which may have been set or typed since a row was last chosen.
     const QString written = currentText();
-    offerTyped(written);
-    setCurrentIndex(findText(written, Qt::MatchExactly | Qt::MatchCaseSensitive));
-    setEditText(written);
+    {
+        const QSignalBlocker quiet(this);
+        offerTyped(written);
+        setCurrentIndex(findText(written, Qt::MatchExactly | Qt::MatchCaseSensitive));
+        setEditText(written);
+    }
+    view()->installEventFilter(this); // once: a filter that is installed again only moves to the front
     // The list of the drop list is made when it is first needed; thousands of rows of one height need no
     // measuring.
     if (auto *rows = qobject_cast<QListView *>(view())) {
@@ -70,13 +100,28 @@ void DropBox::showPopup() {
     QComboBox::showPopup();
 }
 
+/// The opened list keeps Tab to itself, where it would do nothing.
+bool DropBox::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Tab || key == Qt::Key_Backtab) {
+            hidePopup();
+            focusNextPrevChild(key == Qt::Key_Tab);
+            return true;
+        }
+    }
+    return QComboBox::eventFilter(watched, event);
+}
+
 void DropBox::Clear() {
+    const QSignalBlocker quiet(this);
     m_rows.setStringList({});
     m_typedOnTop = false;
     clearEditText();
 }
 
 void DropBox::AddItems(const QStringList &texts) {
+    const QSignalBlocker quiet(this);
     const QString written = currentText();
     m_rows.setStringList(m_rows.stringList() + texts);
     // The toolkit would choose the first row of a list that was empty.
@@ -84,7 +129,16 @@ void DropBox::AddItems(const QStringList &texts) {
     setEditText(written);
 }
 
+bool DropBox::isProposing() const {
+    return completer() != nullptr && completer()->popup()->isVisible();
+}
+
 void DropBox::keyPressEvent(QKeyEvent *event) {
+    if (isProposing() && isListKey(event->key())) {
+        // The list of proposals hands its keys on to here first, and acts on those that are not taken.
+        event->ignore();
+        return;
+    }
     switch (event->key()) {
     case Qt::Key_Escape:
         Q_EMIT Escaped();

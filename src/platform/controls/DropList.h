@@ -23,15 +23,18 @@ public:
 
     QString Text() const { return currentText(); }
 
-    void SetText(const QString &text) { setEditText(text); }
+    void SetText(const QString &text);
 
     /// Row chosen, from 0; -1 if none.
     int ListIndex() const { return currentIndex(); }
 
-    void SetListIndex(int index) { setCurrentIndex(index); }
+    void SetListIndex(int index);
 
     /// Offers a text that was typed and is no row as the first row of the opened list, so that it can be chosen.
     void SetOffersTyped(bool offers) { m_offersTyped = offers; }
+
+    /// Proposes the rows that begin with what is typed, whatever the case, in a list below the box.
+    void SetProposes();
 
     /// Shows the box over its neighbours, takes the keyboard and selects the text.
     void Open();
@@ -41,17 +44,21 @@ public:
 Q_SIGNALS:
     /// The user chose a row.
     void Click();
+    /// The user changed the text: by typing, by a row or by a proposal.
+    void Change();
     void EnterPressed();
     void Escaped();
     /// The keyboard went to another control of the window; the opened list and menus do not count as such.
     void LostFocus();
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
+    bool isProposing() const;
     void offerTyped(const QString &written);
 
     QStringListModel m_rows;

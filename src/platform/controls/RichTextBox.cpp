@@ -81,6 +81,9 @@ void RichTextEdit::SetDefaultColor(const QColor &colour) {
 void RichTextEdit::focusInEvent(QFocusEvent *event) {
     QTextEdit::focusInEvent(event);
     paintFocusFrame(*this, true);
+    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason) {
+        Q_EMIT Entered();
+    }
 }
 
 void RichTextEdit::focusOutEvent(QFocusEvent *event) {

@@ -45,6 +45,8 @@ public:
 Q_SIGNALS:
     /// The content has become another one by an act of the user: its characters or their formats.
     void Change();
+    /// The user goes to the box. The return of the keyboard to its window or from a menu is no such thing.
+    void Entered();
     /// A mouse button was let go.
     void Clicked();
     /// The right button was let go over the box. Neither its press nor its release moves the caret.

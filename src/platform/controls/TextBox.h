@@ -1,20 +1,31 @@
 #pragma once
 
-#include "Fonts.h"
 #include "Placed.h"
 
 #include <QLineEdit>
 
 namespace platform::controls {
 
-/// A box for one line of plain text.
+/// A box of one line of plain text. textChanged(QString) tells of every change, by the user or by code.
 class LineBox : public QLineEdit {
+    Q_OBJECT
+
 public:
-    explicit LineBox(QWidget *parent) : QLineEdit(parent) { setFont(interfaceFont(Face::Verdana, 8.25)); }
+    explicit LineBox(QWidget *parent);
 
     QString Text() const { return text(); }
 
     void SetText(const QString &text) { setText(text); }
+
+Q_SIGNALS:
+    /// The user goes to the box: it takes the keyboard, or it has it and is pressed or gets Up or Down. The return of
+    /// the keyboard to its window or from a menu is no such thing.
+    void Entered();
+
+protected:
+    void focusInEvent(QFocusEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 };
 
 using TextBox = Placed<LineBox>;

@@ -1,0 +1,47 @@
+#include "TextBox.h"
+
+#include "Fonts.h"
+
+#include <QKeyEvent>
+
+namespace platform::controls {
+
+namespace {
+
+const QColor kPaper(240, 245, 252);
+const QColor kInk(22, 33, 58);
+
+} // namespace
+
+LineBox::LineBox(QWidget *parent) : QLineEdit(parent) {
+    setFont(interfaceFont(Face::Verdana, 8.25));
+    QPalette colours = palette();
+    colours.setColor(QPalette::Base, kPaper);
+    colours.setColor(QPalette::Text, kInk);
+    setPalette(colours);
+}
+
+void LineBox::focusInEvent(QFocusEvent *event) {
+    QLineEdit::focusInEvent(event);
+    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason) {
+        Q_EMIT Entered();
+    }
+}
+
+void LineBox::mousePressEvent(QMouseEvent *event) {
+    QLineEdit::mousePressEvent(event);
+    // The press that brings the keyboard has told of it already, and what was opened then may have taken it.
+    if (hasFocus()) {
+        Q_EMIT Entered();
+    }
+}
+
+void LineBox::keyPressEvent(QKeyEvent *event) {
+    if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) {
+        Q_EMIT Entered();
+    } else {
+        QLineEdit::keyPressEvent(event);
+    }
+}
+
+} // namespace platform::controls

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <vector>
+
+namespace store {
+
+/// An ingredient line as it is typed.
+struct LigneSaisie {
+    QString quantite, mesure, ingredient;
+
+    bool vide() const { return quantite.isEmpty() && mesure.isEmpty() && ingredient.isEmpty(); }
+};
+
+/// The fields of a new recipe, as the window holds them in which it is made.
+struct RecetteSaisie {
+    QString titre;
+    QString cout, difficulte, vin, dureeCuisson, personnes, plat, dureeReal;
+    QString preparation, complements; ///< rich texts
+    std::vector<LigneSaisie> lignes;
+};
+
+/// What one window of creation does otherwise than another.
+struct ModeDeCreation {
+    bool dureeSansBalises;   ///< each <B> and </B> of the preparation time becomes a blank
+    bool vinSansApostrophes; ///< the apostrophes of the wine advice go; otherwise a new row has them doubled
+    bool echecsIgnores;      ///< from the picture on, each statement that fails is passed over
+};
+
+inline constexpr ModeDeCreation kSaisieManuelle{
+    .dureeSansBalises = true, .vinSansApostrophes = false, .echecsIgnores = true};
+inline constexpr ModeDeCreation kImport{
+    .dureeSansBalises = false, .vinSansApostrophes = true, .echecsIgnores = false};
+
+/// The texts of lines that got a row of their own, in the order of their making.
+struct TextesNouveaux {
+    QStringList quantites, mesures, ingredients;
+};
+
+/// Stores a recipe under the next number, with its lines, and makes the rows that its texts lack. The book is open
+/// from the beginning to the end. Title and preparation time come back in `saisie` as the fields hold them afterwards.
+/// @param enregistrerPhoto gets the name of the picture file; it may throw, and must not open the book
+/// @throws DatabaseError; in a mode that ignores failures only until the picture
+TextesNouveaux EnregistrerRecette(RecetteSaisie &saisie, const ModeDeCreation &mode,
+                                  const std::function<void(const QString &nom)> &enregistrerPhoto);
+
+} // namespace store

@@ -1,0 +1,273 @@
+#include "Lignes.h"
+#include "LivreEssai.h"
+#include "Reponse.h"
+
+#include "entry/CreerRecette.h"
+#include "entry/Listes.h"
+#include "entry/Manuelle.h"
+#include "store/Vocabulaires.h"
+
+#include <QAbstractItemView>
+#include <QCompleter>
+#include <QSignalSpy>
+
+#include <memory>
+
+using entry::Manuelle;
+using namespace platform::controls;
+
+class TestManuelle : public QObject {
+    Q_OBJECT
+
+private:
+    /// The control that has the keyboard, or gets it with the window; the opened list, where one lies over the field.
+    QString focus() const {
+        const QWidget *control = m_entry->focusWidget();
+        return control != nullptr ? control->objectName() : QString();
+    }
+
+    /// Types into whatever has the keyboard.
+    void type(const QString &text) { QTest::keyClicks(m_entry->focusWidget(), text); }
+
+    void press(Qt::Key key) { QTest::keyClick(m_entry->focusWidget(), key); }
+
+    /// The lists that are open.
+    QString open() const {
+        QStringList names;
+        for (const DropList *list : m_entry->Listes()) {
+            if (list->isVisible()) {
+                names += list->objectName();
+            }
+        }
+        return names.join(u' ');
+    }
+
+    /// Presses the button and gives what the message says that follows.
+    QString create() {
+        const Reponse ok(u"OK"_qs);
+        m_entry->Creer.SetValue(true);
+        return ok.question();
+    }
+
+    void fill() {
+        m_entry->TitreRecette.SetText(u"Le Riz"_qs);
+        m_entry->Liste(3).SetText(u"10 mn"_qs);
+    }
+
+    std::unique_ptr<LivreEssai> m_book;
+    std::unique_ptr<browser::Frmmain> m_main;
+    std::unique_ptr<Manuelle> m_entry;
+
+private Q_SLOTS:
+
+    void init() {
+        m_book = std::make_unique<LivreEssai>();
+        LivreEssai::execute({
+            u"INSERT INTO Categorie VALUES (1, '10 mn'), (2, '1 heure')"_qs,
+            u"INSERT INTO Realisation VALUES (1, 'Entrée')"_qs,
+            u"INSERT INTO Ingredient VALUES (1, 'Beurre'), (2, 'Blé'), (3, '<B>Pâte</B>'), (4, 'Sel')"_qs,
+            u"INSERT INTO Quantite VALUES (1, '100'), (2, '200')"_qs,
+            u"INSERT INTO Cocktails VALUES (1, 'Tarte', 1, 1, NULL, 1, '', '', 1, 2, 1, 1)"_qs,
+        });
+        m_main = std::make_unique<browser::Frmmain>();
+        openView(*m_main, 0);
+        m_main->hide();
+        m_entry = std::make_unique<Manuelle>(*m_main);
+        m_entry->move(1, 1);
+        m_entry->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_entry.get()));
+    }
+
+    void cleanup() {
+        m_entry.reset();
+        m_main.reset();
+    }
+
+    void theListsOfferWhatTheBookHolds() {
+        QCOMPARE(m_entry->LCout.Count(), 5);
+        QCOMPARE(m_entry->LDiff.Count(), 6);
+        QCOMPARE(m_entry->LDureeCuisson.Count(), 3);
+        QCOMPARE(m_entry->LDureeCuisson.itemText(2), store::LignePointillee.toString());
+        QCOMPARE(m_entry->LVin.Count(), 0);
+        QCOMPARE(m_entry->LIngre.Count(), 3);
+        QCOMPARE(open(), QString());
+    }
+
+    void aFieldEnteredWithTheMouseIsCoveredByItsList() {
+        QTest::mouseClick(&m_entry->Ingre(2), Qt::LeftButton);
+        QCOMPARE(open(), u"LIngre"_qs);
+        QTest::mouseClick(&m_entry->Qte(10), Qt::LeftButton);
+        QCOMPARE(open(), u"LQte"_qs);
+        QCOMPARE(focus(), u"LQte"_qs);
+        QCOMPARE(m_entry->LQte.Tag(), u"10"_qs);
+        QCOMPARE(m_entry->LQte.geometry(), m_entry->Qte(10).geometry());
+        type(u"3/4"_qs);
+        QCOMPARE(m_entry->Qte(10).Text(), u"3/4"_qs);
+        QCOMPARE(m_entry->Qte(9).Text(), QString());
+
+        // The text of one line is not carried to the next.
+        QTest::mouseClick(&m_entry->Qte(9), Qt::LeftButton);
+        QCOMPARE(m_entry->LQte.Text(), QString());
+        QCOMPARE(m_entry->Qte(10).Text(), u"3/4"_qs);
+
+        m_entry->Saisie(0).setFocus();
+        QCOMPARE(open(), QString());
+        QTest::mouseClick(&m_entry->Liste(5), Qt::LeftButton);
+        QCOMPARE(open(), u"LPlat"_qs);
+        m_entry->Saisie(1).setFocus(); // hides the lists of the lines alone
+        QCOMPARE(open(), u"LPlat"_qs);
+        QTest::mouseClick(m_entry->Scroll.Content(), Qt::LeftButton, {}, QPoint(5, 5));
+        QCOMPARE(open(), QString());
+    }
+
+    void aValueIsTakenAndTheListStays() {
+        QTest::mouseClick(&m_entry->Liste(5), Qt::LeftButton);
+        m_entry->LPlat.SetListIndex(1);
+        Q_EMIT m_entry->LPlat.activated(1);
+        QCOMPARE(m_entry->Liste(5).Text(), store::LignePointillee.toString());
+        QCOMPARE(open(), u"LPlat"_qs);
+        m_entry->Liste(5).SetText(u"Dessert"_qs); // beneath the list
+        QCOMPARE(m_entry->LPlat.Text(), u"Dessert"_qs);
+    }
+
+    void theKeyboardGoesThroughAllFields() {
+        QStringList expected{u"TitreRecette"_qs,  u"LCout"_qs, u"LDiff"_qs, u"LVin"_qs,
+                             u"LDureeCuisson"_qs, u"LPers"_qs, u"LPlat"_qs, u"LDureeReal"_qs};
+        for (int line = 0; line < 11; ++line) {
+            expected += {u"LQte"_qs, u"LQte2"_qs, u"LIngre"_qs};
+        }
+        expected += {u"Saisie(0)"_qs, u"Saisie(1)"_qs, u"CadrePhoto"_qs, u"Creer"_qs, u"Mini"_qs, u"Quit"_qs};
+        for (const QString &name : expected) {
+            QCOMPARE(focus(), name);
+            if (name == u"LIngre") {
+                type(m_entry->LIngre.Tag());
+            }
+            press(Qt::Key_Tab);
+        }
+        QCOMPARE(focus(), u"TitreRecette"_qs);
+        QCOMPARE(m_entry->Ingre(0).Text() + m_entry->Ingre(10).Text(), u"010"_qs);
+        QTest::keyClick(m_entry->focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+        QCOMPARE(focus(), u"Quit"_qs);
+    }
+
+    void aValueIsTakenWithTheKeyboard() {
+        m_entry->Liste(2).setFocus(Qt::TabFocusReason);
+        press(Qt::Key_Tab);
+        press(Qt::Key_Down);
+        QAbstractItemView *rows = m_entry->LDureeCuisson.view();
+        QTRY_VERIFY(rows->isVisible());
+        QCOMPARE(rows->model()->rowCount(), 3);
+        QTest::keyClick(rows, Qt::Key_Down);
+        QTest::keyClick(rows, Qt::Key_Return);
+        QVERIFY(!m_entry->Liste(3).Text().isEmpty());
+        QCOMPARE(m_entry->Liste(3).Text(), m_entry->LDureeCuisson.Text());
+        QCOMPARE(focus(), u"LDureeCuisson"_qs);
+
+        // Typing narrows nothing, and Tab leaves the opened list as it was.
+        QTest::keyClick(m_entry->LDureeCuisson.lineEdit(), Qt::Key_A, Qt::ControlModifier);
+        type(u"1"_qs);
+        press(Qt::Key_Down);
+        QTRY_VERIFY(rows->isVisible());
+        QCOMPARE(rows->model()->rowCount(), 3);
+        QTest::keyClick(rows, Qt::Key_Down);
+        QTest::keyClick(rows, Qt::Key_Tab);
+        QVERIFY(!rows->isVisible());
+        QCOMPARE(focus(), u"LPers"_qs);
+        QCOMPARE(m_entry->Liste(3).Text(), u"1"_qs);
+    }
+
+    void typingInALineProposes() {
+        QVERIFY(m_entry->LPlat.completer() == nullptr);
+        m_entry->Ingre(0).setFocus(Qt::TabFocusReason);
+        QWidget *proposals = m_entry->LIngre.completer()->popup();
+        type(u"b"_qs);
+        QTRY_VERIFY(proposals->isVisible());
+        QCOMPARE(m_entry->LIngre.completer()->completionCount(), 2);
+        QCOMPARE(m_entry->Ingre(0).Text(), u"b"_qs);
+        QTest::keyClick(proposals, Qt::Key_Down);
+        QTest::keyClick(proposals, Qt::Key_Return);
+        QVERIFY(!proposals->isVisible());
+        QCOMPARE(m_entry->Ingre(0).Text(), u"Beurre"_qs);
+        QCOMPARE(focus(), u"LIngre"_qs);
+
+        QTest::keyClick(m_entry->LIngre.lineEdit(), Qt::Key_A, Qt::ControlModifier);
+        type(u"s"_qs);
+        QTRY_VERIFY(proposals->isVisible());
+        QTest::keyClick(proposals, Qt::Key_Tab);
+        QCOMPARE(m_entry->Ingre(0).Text(), u"s"_qs);
+        QCOMPARE(focus(), u"LQte"_qs);
+    }
+
+    void whatIsMissingIsTold() {
+        m_entry->TitreRecette.SetText(u"  "_qs);
+        m_entry->Liste(3).SetText(u"10 mn"_qs);
+        const QByteArray before = LivreEssai::bytes();
+        QCOMPARE(create(), u"Veuillez d'abord saisir le nom de la recette !"_qs);
+        QCOMPARE(focus(), u"TitreRecette"_qs);
+        QCOMPARE(m_entry->Liste(3).Text(), u"10 mn"_qs);
+
+        m_entry->TitreRecette.SetText(u"Riz"_qs);
+        m_entry->Liste(3).SetText(u" "_qs);
+        QCOMPARE(create(), u"Veuillez d'abord saisir une durée de cuisson !"_qs);
+        QCOMPARE(focus(), u"Liste(3)"_qs);
+        QCOMPARE(open(), QString());
+        QVERIFY(!m_entry->creationFaite && !m_entry->Creer.Value());
+        QCOMPARE(LivreEssai::bytes(), before);
+        press(Qt::Key_Down); // the field has the keyboard already
+        QCOMPARE(open(), u"LDureeCuisson"_qs);
+    }
+
+    void severalRecipesInOneOpening() {
+        fill();
+        m_entry->DReal.SetText(u"5 mn"_qs);
+        m_entry->Liste(5).SetText(u"Dessert"_qs);
+        m_entry->Saisie(0).setFocus();
+        type(u"Remuer"_qs);
+        m_entry->Photo.SetPicture(QImage(40, 30, QImage::Format_RGB32));
+        m_entry->Qte(0).setFocus();
+        type(u"2"_qs);
+        m_entry->Ingre(0).SetText(u"Riz"_qs);
+        m_entry->Ingre(3).SetText(u"Beurre"_qs);
+        QCOMPARE(create(), u"Création réussie ! "_qs);
+        QVERIFY(m_entry->creationFaite && !m_entry->Creer.Value());
+        QCOMPARE(open(), QString());
+        QCOMPARE(rowsOf(u"SELECT Recette, Photo, Nreal From Cocktails where Numero = 2"_qs, 3),
+                 QStringList(u"Riz (Le)|Le Riz.jpg|2"_qs));
+        QVERIFY(QFile::exists(m_book->path(u"photos/Le Riz.jpg"_qs)));
+        QString rtf = LivreEssai::text(u"SELECT Numero, preparation From Cocktails where Numero = 2"_qs);
+        QVERIFY(rtf.contains(u"\\red0\\green255\\blue255"_qs) && rtf.contains(u"Remuer"_qs));
+
+        QCOMPARE(m_entry->DReal.Text(), u"5 mn"_qs);
+        for (const TextBox *field : m_entry->findChildren<TextBox *>()) {
+            QVERIFY2(field == &m_entry->DReal || field->Text().isEmpty(), qPrintable(field->objectName()));
+        }
+        QCOMPARE(m_entry->Saisie(0).Text(), QString());
+        QVERIFY(m_entry->Photo.Picture().isNull());
+
+        // The lists of the lines know the new texts, those of the values do not.
+        QVERIFY(m_entry->LIngre.findText(u"Riz"_qs) >= 0 && m_entry->LQte.findText(u"2"_qs) >= 0);
+        QVERIFY(m_entry->LPlat.findText(u"Dessert"_qs) < 0);
+
+        fill();
+        QCOMPARE(create(), u"Création réussie ! "_qs);
+        QCOMPARE(rowsOf(u"SELECT NDureeReal From Cocktails where Numero = 3"_qs, 1), QStringList(u"1"_qs));
+    }
+
+    void theMainListFollowsAtTheEnd() {
+        fill();
+        create();
+        QCOMPARE(m_main->Liste.Count(), 1);
+        create(); // without a title: the last press decides, and the list is not loaded
+        m_entry->Quit.SetValue(true);
+        QCOMPARE(m_main->Liste.Count(), 1);
+
+        fill();
+        create();
+        m_entry->Quit.SetValue(true);
+        QCOMPARE(texts(m_main->Liste), u"Riz (Le), Riz (Le), Tarte"_qs);
+        QVERIFY(!m_entry->isVisible() && !m_entry->Quit.Value());
+    }
+};
+
+QTEST_MAIN(TestManuelle)
+#include "TestManuelle.moc"
