@@ -24,6 +24,8 @@ public:
 
     search::FrmFind &searchWindow() { return m_windows.Recherche(); }
 
+    sheets::FicheAlbum &sheet() { return m_windows.Fiches(); }
+
     static void paint() { QCoreApplication::processEvents(); }
 
 private:

@@ -21,6 +21,9 @@ void measureRecipe(const GeneratedBook &small, const GeneratedBook &large, Repor
 /// The rows of the search read, listed and painted, and one brought up in the main window.
 void measureSearch(const GeneratedBook &book, Report &report);
 
+/// The sheet walked to the next recipe of the list, until it is painted.
+void measureSheet(const GeneratedBook &book, Report &report);
+
 /// A key pressed in a long text, alone and with the text stored.
 void measureKeyStroke(const GeneratedBook &book, Report &report);
 

@@ -22,8 +22,10 @@ namespace {
 
 constexpr int kListTurns = 15;
 constexpr int kRecipeTurns = 40;
+constexpr int kSheetTurns = 200;
 constexpr double kListGoal = 2;
 constexpr double kRecipeGoal = 10; // ms
+constexpr double kSheetGoal = 40;  // ms, between two recipes while the button is held down
 // Two medians of the same work differ by about this much on a busy machine.
 constexpr double kNoGrowth = 1.25;
 
@@ -111,6 +113,23 @@ void measureRecipe(const GeneratedBook &small, const GeneratedBook &large, Repor
     const QString click = QStringLiteral("row chosen: recipe and its choice lists");
     report.add({click, small.name(), clicked.bare});
     report.add({click, large.name(), clicked.ours});
+}
+
+void measureSheet(const GeneratedBook &book, Report &report) {
+    OpenWindow main(book);
+    main.window().hide();
+    sheets::FicheAlbum &sheet = main.sheet();
+    sheet.ChargerFiche();
+    sheet.show();
+    std::vector<double> turns;
+    for (int turn = 0; turn < kSheetTurns; ++turn) {
+        turns.push_back(milliseconds([&sheet] {
+            sheet.Navi(1).SetValue(true);
+            OpenWindow::paint();
+        }));
+    }
+    report.add({QStringLiteral("sheet of the next recipe, painted"), book.name(), median(turns), 0,
+                Goal::Milliseconds, kSheetGoal});
 }
 
 } // namespace bench

@@ -40,6 +40,7 @@ bool measureAll(const QString &resultFile) {
     bench::measureIngredients(large, report);
     bench::measureRecipe(small, large, report);
     bench::measureSearch(large, report);
+    bench::measureSheet(large, report);
     bench::measureKeyStroke(large, report);
     bench::measureTurn(report);
     bench::measureImport(report);

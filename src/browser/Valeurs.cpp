@@ -171,7 +171,7 @@ void BrancherSaisie(Frmmain &frm, int index) {
 } // namespace
 
 qint64 NumeroDeLaFiche(const Frmmain &frm) {
-    const List &liste = frm.Outils(2).Tag() == kBas ? frm.LFilms : frm.Liste;
+    const List &liste = ListeDeLaFiche(frm);
     return store::NumeroDeCle(liste.Key(liste.SelectedIndex()));
 }
 

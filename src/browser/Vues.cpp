@@ -249,6 +249,21 @@ void ClicFilms(Frmmain &frm) {
     MontrerRecette(frm, store::NumeroDeCle(frm.LFilms.Key(choisie)), kBas);
 }
 
+const List &ListeDeLaFiche(const Frmmain &frm) {
+    return frm.Outils(2).Tag() == kBas ? frm.LFilms : frm.Liste;
+}
+
+void AllerAuVoisin(Frmmain &frm, int pas) {
+    const bool bas = frm.Outils(2).Tag() == kBas;
+    List &liste = bas ? frm.LFilms : frm.Liste;
+    liste.Select(liste.SelectedIndex() + pas);
+    if (bas) {
+        ClicFilms(frm);
+    } else {
+        FlecheListe(frm);
+    }
+}
+
 void RenommerListe(Frmmain &frm, int index, const QString &texte) {
     const Vue *vue = VueNumero(VueCourante());
     if (vue != nullptr && !vue->table.isEmpty()) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include "platform/controls/ListView.h"
 
 namespace browser {
 
@@ -54,6 +54,11 @@ void ChargerRecettesIngredient(Frmmain &frm);
 void ClicListe(Frmmain &frm);
 void FlecheListe(Frmmain &frm);
 void ClicFilms(Frmmain &frm);
+/// The list whose selected row is the recipe shown, as Outils(2).Tag says.
+const platform::controls::List &ListeDeLaFiche(const Frmmain &frm);
+/// Selects the neighbour of that row, 1 below or -1 above it, which must exist, and shows its recipe as the user's choice
+/// of it does. Throws DatabaseError.
+void AllerAuVoisin(Frmmain &frm, int pas);
 /// Stores the new text of a row edited in place, if it differs.
 void RenommerListe(Frmmain &frm, int index, const QString &texte);
 void RenommerFilms(Frmmain &frm, int index, const QString &texte);

@@ -35,6 +35,10 @@ search::FrmFind &Fenetres::Recherche() {
     return Preparee(m_recherche, *this, Principale);
 }
 
+sheets::FicheAlbum &Fenetres::Fiches() {
+    return Preparee(m_fiches, *this, Principale);
+}
+
 pictures::atelier::Acquisition &Fenetres::Atelier() {
     return Preparee(m_atelier, *this, m_scanner);
 }
@@ -67,6 +71,7 @@ std::vector<ToolWindow *> Fenetres::Outils() {
     };
     ajouter(m_accueil);
     ajouter(m_recherche);
+    ajouter(m_fiches);
     ajouter(m_atelier);
     ajouter(m_creation);
     return faites;

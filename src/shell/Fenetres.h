@@ -9,6 +9,7 @@
 #include "pictures/atelier/Acquisition.h"
 #include "platform/scandialogs/ImageSource.h"
 #include "search/FrmFind.h"
+#include "sheets/FicheAlbum.h"
 
 #include <optional>
 
@@ -25,6 +26,7 @@ public:
 
     Splash &Accueil();
     search::FrmFind &Recherche();
+    sheets::FicheAlbum &Fiches();
 
     /// The picture workshop; unlike the others it is made anew after it was forgotten.
     pictures::atelier::Acquisition &Atelier();
@@ -42,6 +44,7 @@ public:
 private:
     std::optional<Splash> m_accueil;
     std::optional<search::FrmFind> m_recherche;
+    std::optional<sheets::FicheAlbum> m_fiches;
     platform::scandialogs::ImageSource m_scanner;
     std::optional<pictures::atelier::Acquisition> m_atelier;
     std::optional<entry::Manuelle> m_creation;
