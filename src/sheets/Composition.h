@@ -27,7 +27,7 @@ struct Mesures {
     std::array<Rectangle, 11> libelle; ///< there is none of index 6
     Extent cout, diff, teneur;
     std::array<Extent, 4> data;
-    int lignes; ///< ingredient rows
+    int lignes = 0; ///< ingredient rows
     Extent qte, mesure, ingre;
     Extent prepa, deco;
 };

@@ -104,7 +104,7 @@ double PointsSurPapier(double points, const QPaintDevice &papier) {
 
 QString PointillesDe(int largeur, const QFontMetricsF &metrique) {
     const auto nombre = static_cast<qsizetype>(largeur / metrique.horizontalAdvance(QLatin1Char('.')));
-    return QString(nombre, QLatin1Char('.'));
+    return QStringLiteral(".").repeated(nombre);
 }
 
 Qt::Alignment Alignement(Champ champ, bool tient) {

@@ -61,7 +61,7 @@ private:
                 return;
             }
             dialog.selectFile(path);
-            dialog.accept();
+            static_cast<QDialog &>(dialog).accept();
         });
         QTest::mouseClick(&m_sheet->Navi(3), Qt::LeftButton);
         return proposed;
@@ -142,7 +142,7 @@ private Q_SLOTS:
         FicheAlbum &sheet = open();
         QVERIFY(sheet.Navi(0).isEnabled() && !sheet.Navi(1).isEnabled());
         QTest::mouseClick(&sheet.Navi(0), Qt::LeftButton);
-        QCOMPARE(sheet.Recette.Caption(), u"Aïoli"_qs);
+        QCOMPARE(sheet.Recette.Caption(), m_window->LFilms.Text(1));
         QCOMPARE(m_window->LFilms.SelectedIndex(), 1);
     }
 

@@ -131,7 +131,7 @@ private Q_SLOTS:
             const bool dots = word.text.count(u'.') == word.text.size();
             read += dots ? u"..."_qs : word.text;
         }
-        QStringList expected{u"Aïoli Coût Peu Cher Difficulté Moyen Conseil en Vin Chinon Durée de Cuisson "
+        QStringList expected{u"Aïoli Coût Peu Cher Difficulté Facile Conseil en Vin Chinon Durée de Cuisson "
                              "10 minutes Nombre de Personnes 4 personnes Type de Plat Entrée froide "
                              "Ingrédients"_qs};
         for (int i = 8; i >= 1; --i) {
@@ -182,12 +182,12 @@ private Q_SLOTS:
 
     void longTextsAreSetSmaller() {
         QFETCH(const QPageSize::PageSizeId, paper);
-        const int lines = paper == QPageSize::A4 ? 14 : 7;
-        change(u"Recette = 'Début %1 fin', preparation = 'Commencer %2 finir.'"_qs.arg(
+        const int sentences = paper == QPageSize::A4 ? 48 : 24;
+        change(u"Recette = 'Ail %1 fin', preparation = 'Commencer %2 finir.'"_qs.arg(
             u"titre "_qs.repeated(10).trimmed(),
-            u"remuer longuement la sauce au chocolat noir "_qs.repeated(2 * lines)));
+            u"remuer longuement la sauce au chocolat noir "_qs.repeated(sentences)));
         const std::vector<Word> words = wordsOf(print(paper));
-        const QRectF title = around(words, u"Début"_qs, u"fin"_qs);
+        const QRectF title = around(words, u"Ail"_qs, u"fin"_qs);
         QVERIFY(title.bottom() <= placeOf(Champ::Recette).bottom() + 1 && title.isValid());
         const QRectF method = around(words, u"Commencer"_qs, u"finir."_qs);
         QVERIFY(method.isValid() && placeOf(Champ::Prepa).adjusted(-1, -1, 1, 1).contains(method));
