@@ -24,7 +24,7 @@ constexpr int kResolution = 600; // dots to the inch
 /// A title as the name of a file, without the signs that file systems forbid.
 QString fileNameOf(const QString &title) {
     static const QRegularExpression forbidden(QStringLiteral(R"([\x00-\x1f/\\:*?"<>|]+)"));
-    constexpr qsizetype kLongest = 100; // of the 255 bytes that a name can have
+    constexpr qsizetype kLongest = 60; // a name can have 255 bytes, a letter up to four
     const QString name = QString(title).replace(forbidden, QStringLiteral(" ")).simplified().left(kLongest);
     return (name.isEmpty() ? QStringLiteral("Recette") : name) + QStringLiteral(".pdf");
 }
@@ -63,8 +63,8 @@ void PrintTarget::ShowPrinter(QWidget *parent) {
     }
     // It only notes the choice: nothing is printed yet.
     dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->setText(QStringLiteral("OK"));
-    if (dialog.exec() == QDialog::Accepted && printer().outputFormat() == QPrinter::PdfFormat) {
-        m_file = printer().outputFileName();
+    if (dialog.exec() == QDialog::Accepted) {
+        m_file = printer().outputFormat() == QPrinter::PdfFormat ? printer().outputFileName() : QString();
     }
 }
 
