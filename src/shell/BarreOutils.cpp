@@ -34,14 +34,12 @@ void OuvrirAtelier(Fenetres &fenetres) {
     fenetres.OublierAtelier();
 }
 
-<<<<<<< HEAD
-using Action = void (*)(Fenetres &);
-=======
 void OuvrirFiches(Fenetres &fenetres) {
     fenetres.Fiches().ChargerFiche();
     OuvrirOutil(fenetres, fenetres.Fiches());
 }
->>>>>>> a434350 (Show and print recipe sheets)
+
+using Action = void (*)(Fenetres &);
 
 /// What each tool does; a tool without an action is disabled.
 constexpr std::array<Action, 11> kActions{
