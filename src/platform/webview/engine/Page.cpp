@@ -1,0 +1,60 @@
+#include "Page.h"
+
+#include "Places.h"
+
+#include <QWebEngineNewWindowRequest>
+#include <QWebEngineSettings>
+
+namespace platform::webview {
+
+Page::Page(QWebEngineProfile *profile, const QString &folder) : QWebEnginePage(profile), m_folder(folder) {
+    restrict();
+    connect(this, &QWebEnginePage::newWindowRequested, this, [this](const QWebEngineNewWindowRequest &request) {
+        if (request.isUserInitiated() && isPlaceToGo(request.requestedUrl(), m_folder)) {
+            setUrl(request.requestedUrl());
+        }
+    });
+    connect(this, &QWebEnginePage::featurePermissionRequested, this, [this](const QUrl &origin, Feature feature) {
+        setFeaturePermission(origin, feature, PermissionDeniedByUser);
+    });
+}
+
+void Page::restrict() {
+    constexpr QWebEngineSettings::WebAttribute kRefused[]{
+        QWebEngineSettings::LocalContentCanAccessRemoteUrls, QWebEngineSettings::LocalContentCanAccessFileUrls,
+        QWebEngineSettings::LocalStorageEnabled,             QWebEngineSettings::JavascriptCanOpenWindows,
+        QWebEngineSettings::JavascriptCanAccessClipboard,    QWebEngineSettings::PluginsEnabled,
+        QWebEngineSettings::PdfViewerEnabled,                QWebEngineSettings::FullScreenSupportEnabled,
+        QWebEngineSettings::ScreenCaptureEnabled,            QWebEngineSettings::DnsPrefetchEnabled,
+    };
+    for (const auto attribute : kRefused) {
+        settings()->setAttribute(attribute, false);
+    }
+    settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
+}
+
+bool Page::acceptNavigationRequest(const QUrl &url, NavigationType /*type*/, bool isMainFrame) {
+    // Frames are often made of a text or left blank; what they may not show, the browser's own rules tell.
+    return isPlaceToGo(url, m_folder) || (!isMainFrame && !url.isLocalFile());
+}
+
+QStringList Page::chooseFiles(FileSelectionMode /*mode*/, const QStringList & /*oldFiles*/,
+                              const QStringList & /*acceptedMimeTypes*/) {
+    return {};
+}
+
+void Page::javaScriptAlert(const QUrl & /*origin*/, const QString & /*text*/) {}
+
+bool Page::javaScriptConfirm(const QUrl & /*origin*/, const QString & /*text*/) {
+    return false;
+}
+
+bool Page::javaScriptPrompt(const QUrl & /*origin*/, const QString & /*text*/, const QString & /*proposal*/,
+                            QString * /*answer*/) {
+    return false;
+}
+
+void Page::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel /*level*/, const QString & /*text*/, int /*line*/,
+                                    const QString & /*source*/) {}
+
+} // namespace platform::webview
