@@ -1,7 +1,7 @@
 # The Debian packages of the project, and their installation; sourced by ./run and ./test.
 
 PAQUETS_CONSTRUCTION=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-base-dev-tools qt6-svg-dev
-    libsqlcipher-dev libssl-dev mdbtools-dev libsane-dev libwmf-dev qt6-translations-l10n)
+    libsqlcipher-dev libssl-dev mdbtools-dev libsane-dev libwmf-dev qt6-webengine-dev qt6-translations-l10n)
 PAQUETS_EXECUTION=(qt6-wayland libsane1 fonts-dejavu-core fonts-liberation fonts-comic-neue fonts-urw-base35)
 PAQUETS_ECRAN_VIRTUEL=(xvfb xauth x11-utils imagemagick)
 PAQUETS_TESTS=(qt6-declarative-dev sqlcipher poppler-utils)
@@ -18,4 +18,13 @@ installer_paquets() {
     [ "$(id -u)" -eq 0 ] || root=(sudo)
     "${root[@]}" apt-get update -qq
     "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# isoler_le_navigateur: the browser of the import locks its processes in, which it cannot do for root and where the kernel
+# gives a user no name spaces of his own; there it must be told to do without.
+isoler_le_navigateur() {
+    if [ "$(id -u)" -eq 0 ] || ! unshare --user true 2>/dev/null; then
+        echo "QTWEBENGINE_DISABLE_SANDBOX=1: the browser of the import cannot lock its processes in for this user"
+        export QTWEBENGINE_DISABLE_SANDBOX=1
+    fi
 }

@@ -4,7 +4,10 @@
 #include "Reglages.h"
 #include "Sauvegarde.h"
 
+#include "platform/dialogs/MessageBox.h"
+#include "platform/webview/LoadEngine.h"
 #include "store/Configuration.h"
+#include "store/Programme.h"
 
 #include <array>
 
@@ -28,6 +31,7 @@ void CreerUneRecette(Fenetres &fenetres) {
     fenetres.Decharger();
 }
 
+<<<<<<< HEAD
 // Its picture is gone with the window.
 void OuvrirAtelier(Fenetres &fenetres) {
     OuvrirOutil(fenetres, fenetres.Atelier());
@@ -37,6 +41,21 @@ void OuvrirAtelier(Fenetres &fenetres) {
 void OuvrirFiches(Fenetres &fenetres) {
     fenetres.Fiches().ChargerFiche();
     OuvrirOutil(fenetres, fenetres.Fiches());
+=======
+/// The one tool that needs what may not be there.
+void OuvrirImport(Fenetres &fenetres) {
+    facile::Facile *fenetre = nullptr;
+    try {
+        fenetre = &fenetres.Import();
+    } catch (const platform::webview::WebViewError &obstacle) {
+        platform::dialogs::Message(&fenetres.Principale, store::TitreProgramme.toString(),
+                                   QStringLiteral("Le navigateur de la création facile n'est pas disponible.\n\n") +
+                                       QString::fromUtf8(obstacle.what()),
+                                   platform::dialogs::Icon::Exclamation);
+        return;
+    }
+    OuvrirOutil(fenetres, *fenetre);
+>>>>>>> 494cc62 (Take recipes from pages of the web: the window of the import)
 }
 
 using Action = void (*)(Fenetres &);
@@ -44,10 +63,17 @@ using Action = void (*)(Fenetres &);
 /// What each tool does; a tool without an action is disabled.
 constexpr std::array<Action, 11> kActions{
     CreerUneRecette,
+<<<<<<< HEAD
     nullptr,
     OuvrirFiches,
     OuvrirAtelier,
     [](Fenetres &fenetres) { OuvrirOutil(fenetres, fenetres.Recherche()); },
+=======
+    OuvrirImport,
+    nullptr,
+    nullptr,
+    nullptr,
+>>>>>>> 494cc62 (Take recipes from pages of the web: the window of the import)
     [](Fenetres &fenetres) { SauvegarderBase(fenetres.Principale); },
     [](Fenetres &fenetres) { RestaurerBase(fenetres.Principale); },
     [](Fenetres &fenetres) { Ouvrir(fenetres.Principale, store::PartnerSiteHome); },

@@ -3,6 +3,9 @@
 #include "Reduction.h"
 #include "Reglages.h"
 
+#include "platform/webview/LoadEngine.h"
+#include "store/Programme.h"
+
 namespace shell {
 
 namespace {
@@ -56,6 +59,17 @@ entry::Manuelle &Fenetres::Creation() {
     return fenetre;
 }
 
+facile::Facile &Fenetres::Import() {
+    const bool nouvelle = !m_import;
+    facile::Facile &fenetre =
+        Preparee(m_import, *this, Principale,
+                 platform::webview::loadEngine(store::DossierProgramme() + QStringLiteral("/moteur-web.so")));
+    if (nouvelle) {
+        fenetre.SetMode(ModeCreation());
+    }
+    return fenetre;
+}
+
 void Fenetres::Decharger() {
     if (m_creation && !m_creation->IsModal()) {
         m_creation.reset();
@@ -74,6 +88,7 @@ std::vector<ToolWindow *> Fenetres::Outils() {
     ajouter(m_fiches);
     ajouter(m_atelier);
     ajouter(m_creation);
+    ajouter(m_import);
     return faites;
 }
 

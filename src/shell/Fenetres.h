@@ -6,6 +6,7 @@
 #include "browser/Frmmain.h"
 #include "browser/Pop.h"
 #include "entry/Manuelle.h"
+#include "facile/Facile.h"
 #include "pictures/atelier/Acquisition.h"
 #include "platform/scandialogs/ImageSource.h"
 #include "search/FrmFind.h"
@@ -37,6 +38,8 @@ public:
 
     /// Unloads the window of creation, unless it is open: then the one who opened it does.
     void Decharger();
+    /// Opened in a display mode of its own. Throws platform::webview::WebViewError where the browser cannot be had.
+    facile::Facile &Import();
 
     /// The tool windows made so far.
     std::vector<platform::controls::ToolWindow *> Outils();
@@ -48,6 +51,7 @@ private:
     platform::scandialogs::ImageSource m_scanner;
     std::optional<pictures::atelier::Acquisition> m_atelier;
     std::optional<entry::Manuelle> m_creation;
+    std::optional<facile::Facile> m_import;
 };
 
 } // namespace shell

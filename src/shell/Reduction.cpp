@@ -24,6 +24,7 @@ struct Retour {
 
 constexpr std::array kRetours{
     Retour{0, [](Fenetres &fenetres) -> SkinnedWindow & { return fenetres.Creation(); }},
+    Retour{1, [](Fenetres &fenetres) -> SkinnedWindow & { return fenetres.Import(); }},
     Retour{2, [](Fenetres &fenetres) -> SkinnedWindow & { return fenetres.Fiches(); }},
     Retour{3, [](Fenetres &fenetres) -> SkinnedWindow & { return fenetres.Atelier(); }},
     Retour{5, [](Fenetres &fenetres) -> SkinnedWindow & { return fenetres.Recherche(); }},

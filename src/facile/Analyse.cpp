@@ -1,0 +1,162 @@
+#include "Analyse.h"
+
+#include "ChargerPhoto.h"
+#include "Facile.h"
+#include "LirePage.h"
+#include "SansSaisie.h"
+
+#include "platform/controls/WaitPointer.h"
+#include "platform/webview/Engine.h"
+#include "store/Configuration.h"
+#include "store/Programme.h"
+#include "webimport/FichierTemporaire.h"
+#include "webimport/Marquage.h"
+#include "webimport/Page.h"
+#include "webimport/PageCommentee.h"
+#include "webimport/PageDebutFin.h"
+
+#include <QFile>
+#include <QSignalBlocker>
+#include <QUrl>
+
+namespace facile {
+
+namespace {
+
+using namespace platform::controls;
+
+constexpr Twips kEcartLignes{50};
+constexpr Twips kHauteurDepart{1000}; // over which the rows scroll at first
+// A display server ends a program that gives a window too long a title.
+constexpr qsizetype kTitreLePlusLong = 200;
+
+QString CheminTemporaire() {
+    return store::DossierProgramme() + QStringLiteral("/temp.txt");
+}
+
+/// Tool tips would take tags of the page for their own.
+QString EnInfobulle(const QString &texte) {
+    return Qt::mightBeRichText(texte) ? texte.toHtmlEscaped() : texte;
+}
+
+void Montrer(TextBox &champ, const webimport::ChampPage &valeur) {
+    champ.SetText(valeur.texte);
+    champ.setCursorPosition(0);
+    if (valeur.infobulle) {
+        champ.setToolTip(EnInfobulle(*valeur.infobulle));
+    }
+}
+
+void Montrer(Label &etiquette, const webimport::ChampPage &valeur) {
+    etiquette.SetCaption(valeur.texte);
+    if (valeur.infobulle) {
+        etiquette.setToolTip(EnInfobulle(*valeur.infobulle));
+    }
+}
+
+void Montrer(RichTextBox &saisie, const webimport::ChampPage &valeur, const webimport::CouleursTexte &couleurs) {
+    const QSignalBlocker parLeProgramme(&saisie);
+    saisie.setPlainText(valeur.texte);
+    if (valeur.infobulle) {
+        saisie.setToolTip(EnInfobulle(*valeur.infobulle));
+    }
+    webimport::MarquerTexte(*saisie.document(), couleurs);
+    saisie.moveCursor(QTextCursor::End);
+}
+
+void MontrerLignes(Facile &fenetre, const std::vector<webimport::LigneIngredient> &lignes) {
+    ScrollPanel &cadre = fenetre.Scroll(1);
+    cadre.SetScrollableHeight(kHauteurDepart);
+    for (int n = 0; n < static_cast<int>(lignes.size()); ++n) {
+        if (n > 0) {
+            fenetre.ChargerLigne(fenetre.Ingre(n - 1).Bottom() + kEcartLignes);
+        }
+        const Twips bas = fenetre.Qte2(n).Bottom();
+        if (cadre.Height() < bas + Twips(300)) {
+            cadre.SetScrollableHeight(bas + Twips(100));
+        }
+        const webimport::LigneIngredient &ligne = lignes[static_cast<std::size_t>(n)];
+        fenetre.Qte(n).SetText(ligne.Quantite);
+        fenetre.Qte2(n).SetText(ligne.Mesure);
+        fenetre.Ingre(n).SetText(ligne.Ingredient);
+    }
+    cadre.ScrollToTop();
+}
+
+void Montrer(Facile &fenetre, const webimport::ChampsPage &champs) {
+    Montrer(fenetre.TitreRecette, champs.TitreRecette);
+    Montrer(fenetre.calorie, champs.calorie);
+    Montrer(fenetre.DReal, champs.DReal);
+    for (int index = 0; index < fenetre.Liste.Count(); ++index) {
+        Montrer(fenetre.Liste(index), champs.Liste.at(static_cast<std::size_t>(index)));
+    }
+    fenetre.NomPhoto.SetText(champs.NomPhoto);
+    MontrerLignes(fenetre, champs.Lignes);
+    Montrer(fenetre.Saisie(0), champs.Saisie[webimport::SaisieMethode], webimport::CouleursMethode);
+    Montrer(fenetre.Saisie(1), champs.Saisie[webimport::SaisieComplements], webimport::CouleursComplements);
+}
+
+/// The page as it comes back from the temporary file, in whose characters the site is written.
+webimport::PageCapturee PasserParLeFichier(Facile &fenetre) {
+    webimport::EcrireTexte(CheminTemporaire(), LirePage(*fenetre.Navigateur));
+    return {.texte = webimport::LireTexte(CheminTemporaire()),
+            .adresse = fenetre.Navigateur->address().toString(QUrl::FullyEncoded),
+            .site = {.accueil = store::AdresseComplete(store::PartnerSiteHome),
+                     .hote = store::PartnerSiteHost.toString()}};
+}
+
+webimport::ChampsPage Extraire(Facile &fenetre, const webimport::PageCapturee &page) {
+    if (webimport::EstPageDebutFin(page.texte)) {
+        return webimport::ExtrairePageDebutFin(page, fenetre.Memoire);
+    }
+    return webimport::ExtrairePageCommentee(
+        page, [&fenetre](const QString &ligne) { fenetre.setWindowTitle(ligne.left(kTitreLePlusLong)); });
+}
+
+void CapturerPage(Facile &fenetre) {
+    ViderChamps(fenetre);
+    for (const double part : {5.0, 50.0}) {
+        fenetre.Pb.SetFloodPercent(part);
+    }
+    const webimport::PageCapturee page = PasserParLeFichier(fenetre);
+    fenetre.Pb.SetFloodPercent(55);
+    Montrer(fenetre, Extraire(fenetre, page));
+    ChargerPhoto(fenetre);
+    fenetre.Pb.SetFloodPercent(100);
+    fenetre.Pb.hide();
+    fenetre.setWindowTitle(QStringLiteral("terminé ..."));
+}
+
+void AnalyserPage(Facile &fenetre) {
+    fenetre.MontrerPhoto({});
+    fenetre.TitreRecette.SetText({});
+    fenetre.NomPhoto.SetText({});
+    CapturerPage(fenetre);
+}
+
+} // namespace
+
+void ViderChamps(Facile &fenetre) {
+    fenetre.ViderTextes();
+    while (fenetre.Ingre.Count() > 1) {
+        for (Facile::Array<TextBox> *colonne : {&fenetre.Ingre, &fenetre.Qte, &fenetre.Qte2}) {
+            colonne->UnloadLast();
+        }
+    }
+    fenetre.calorie.SetCaption({});
+    fenetre.DReal.SetText({});
+}
+
+void PresserAnalyse(Facile &fenetre) {
+    const SansSaisie sansSaisie;
+    const WaitPointer sablier;
+    fenetre.MontrerNavigation(false);
+    AnalyserPage(fenetre);
+    fenetre.Analyse.SetValue(false);
+    fenetre.MontrerFiche();
+    fenetre.MontrerAnalyse(false);
+    QFile::remove(CheminPhotoRecue());
+    QFile::remove(CheminTemporaire());
+}
+
+} // namespace facile

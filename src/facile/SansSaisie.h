@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QObject>
+
+namespace facile {
+
+/// While it lives, what the user does to the program is lost; it goes on painting itself.
+class SansSaisie : public QObject {
+    Q_OBJECT
+
+public:
+    SansSaisie();
+
+protected:
+    bool eventFilter(QObject *objet, QEvent *evenement) override;
+};
+
+} // namespace facile

@@ -1,0 +1,293 @@
+// The window of the import over a browser without a web: what it reads, keeps and stores.
+#include "LivreEssai.h"
+#include "Reponse.h"
+
+#include "facile/Facile.h"
+#include "pictures/EnregistrerPhoto.h"
+#include "platform/webview/Engine.h"
+
+#include <QBuffer>
+#include <QUrl>
+
+using facile::Facile;
+using namespace platform::webview;
+
+namespace {
+
+/// The pages of a browser that has none: each is the text that its script gives.
+class VueEssai : public View {
+public:
+    VueEssai(QWidget &parent, Events evenements)
+        : m_controle(std::make_unique<QWidget>(&parent)), m_evenements(std::move(evenements)) {}
+
+    /// Another page comes; its text stands when the browser is asked.
+    void charger(const std::optional<QString> &texte, const QString &adresse = u"http://site.example/r"_qs) {
+        m_evenements.began();
+        m_texte = texte;
+        m_adresse = QUrl(adresse);
+        m_evenements.complete();
+    }
+
+    void annoncer() { m_evenements.began(); }
+
+    void historique(bool precedente, bool suivante) { m_evenements.history(precedente, suivante); }
+
+    QWidget &widget() override { return *m_controle; }
+    void navigate(const QUrl &adresse) override { visites += adresse.toString(); }
+    void back() override { visites += u"<"_qs; }
+    void forward() override { visites += u">"_qs; }
+    void stop() override {}
+    QUrl address() const override { return m_adresse; }
+    QString title() const override { return {}; }
+
+    void runScript(const QString & /*source*/,
+                   std::function<void(const std::optional<QString> &)> resultat) override {
+        if (retenir) {
+            enAttente.push_back([resultat, texte = m_texte] { resultat(texte); });
+        } else {
+            resultat(m_texte);
+        }
+    }
+
+    QStringList visites;
+    bool retenir = false; ///< answers wait until they are called
+    std::vector<std::function<void()>> enAttente;
+
+private:
+    std::unique_ptr<QWidget> m_controle;
+    Events m_evenements;
+    std::optional<QString> m_texte;
+    QUrl m_adresse;
+};
+
+class MoteurEssai : public Engine {
+public:
+    QString obstacle() const override { return {}; }
+
+    std::unique_ptr<View> makeView(QWidget &parent, const QString & /*dossier*/, Events evenements) override {
+        auto nouvelle = std::make_unique<VueEssai>(parent, std::move(evenements));
+        vue = nouvelle.get();
+        return nouvelle;
+    }
+
+    std::optional<QByteArray> openUrl(const QUrl &adresse, const QString & /*dossier*/) override {
+        demandes += adresse.toString();
+        pendant();
+        return reponse;
+    }
+
+    VueEssai *vue = nullptr;
+    std::optional<QByteArray> reponse;
+    QStringList demandes;
+    std::function<void()> pendant = [] {};
+};
+
+QByteArray photo(int largeur) {
+    QImage image(largeur, 30, QImage::Format_RGB32);
+    image.fill(Qt::darkGreen);
+    QByteArray octets;
+    QBuffer fichier(&octets);
+    image.save(&fichier, "PNG");
+    return octets;
+}
+
+/// A page of the commented layout; a section that is empty is left out.
+struct PageEssai {
+    QString titre = u"Tarte"_qs, cuisson = u"30 min"_qs, vin = {}, photo = {};
+    QStringList ingredients = {u"250 g de farine"_qs, u"3 oeufs"_qs, u"sel"_qs};
+    QString preparation = u"1 h"_qs;
+
+    QString texte() const {
+        QString lignes = section(u"TITRE RECETTE"_qs, titre, u"</TD>"_qs);
+        if (!photo.isEmpty()) {
+            lignes += section(u"IMAGES RECETTE"_qs, u"<IMG src=\"%1\">"_qs.arg(photo), u"<!-- FIN IMAGES RECETTE -->"_qs);
+        }
+        if (!preparation.isEmpty()) {
+            lignes += section(u"Préparation"_qs, preparation, u"<!-- fin durée préparation -->"_qs);
+        }
+        if (!cuisson.isEmpty()) {
+            lignes += u"<!--Cuisson -->"_qs + cuisson + u"<!-- fin Cuisson -->\r\n"_qs;
+        }
+        lignes += section(u"CONSEIL VIN"_qs, vin, u"<!-- FIN CONSEIL VIN -->"_qs);
+        lignes += u"<!-- debut ingredient -->\r\n<UL>\r\n<LI>"_qs + ingredients.join(u"\r\n <LI>"_qs) +
+                  u"</LI></UL><!-- fin ingredient -->\r\n"_qs;
+        return lignes + u"<IMG src=\"puce.gif\">Cuire <B>bien</B> fort.<BR><!-- FIN RECETTE -->\r\n"_qs;
+    }
+
+private:
+    static QString section(const QString &nom, const QString &contenu, const QString &fin) {
+        return u"<!-- "_qs + nom + u" -->"_qs + contenu + fin + u"\r\n"_qs;
+    }
+};
+
+} // namespace
+
+class TestFacile : public QObject {
+    Q_OBJECT
+
+private:
+    void lire(const PageEssai &page) {
+        m_moteur.vue->charger(page.texte());
+        m_fenetre->Analyse.SetValue(true);
+    }
+
+    /// Presses Creer and answers what it says.
+    QString creer() {
+        Reponse reponse(u"OK"_qs);
+        m_fenetre->Creer.SetValue(true);
+        return reponse.question();
+    }
+
+    QStringList lignes() const {
+        QStringList textes;
+        for (int n = 0; n < m_fenetre->Ingre.Count(); ++n) {
+            textes += m_fenetre->Qte(n).Text() + u'|' + m_fenetre->Qte2(n).Text() + u'|' + m_fenetre->Ingre(n).Text();
+        }
+        return textes;
+    }
+
+    static int recettes() {
+        auto livre = store::OuvrirLivre();
+        return livre.OpenRecordset(u"SELECT * From Cocktails"_qs).RecordCount();
+    }
+
+    std::unique_ptr<LivreEssai> m_livre;
+    std::unique_ptr<browser::Frmmain> m_principale;
+    MoteurEssai m_moteur;
+    std::unique_ptr<Facile> m_fenetre;
+
+private Q_SLOTS:
+
+    void init() {
+        m_livre = std::make_unique<LivreEssai>();
+        m_principale = std::make_unique<browser::Frmmain>();
+        m_moteur = MoteurEssai();
+        m_fenetre = std::make_unique<Facile>(*m_principale, m_moteur);
+        m_fenetre->show();
+    }
+
+    void cleanup() { m_fenetre.reset(); }
+
+    void analysisIsOfferedForRecipesOnly() {
+        QVERIFY(m_moteur.vue->visites.value(0).endsWith(u"/facile/facile.htm"_qs));
+        m_moteur.vue->charger(u"<BODY>Bonjour</BODY>"_qs);
+        QVERIFY(!m_fenetre->Analyse.isVisible());
+        m_moteur.vue->charger(PageEssai().texte());
+        QVERIFY(m_fenetre->Analyse.isVisible());
+        m_moteur.vue->annoncer();
+        QVERIFY(!m_fenetre->Analyse.isVisible());
+        m_moteur.vue->charger(std::nullopt);
+        QVERIFY(m_fenetre->Analyse.isVisible());
+        m_moteur.vue->historique(true, false);
+        QVERIFY(m_fenetre->Navi(0).isEnabled() && !m_fenetre->Navi(1).isEnabled());
+        m_fenetre->Navi(0).SetValue(true);
+        QVERIFY(!m_fenetre->Analyse.isVisible() && !m_fenetre->Navi(0).Value());
+        QCOMPARE(m_moteur.vue->visites.last(), u"<"_qs);
+    }
+
+    void lateAnswerOfTheLastPageCountsNoMore() {
+        m_moteur.vue->retenir = true;
+        m_moteur.vue->charger(PageEssai().texte());
+        m_moteur.vue->annoncer();
+        m_moteur.vue->enAttente.front()();
+        QVERIFY(!m_fenetre->Analyse.isVisible());
+    }
+
+    void pageBecomesARecipe() {
+        m_moteur.reponse = photo(40);
+        lire({.titre = u"Pommes/poires"_qs, .vin = u"Vin d'Alsace"_qs, .photo = u"p.jpg"_qs});
+        QVERIFY(m_fenetre->Fond.isVisible() && !m_moteur.vue->widget().isVisible());
+        QVERIFY(!m_fenetre->Navi(0).isVisible() && !m_fenetre->Analyse.isVisible() && !m_fenetre->Pb.isVisible());
+        QCOMPARE(m_fenetre->windowTitle(), u"terminé ..."_qs);
+        QCOMPARE(lignes(), (QStringList{u"250 |g de |farine"_qs, u"3 ||oeufs"_qs, u"||sel"_qs}));
+        QCOMPARE(m_fenetre->Saisie(0).Text(), u"- Cuire bien fort."_qs);
+        QVERIFY(!QFile::exists(m_livre->path(u"temp.txt"_qs)) && !QFile::exists(m_livre->path(u"photo.bmp"_qs)));
+
+        QCOMPARE(creer(), u"Création réussie ! "_qs);
+        QCOMPARE(LivreEssai::text(u"SELECT Numero, Recette From Cocktails"_qs), u"Pommes poires"_qs);
+        QCOMPARE(LivreEssai::text(u"SELECT Numero, Photo From Cocktails"_qs), u"Pommes poires.jpg"_qs);
+        QCOMPARE(LivreEssai::text(u"SELECT NVIN, VIN From VIN"_qs), u"Vin dAlsace"_qs);
+        QCOMPARE(QImage(m_livre->path(u"photos/Pommes poires.jpg"_qs)).width(), 40);
+        // The last line first.
+        QCOMPARE(LivreEssai::text(u"SELECT NIngredient, Ingredient From Ingredient where NIngredient = 1"_qs), u"sel"_qs);
+        QCOMPARE(LivreEssai::text(u"SELECT NQuantite, Quantite From Quantite where NQuantite = 1"_qs), u"3 "_qs);
+        QVERIFY(!m_fenetre->Fond.isVisible() && m_fenetre->Analyse.isVisible() && !m_fenetre->Creer.Value());
+    }
+
+    void refusedSaveLeavesTheButtonDown() {
+        lire({.cuisson = {}});
+        QCOMPARE(creer(), u"Veuillez d'abord saisir une durée de cuisson !"_qs);
+        QVERIFY(m_fenetre->Creer.Value() && m_fenetre->Fond.isVisible() && m_fenetre->Navi(0).isVisible());
+        m_fenetre->Liste(3).SetText(u"20 min"_qs);
+        m_fenetre->Creer.click(); // releases it, no more
+        QVERIFY(!m_fenetre->Creer.Value());
+        QCOMPARE(recettes(), 0);
+        QCOMPARE(creer(), u"Création réussie ! "_qs);
+        QCOMPARE(recettes(), 1);
+
+        lire({.titre = u"  "_qs});
+        QCOMPARE(creer(), u"Veuillez d'abord saisir le nom de la recette !"_qs);
+        QVERIFY(!m_fenetre->RecetteCreee);
+        QCOMPARE(recettes(), 1);
+    }
+
+    void whatStaysFromPageToPage() {
+        m_moteur.reponse = photo(40);
+        lire({.photo = u"p.jpg"_qs});
+        QCOMPARE(m_fenetre->Ingre.Count(), 3);
+        m_fenetre->Revenir.SetValue(true);
+        QVERIFY(m_fenetre->TitreRecette.Text().isEmpty() && m_fenetre->Saisie(0).Text().isEmpty());
+        QCOMPARE(lignes(), (QStringList{u"||"_qs, u"||"_qs, u"||"_qs}));
+        QCOMPARE(m_fenetre->DReal.Text(), u"1 h"_qs);
+        QVERIFY(m_fenetre->Analyse.isVisible() && m_fenetre->Status.isVisible());
+
+        m_moteur.reponse = std::nullopt;
+        lire({.titre = u"Soupe"_qs, .ingredients = {u"sel"_qs}, .preparation = {}});
+        QCOMPARE(lignes(), QStringList{u"||sel"_qs});
+        QCOMPARE(m_fenetre->DReal.Text(), QString());
+        QVERIFY(m_fenetre->NomPhoto.Text().isEmpty());
+        QCOMPARE(m_fenetre->Photo.Picture().width(), 40); // that of the page before
+
+        m_moteur.reponse = QByteArrayLiteral("<html>404</html>");
+        lire({});
+        QVERIFY(m_fenetre->Photo.Picture().isNull());
+    }
+
+    void rowsScrollWhereTheyDoNotFit() {
+        PageEssai page;
+        page.ingredients.fill(u"sel"_qs, 20);
+        lire(page);
+        QCOMPARE(m_fenetre->Ingre.Count(), 20);
+        QCOMPARE(m_fenetre->Qte(19).Top(), m_fenetre->Ingre(19).Top());
+        QCOMPARE(m_fenetre->Ingre(19).Top(), m_fenetre->Ingre(18).Bottom() + platform::controls::Twips(50));
+        QVERIFY(!(m_fenetre->Scroll(1).ScrollableHeight() < m_fenetre->Ingre(19).Bottom()));
+    }
+
+    void pictureThatCannotBeWrittenStoresNoRecipe() {
+        m_moteur.reponse = photo(40);
+        lire({.titre = QString(300, u'a'), .photo = u"p.jpg"_qs});
+        QVERIFY_EXCEPTION_THROWN(m_fenetre->Creer.SetValue(true), pictures::PhotoError);
+        QCOMPARE(recettes(), 0);
+        m_fenetre->Creer.SetValue(false);
+        m_moteur.reponse = QByteArray();
+        lire({.titre = QString(300, u'a')});
+        QCOMPARE(creer(), u"Création réussie ! "_qs);
+    }
+
+    void nothingIsTakenFromTheUserDuringAnAnalysis() {
+        m_moteur.pendant = [this] {
+            QTest::mouseClick(&m_fenetre->Quit, Qt::LeftButton);
+            QTest::keyClick(m_fenetre.get(), Qt::Key_Escape);
+            m_fenetre->close();
+        };
+        bool fermee = false;
+        connect(m_fenetre.get(), &Facile::CloseRequested, m_fenetre.get(), [&fermee] { fermee = true; });
+        lire({});
+        QVERIFY(!fermee && m_fenetre->isVisible());
+        m_fenetre->close();
+        QVERIFY(fermee);
+    }
+};
+
+QTEST_MAIN(TestFacile)
+#include "TestFacile.moc"
