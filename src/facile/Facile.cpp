@@ -243,6 +243,7 @@ void Facile::OuvrirNavigateur() {
     applyRow(page, rowNamed(kControles, "WebBrowser1"));
     page.setGeometry(rowNamed(kControles, "WebBrowser1").place().pixels());
     page.show();
+    page.setFocus();
     Navigateur->navigate(
         QUrl::fromLocalFile(store::DossierProgramme() + QStringLiteral("/facile/facile.htm")));
 }

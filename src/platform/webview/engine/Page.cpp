@@ -7,7 +7,14 @@
 
 namespace platform::webview {
 
-Page::Page(QWebEngineProfile *profile, const QString &folder) : QWebEnginePage(profile), m_folder(folder) {
+// The browser lets pages from the net not near any file, but pages of files near all.
+void FileGuard::interceptRequest(QWebEngineUrlRequestInfo &request) {
+    request.block(request.requestUrl().isLocalFile() && !isPlaceToGo(request.requestUrl(), m_folder));
+}
+
+Page::Page(QWebEngineProfile *profile, const QString &folder) 
+    : QWebEnginePage(profile), m_folder(folder), m_guard(folder) {
+    setUrlRequestInterceptor(&m_guard);
     restrict();
     connect(this, &QWebEnginePage::newWindowRequested, this, [this](const QWebEngineNewWindowRequest &request) {
         if (request.isUserInitiated() && isPlaceToGo(request.requestedUrl(), m_folder)) {
@@ -21,11 +28,11 @@ Page::Page(QWebEngineProfile *profile, const QString &folder) : QWebEnginePage(p
 
 void Page::restrict() {
     constexpr QWebEngineSettings::WebAttribute kRefused[]{
-        QWebEngineSettings::LocalContentCanAccessRemoteUrls, QWebEngineSettings::LocalContentCanAccessFileUrls,
-        QWebEngineSettings::LocalStorageEnabled,             QWebEngineSettings::JavascriptCanOpenWindows,
-        QWebEngineSettings::JavascriptCanAccessClipboard,    QWebEngineSettings::PluginsEnabled,
-        QWebEngineSettings::PdfViewerEnabled,                QWebEngineSettings::FullScreenSupportEnabled,
-        QWebEngineSettings::ScreenCaptureEnabled,            QWebEngineSettings::DnsPrefetchEnabled,
+        QWebEngineSettings::LocalContentCanAccessRemoteUrls, QWebEngineSettings::LocalStorageEnabled,
+        QWebEngineSettings::JavascriptCanOpenWindows,        QWebEngineSettings::JavascriptCanAccessClipboard,
+        QWebEngineSettings::PluginsEnabled,                  QWebEngineSettings::PdfViewerEnabled,
+        QWebEngineSettings::FullScreenSupportEnabled,        QWebEngineSettings::ScreenCaptureEnabled,
+        QWebEngineSettings::DnsPrefetchEnabled,
     };
     for (const auto attribute : kRefused) {
         settings()->setAttribute(attribute, false);

@@ -1,8 +1,22 @@
 #pragma once
 
 #include <QWebEnginePage>
+#include <QWebEngineUrlRequestInterceptor>
 
 namespace platform::webview {
+
+/// Keeps a page from the files of this computer, but for those in a folder.
+class FileGuard : public QWebEngineUrlRequestInterceptor {
+    Q_OBJECT
+
+public:
+    explicit FileGuard(const QString &folder) : m_folder(folder) {}
+
+    void interceptRequest(QWebEngineUrlRequestInfo &request) override;
+
+private:
+    QString m_folder;
+};
 
 /// A page that goes only where it may, and neither asks nor tells the user anything by boxes of its own.
 class Page : public QWebEnginePage {
@@ -25,6 +39,7 @@ private:
     void restrict();
 
     QString m_folder;
+    FileGuard m_guard;
 };
 
 } // namespace platform::webview
