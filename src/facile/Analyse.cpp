@@ -54,7 +54,8 @@ void Montrer(Label &etiquette, const webimport::ChampPage &valeur) {
     }
 }
 
-void Montrer(RichTextBox &saisie, const webimport::ChampPage &valeur, const webimport::CouleursTexte &couleurs) {
+void Montrer(RichTextBox &saisie, const webimport::ChampPage &valeur,
+             const webimport::CouleursTexte &couleurs) {
     const QSignalBlocker parLeProgramme(&saisie);
     saisie.setPlainText(valeur.texte);
     if (valeur.infobulle) {

@@ -16,6 +16,7 @@
 namespace browser {
 class Frmmain;
 }
+
 namespace platform::webview {
 class Engine;
 class View;

@@ -48,10 +48,11 @@ void OuvrirImport(Fenetres &fenetres) {
     try {
         fenetre = &fenetres.Import();
     } catch (const platform::webview::WebViewError &obstacle) {
-        platform::dialogs::Message(&fenetres.Principale, store::TitreProgramme.toString(),
-                                   QStringLiteral("Le navigateur de la création facile n'est pas disponible.\n\n") +
-                                       QString::fromUtf8(obstacle.what()),
-                                   platform::dialogs::Icon::Exclamation);
+        platform::dialogs::Message(
+            &fenetres.Principale, store::TitreProgramme.toString(),
+            QStringLiteral("Le navigateur de la création facile n'est pas disponible.\n\n") +
+                QString::fromUtf8(obstacle.what()),
+            platform::dialogs::Icon::Exclamation);
         return;
     }
     OuvrirOutil(fenetres, *fenetre);

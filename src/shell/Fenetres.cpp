@@ -60,14 +60,12 @@ entry::Manuelle &Fenetres::Creation() {
 }
 
 facile::Facile &Fenetres::Import() {
-    const bool nouvelle = !m_import;
-    facile::Facile &fenetre =
-        Preparee(m_import, *this, Principale,
-                 platform::webview::loadEngine(store::DossierProgramme() + QStringLiteral("/moteur-web.so")));
-    if (nouvelle) {
-        fenetre.SetMode(ModeCreation());
+    if (!m_import) {
+        platform::webview::Engine &moteur =
+            platform::webview::loadEngine(store::DossierProgramme() + QStringLiteral("/moteur-web.so"));
+        Preparee(m_import, *this, Principale, moteur).SetMode(ModeCreation());
     }
-    return fenetre;
+    return *m_import;
 }
 
 void Fenetres::Decharger() {

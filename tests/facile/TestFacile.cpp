@@ -33,11 +33,17 @@ public:
     void historique(bool precedente, bool suivante) { m_evenements.history(precedente, suivante); }
 
     QWidget &widget() override { return *m_controle; }
+
     void navigate(const QUrl &adresse) override { visites += adresse.toString(); }
+
     void back() override { visites += u"<"_qs; }
+
     void forward() override { visites += u">"_qs; }
+
     void stop() override {}
+
     QUrl address() const override { return m_adresse; }
+
     QString title() const override { return {}; }
 
     void runScript(const QString & /*source*/,
@@ -100,7 +106,8 @@ struct PageEssai {
     QString texte() const {
         QString lignes = section(u"TITRE RECETTE"_qs, titre, u"</TD>"_qs);
         if (!photo.isEmpty()) {
-            lignes += section(u"IMAGES RECETTE"_qs, u"<IMG src=\"%1\">"_qs.arg(photo), u"<!-- FIN IMAGES RECETTE -->"_qs);
+            lignes += section(u"IMAGES RECETTE"_qs, u"<IMG src=\"%1\">"_qs.arg(photo),
+                              u"<!-- FIN IMAGES RECETTE -->"_qs);
         }
         if (!preparation.isEmpty()) {
             lignes += section(u"Préparation"_qs, preparation, u"<!-- fin durée préparation -->"_qs);
@@ -141,7 +148,8 @@ private:
     QStringList lignes() const {
         QStringList textes;
         for (int n = 0; n < m_fenetre->Ingre.Count(); ++n) {
-            textes += m_fenetre->Qte(n).Text() + u'|' + m_fenetre->Qte2(n).Text() + u'|' + m_fenetre->Ingre(n).Text();
+            textes += m_fenetre->Qte(n).Text() + u'|' + m_fenetre->Qte2(n).Text() + u'|' +
+                      m_fenetre->Ingre(n).Text();
         }
         return textes;
     }
@@ -197,11 +205,13 @@ private Q_SLOTS:
         m_moteur.reponse = photo(40);
         lire({.titre = u"Pommes/poires"_qs, .vin = u"Vin d'Alsace"_qs, .photo = u"p.jpg"_qs});
         QVERIFY(m_fenetre->Fond.isVisible() && !m_moteur.vue->widget().isVisible());
-        QVERIFY(!m_fenetre->Navi(0).isVisible() && !m_fenetre->Analyse.isVisible() && !m_fenetre->Pb.isVisible());
+        QVERIFY(!m_fenetre->Navi(0).isVisible() && !m_fenetre->Analyse.isVisible() &&
+                !m_fenetre->Pb.isVisible());
         QCOMPARE(m_fenetre->windowTitle(), u"terminé ..."_qs);
         QCOMPARE(lignes(), (QStringList{u"250 |g de |farine"_qs, u"3 ||oeufs"_qs, u"||sel"_qs}));
         QCOMPARE(m_fenetre->Saisie(0).Text(), u"- Cuire bien fort."_qs);
-        QVERIFY(!QFile::exists(m_livre->path(u"temp.txt"_qs)) && !QFile::exists(m_livre->path(u"photo.bmp"_qs)));
+        QVERIFY(!QFile::exists(m_livre->path(u"temp.txt"_qs)) &&
+                !QFile::exists(m_livre->path(u"photo.bmp"_qs)));
 
         QCOMPARE(creer(), u"Création réussie ! "_qs);
         QCOMPARE(LivreEssai::text(u"SELECT Numero, Recette From Cocktails"_qs), u"Pommes poires"_qs);
@@ -209,8 +219,10 @@ private Q_SLOTS:
         QCOMPARE(LivreEssai::text(u"SELECT NVIN, VIN From VIN"_qs), u"Vin dAlsace"_qs);
         QCOMPARE(QImage(m_livre->path(u"photos/Pommes poires.jpg"_qs)).width(), 40);
         // The last line first.
-        QCOMPARE(LivreEssai::text(u"SELECT NIngredient, Ingredient From Ingredient where NIngredient = 1"_qs), u"sel"_qs);
-        QCOMPARE(LivreEssai::text(u"SELECT NQuantite, Quantite From Quantite where NQuantite = 1"_qs), u"3 "_qs);
+        QCOMPARE(LivreEssai::text(u"SELECT NIngredient, Ingredient From Ingredient where NIngredient = 1"_qs),
+                 u"sel"_qs);
+        QCOMPARE(LivreEssai::text(u"SELECT NQuantite, Quantite From Quantite where NQuantite = 1"_qs),
+                 u"3 "_qs);
         QVERIFY(!m_fenetre->Fond.isVisible() && m_fenetre->Analyse.isVisible() && !m_fenetre->Creer.Value());
     }
 

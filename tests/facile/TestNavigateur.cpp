@@ -22,7 +22,8 @@ constexpr int kPatience = 30000; // ms
 /// A server that answers each request with what a function makes of its path.
 class Serveur : public QTcpServer {
 public:
-    explicit Serveur(std::function<QByteArray(const QByteArray &chemin)> reponse) : m_reponse(std::move(reponse)) {
+    explicit Serveur(std::function<QByteArray(const QByteArray &chemin)> reponse)
+        : m_reponse(std::move(reponse)) {
         listen(QHostAddress::LocalHost);
         connect(this, &QTcpServer::newConnection, this, [this] {
             QTcpSocket *client = nextPendingConnection();
@@ -57,12 +58,15 @@ private:
 
     bool attendre(const QString &page) {
         return QTest::qWaitFor(
-            [&] { return m_fenetre->Status.Caption() == u"Terminé"_qs && adresse().endsWith(page); }, kPatience);
+            [&] { return m_fenetre->Status.Caption() == u"Terminé"_qs && adresse().endsWith(page); },
+            kPatience);
     }
 
     QString adresse() const { return m_fenetre->Navigateur->address().toString(); }
 
-    void aller(const QString &page) { m_fenetre->Navigateur->navigate(QUrl::fromLocalFile(m_livre->path(page))); }
+    void aller(const QString &page) {
+        m_fenetre->Navigateur->navigate(QUrl::fromLocalFile(m_livre->path(page)));
+    }
 
     void executer(const QString &script) {
         m_fenetre->Navigateur->runScript(script, [](const std::optional<QString> &) {});
@@ -148,9 +152,12 @@ private Q_SLOTS:
             if (chemin == "/la") {
                 return "HTTP/1.1 200 OK\r\nContent-Length: 4\r\n\r\nvoir";
             }
-            return chemin == "/trop" ? "HTTP/1.1 200 OK\r\n\r\n" + trop : "HTTP/1.1 404 Non\r\nContent-Length: 4\r\n\r\nrien";
+            return chemin == "/trop" ? "HTTP/1.1 200 OK\r\n\r\n" + trop
+                                     : "HTTP/1.1 404 Non\r\nContent-Length: 4\r\n\r\nrien";
         });
-        const auto chercher = [this](const QUrl &adresse) { return m_moteur->openUrl(adresse, m_livre->path({})); };
+        const auto chercher = [this](const QUrl &adresse) {
+            return m_moteur->openUrl(adresse, m_livre->path({}));
+        };
         QCOMPARE(chercher(serveur.adresse(u"ici"_qs)), std::optional(QByteArrayLiteral("voir")));
         QCOMPARE(chercher(serveur.adresse(u"trop"_qs)), std::nullopt);
         QCOMPARE(chercher(serveur.adresse(u"rien"_qs)), std::nullopt);

@@ -184,6 +184,14 @@ private Q_SLOTS:
         QVERIFY(m_window->isVisible());
         QCOMPARE(LivreEssai::setting(u"MainTop"_qs), QString());
     }
+
+    void importWithoutItsBrowserIsToldAndNoMore() {
+        start();
+        Answer answer(QMessageBox::AcceptRole);
+        m_window->Outils(1).SetValue(true);
+        QVERIFY2(answer.text.startsWith(u"Le navigateur"_qs), qPrintable(answer.text));
+        QVERIFY(m_window->isVisible() && !m_window->Outils(1).Value());
+    }
 };
 
 QTEST_MAIN(TestDemarrage)

@@ -15,10 +15,10 @@ namespace platform::webview {
 
 /// What a view tells the window that shows it, on the thread of the interface. None of them may throw.
 struct Events {
-    std::function<void()> began;                           ///< another page is on its way
-    std::function<void()> complete;                        ///< a page is there, or will not come
-    std::function<void(bool back, bool forward)> history;  ///< whether there is a page before and one behind
-    std::function<void(const QString &address)> hovered;   ///< the link under the pointer; empty for none
+    std::function<void()> began;                          ///< another page is on its way
+    std::function<void()> complete;                       ///< a page is there, or will not come
+    std::function<void(bool back, bool forward)> history; ///< whether there is a page before and one behind
+    std::function<void(const QString &address)> hovered;  ///< the link under the pointer; empty for none
 };
 
 /// A view of the web. It keeps nothing of what is visited beyond its life, takes no downloads, grants no page anything,
@@ -44,7 +44,8 @@ public:
 
     /// Runs a script beside those of the page, which can neither see nor change it.
     /// @param result gets the script's text, later; nothing when it gave none
-    virtual void runScript(const QString &source, std::function<void(const std::optional<QString> &)> result) = 0;
+    virtual void runScript(const QString &source,
+                           std::function<void(const std::optional<QString> &)> result) = 0;
 };
 
 /// The part of the program that goes to the web. It lies in a library of its own, which is loaded when it is first

@@ -28,8 +28,9 @@ std::optional<QByteArray> fetchFile(const QString &path) {
 QNetworkRequest requestOf(const QUrl &address) {
     QNetworkRequest request(address);
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
-    for (const auto attribute : {QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::CookieSaveControlAttribute,
-                                 QNetworkRequest::AuthenticationReuseAttribute}) {
+    for (const auto attribute :
+         {QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::CookieSaveControlAttribute,
+          QNetworkRequest::AuthenticationReuseAttribute}) {
         request.setAttribute(attribute, QNetworkRequest::Manual);
     }
     return request;
@@ -52,8 +53,11 @@ std::optional<QByteArray> fetchFromWeb(const QUrl &address) {
     if (!reply->isFinished()) {
         waiting.exec();
     }
+    if (reply->error() != QNetworkReply::NoError) {
+        return {};
+    }
     body += reply->readAll();
-    return reply->error() == QNetworkReply::NoError && body.size() <= kLargest ? std::optional(body) : std::nullopt;
+    return body.size() <= kLargest ? std::optional(body) : std::nullopt;
 }
 
 } // namespace

@@ -12,26 +12,32 @@ void FileGuard::interceptRequest(QWebEngineUrlRequestInfo &request) {
     request.block(request.requestUrl().isLocalFile() && !isPlaceToGo(request.requestUrl(), m_folder));
 }
 
-Page::Page(QWebEngineProfile *profile, const QString &folder) 
+Page::Page(QWebEngineProfile *profile, const QString &folder)
     : QWebEnginePage(profile), m_folder(folder), m_guard(folder) {
     setUrlRequestInterceptor(&m_guard);
     restrict();
-    connect(this, &QWebEnginePage::newWindowRequested, this, [this](const QWebEngineNewWindowRequest &request) {
-        if (request.isUserInitiated() && isPlaceToGo(request.requestedUrl(), m_folder)) {
-            setUrl(request.requestedUrl());
-        }
-    });
-    connect(this, &QWebEnginePage::featurePermissionRequested, this, [this](const QUrl &origin, Feature feature) {
-        setFeaturePermission(origin, feature, PermissionDeniedByUser);
-    });
+    connect(this, &QWebEnginePage::newWindowRequested, this,
+            [this](const QWebEngineNewWindowRequest &request) {
+                if (request.isUserInitiated() && isPlaceToGo(request.requestedUrl(), m_folder)) {
+                    setUrl(request.requestedUrl());
+                }
+            });
+    connect(this, &QWebEnginePage::featurePermissionRequested, this,
+            [this](const QUrl &origin, Feature feature) {
+                setFeaturePermission(origin, feature, PermissionDeniedByUser);
+            });
 }
 
 void Page::restrict() {
     constexpr QWebEngineSettings::WebAttribute kRefused[]{
-        QWebEngineSettings::LocalContentCanAccessRemoteUrls, QWebEngineSettings::LocalStorageEnabled,
-        QWebEngineSettings::JavascriptCanOpenWindows,        QWebEngineSettings::JavascriptCanAccessClipboard,
-        QWebEngineSettings::PluginsEnabled,                  QWebEngineSettings::PdfViewerEnabled,
-        QWebEngineSettings::FullScreenSupportEnabled,        QWebEngineSettings::ScreenCaptureEnabled,
+        QWebEngineSettings::LocalContentCanAccessRemoteUrls,
+        QWebEngineSettings::LocalStorageEnabled,
+        QWebEngineSettings::JavascriptCanOpenWindows,
+        QWebEngineSettings::JavascriptCanAccessClipboard,
+        QWebEngineSettings::PluginsEnabled,
+        QWebEngineSettings::PdfViewerEnabled,
+        QWebEngineSettings::FullScreenSupportEnabled,
+        QWebEngineSettings::ScreenCaptureEnabled,
         QWebEngineSettings::DnsPrefetchEnabled,
     };
     for (const auto attribute : kRefused) {
@@ -53,7 +59,8 @@ QStringList Page::chooseFiles(FileSelectionMode /*mode*/, const QStringList & /*
 void Page::javaScriptAlert(const QUrl & /*origin*/, const QString & /*text*/) {}
 
 bool Page::javaScriptConfirm(const QUrl & /*origin*/, const QString & /*text*/) {
-    return false;
+    // Also asked of the user who leaves a page that wants to keep him.
+    return true;
 }
 
 bool Page::javaScriptPrompt(const QUrl & /*origin*/, const QString & /*text*/, const QString & /*proposal*/,
@@ -61,7 +68,7 @@ bool Page::javaScriptPrompt(const QUrl & /*origin*/, const QString & /*text*/, c
     return false;
 }
 
-void Page::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel /*level*/, const QString & /*text*/, int /*line*/,
-                                    const QString & /*source*/) {}
+void Page::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel /*level*/, const QString & /*text*/,
+                                    int /*line*/, const QString & /*source*/) {}
 
 } // namespace platform::webview

@@ -31,7 +31,8 @@ protected:
                             const QStringList &acceptedMimeTypes) override;
     void javaScriptAlert(const QUrl &origin, const QString &text) override;
     bool javaScriptConfirm(const QUrl &origin, const QString &text) override;
-    bool javaScriptPrompt(const QUrl &origin, const QString &text, const QString &proposal, QString *answer) override;
+    bool javaScriptPrompt(const QUrl &origin, const QString &text, const QString &proposal,
+                          QString *answer) override;
     void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel level, const QString &text, int line,
                                   const QString &source) override;
 

@@ -28,7 +28,8 @@ void ViewWeb::connectEvents() {
             [](QWebEngineDownloadRequest *request) { request->cancel(); });
     connect(&m_page, &QWebEnginePage::loadStarted, this, [this] { m_events.began(); });
     connect(&m_page, &QWebEnginePage::loadFinished, this, [this] { m_events.complete(); });
-    connect(&m_page, &QWebEnginePage::linkHovered, this, [this](const QString &url) { m_events.hovered(url); });
+    connect(&m_page, &QWebEnginePage::linkHovered, this,
+            [this](const QString &url) { m_events.hovered(url); });
     QAction *back = m_page.action(QWebEnginePage::Back);
     QAction *forward = m_page.action(QWebEnginePage::Forward);
     for (const QAction *action : {back, forward}) {
@@ -66,9 +67,10 @@ QString ViewWeb::title() const {
 }
 
 void ViewWeb::runScript(const QString &source, std::function<void(const std::optional<QString> &)> result) {
-    m_page.runJavaScript(source, QWebEngineScript::ApplicationWorld, [result = std::move(result)](const QVariant &value) {
-        result(value.typeId() == QMetaType::QString ? std::optional(value.toString()) : std::nullopt);
-    });
+    m_page.runJavaScript(
+        source, QWebEngineScript::ApplicationWorld, [result = std::move(result)](const QVariant &value) {
+            result(value.typeId() == QMetaType::QString ? std::optional(value.toString()) : std::nullopt);
+        });
 }
 
 } // namespace platform::webview

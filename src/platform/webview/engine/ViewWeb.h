@@ -25,7 +25,8 @@ public:
     void stop() override;
     QUrl address() const override;
     QString title() const override;
-    void runScript(const QString &source, std::function<void(const std::optional<QString> &)> result) override;
+    void runScript(const QString &source,
+                   std::function<void(const std::optional<QString> &)> result) override;
 
 private:
     void connectEvents();
