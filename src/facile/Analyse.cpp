@@ -92,6 +92,7 @@ void Montrer(Facile &fenetre, const webimport::ChampsPage &champs) {
         Montrer(fenetre.Liste(index), champs.Liste.at(static_cast<std::size_t>(index)));
     }
     fenetre.NomPhoto.SetText(champs.NomPhoto);
+    fenetre.NomPhoto.setCursorPosition(0);
     MontrerLignes(fenetre, champs.Lignes);
     Montrer(fenetre.Saisie(0), champs.Saisie[webimport::SaisieMethode], webimport::CouleursMethode);
     Montrer(fenetre.Saisie(1), champs.Saisie[webimport::SaisieComplements], webimport::CouleursComplements);

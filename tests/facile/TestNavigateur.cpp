@@ -152,8 +152,10 @@ private Q_SLOTS:
             if (chemin == "/la") {
                 return "HTTP/1.1 200 OK\r\nContent-Length: 4\r\n\r\nvoir";
             }
-            return chemin == "/trop" ? "HTTP/1.1 200 OK\r\n\r\n" + trop
-                                     : "HTTP/1.1 404 Non\r\nContent-Length: 4\r\n\r\nrien";
+            if (chemin == "/trop") {
+                return "HTTP/1.1 200 OK\r\n\r\n" + trop;
+            }
+            return "HTTP/1.1 404 Non\r\nContent-Length: 4\r\n\r\nrien";
         });
         const auto chercher = [this](const QUrl &adresse) {
             return m_moteur->openUrl(adresse, m_livre->path({}));
