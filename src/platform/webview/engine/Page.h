@@ -10,7 +10,7 @@ class FileGuard : public QWebEngineUrlRequestInterceptor {
     Q_OBJECT
 
 public:
-    explicit FileGuard(const QString &folder) : m_folder(folder) {}
+    explicit FileGuard(QString folder) : m_folder(std::move(folder)) {}
 
     void interceptRequest(QWebEngineUrlRequestInfo &request) override;
 
