@@ -31,7 +31,6 @@ void CreerUneRecette(Fenetres &fenetres) {
     fenetres.Decharger();
 }
 
-<<<<<<< HEAD
 // Its picture is gone with the window.
 void OuvrirAtelier(Fenetres &fenetres) {
     OuvrirOutil(fenetres, fenetres.Atelier());
@@ -41,7 +40,8 @@ void OuvrirAtelier(Fenetres &fenetres) {
 void OuvrirFiches(Fenetres &fenetres) {
     fenetres.Fiches().ChargerFiche();
     OuvrirOutil(fenetres, fenetres.Fiches());
-=======
+}
+
 /// The one tool that needs what may not be there.
 void OuvrirImport(Fenetres &fenetres) {
     facile::Facile *fenetre = nullptr;
@@ -56,7 +56,6 @@ void OuvrirImport(Fenetres &fenetres) {
         return;
     }
     OuvrirOutil(fenetres, *fenetre);
->>>>>>> 494cc62 (Take recipes from pages of the web: the window of the import)
 }
 
 using Action = void (*)(Fenetres &);
@@ -64,17 +63,10 @@ using Action = void (*)(Fenetres &);
 /// What each tool does; a tool without an action is disabled.
 constexpr std::array<Action, 11> kActions{
     CreerUneRecette,
-<<<<<<< HEAD
-    nullptr,
+    OuvrirImport,
     OuvrirFiches,
     OuvrirAtelier,
     [](Fenetres &fenetres) { OuvrirOutil(fenetres, fenetres.Recherche()); },
-=======
-    OuvrirImport,
-    nullptr,
-    nullptr,
-    nullptr,
->>>>>>> 494cc62 (Take recipes from pages of the web: the window of the import)
     [](Fenetres &fenetres) { SauvegarderBase(fenetres.Principale); },
     [](Fenetres &fenetres) { RestaurerBase(fenetres.Principale); },
     [](Fenetres &fenetres) { Ouvrir(fenetres.Principale, store::PartnerSiteHome); },

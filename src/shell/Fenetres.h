@@ -38,6 +38,7 @@ public:
 
     /// Unloads the window of creation, unless it is open: then the one who opened it does.
     void Decharger();
+
     /// Opened in a display mode of its own. Throws platform::webview::WebViewError where the browser cannot be had.
     facile::Facile &Import();
 
