@@ -8,7 +8,7 @@
 #include "store/Vocabulaires.h"
 
 #include <QButtonGroup>
-#include <QKeyEvent>
+#include <QShortcut>
 
 #include <array>
 #include <span>
@@ -139,6 +139,8 @@ void FrmFind::Brancher(browser::Frmmain &frm) {
         });
     }
     connect(&Saisie, &TextBox::returnPressed, this, [this] { Creer.SetValue(true); });
+    const auto *bas = new QShortcut(Qt::Key_Down, &Saisie, nullptr, nullptr, Qt::WidgetShortcut);
+    connect(bas, &QShortcut::activated, this, &FrmFind::AllerAuxResultats);
     connect(&Creer, &Ribbon::toggled, this, [this](bool presse) {
         if (presse) {
             Rechercher(*this);
@@ -148,9 +150,8 @@ void FrmFind::Brancher(browser::Frmmain &frm) {
     connect(&Liste, &List::DblClick, this, [this, &frm] { MontrerResultat(*this, frm); });
 }
 
-void FrmFind::keyPressEvent(QKeyEvent *event) {
-    if (event->key() != Qt::Key_Down || !Saisie.hasFocus() || Liste.Count() == 0) {
-        ToolWindow::keyPressEvent(event);
+void FrmFind::AllerAuxResultats() {
+    if (Liste.Count() == 0) {
         return;
     }
     Liste.setFocus();

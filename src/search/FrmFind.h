@@ -49,10 +49,11 @@ public:
     int IconeRecherche = 0;
 
 protected:
-    void keyPressEvent(QKeyEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:
+    /// The keyboard goes from the text to the results, if there are any.
+    void AllerAuxResultats();
     void Grouper(Array<OptionButton> &options);
     void Peindre();
     void PreparerListes(const browser::Frmmain &frm);
