@@ -1,7 +1,9 @@
 # The Debian packages of the project, and their installation; sourced by ./run and ./test.
 
+# libwmf names expat and jpeg as libraries to link, without depending on their development packages.
 PAQUETS_CONSTRUCTION=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-base-dev-tools qt6-svg-dev
-    libsqlcipher-dev libssl-dev mdbtools-dev libsane-dev libwmf-dev qt6-webengine-dev qt6-translations-l10n)
+    libsqlcipher-dev libssl-dev mdbtools-dev libsane-dev libwmf-dev libexpat1-dev libjpeg62-turbo-dev qt6-webengine-dev
+    qt6-translations-l10n)
 PAQUETS_EXECUTION=(qt6-wayland libsane1 fonts-dejavu-core fonts-liberation fonts-comic-neue fonts-urw-base35)
 PAQUETS_ECRAN_VIRTUEL=(xvfb xauth x11-utils imagemagick)
 PAQUETS_TESTS=(qt6-declarative-dev sqlcipher poppler-utils)
