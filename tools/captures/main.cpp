@@ -1,6 +1,6 @@
-// captures PROGRAM-FOLDER PICTURES: saves pictures of the main window, for the documents: the eight sort
-// views as vue-0.png to vue-7.png, and three recipes as recette-1.png to recette-3.png. It works on a copy of
-// the folder and with settings of its own.
+// captures PROGRAM-FOLDER PICTURES: saves pictures of the windows, for the documents: the eight sort
+// views as vue-0.png to vue-7.png, three recipes as recette-1.png to recette-3.png, and the tool windows. It works
+// on a copy of the folder and with settings of its own.
 #include "browser/Frmmain.h"
 #include "browser/Vues.h"
 #include "platform/desktop/SingleInstance.h"
@@ -13,6 +13,7 @@
 #include <QScrollBar>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -35,7 +36,7 @@ void configureScreen(const QString &configuration) {
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + configuration.toUtf8());
 }
 
-void save(Frmmain &frm, const QString &picture) {
+void save(QWidget &frm, const QString &picture) {
     QCoreApplication::processEvents();
     constexpr int kSmallest = 0; // the "quality" of a PNG is how little it is compressed
     if (!frm.grab().save(picture, "PNG", kSmallest)) {
@@ -94,6 +95,26 @@ void captureRecipes(Frmmain &frm, const QString &pictures) {
     captureRecipe(frm, last, frm.Libelle(3), pictures + QStringLiteral("/recette-3.png"));
 }
 
+/// The tool windows as they open, each alone.
+void captureTools(shell::Fenetres &fenetres, const QString &pictures) {
+    fenetres.Fiches().ChargerFiche();
+    fenetres.Recherche().Saisie.SetText(QStringLiteral("p"));
+    fenetres.Recherche().Creer.SetValue(true);
+    shell::Patch patch(fenetres.Principale);
+    const std::array<std::pair<const char *, QWidget *>, 6> windows{{{"creation", &fenetres.Creation()},
+                                                                     {"fiche", &fenetres.Fiches()},
+                                                                     {"atelier", &fenetres.Atelier()},
+                                                                     {"recherche", &fenetres.Recherche()},
+                                                                     {"accueil", &fenetres.Accueil()},
+                                                                     {"affichage", &patch}}};
+    for (const auto &[name, window] : windows) {
+        window->show();
+        QCoreApplication::processEvents();
+        save(*window, QStringLiteral("%1/%2.png").arg(pictures, QLatin1String(name)));
+        window->hide();
+    }
+}
+
 void capture(const QTemporaryDir &scratch, const QString &programFolder, const QString &pictures) {
     const QString folder = scratch.filePath(QStringLiteral("programme"));
     std::filesystem::copy(programFolder.toStdString(), folder.toStdString(),
@@ -108,6 +129,7 @@ void capture(const QTemporaryDir &scratch, const QString &programFolder, const Q
     Frmmain &frm = fenetres.Principale;
     captureViews(frm, pictures);
     captureRecipes(frm, pictures);
+    captureTools(fenetres, pictures);
 }
 
 } // namespace
