@@ -68,12 +68,12 @@ void VerifierInstance(const platform::desktop::SingleInstance &instance) {
     }
 }
 
-/// True where the left half of a window's title band, by which it can be moved, lies in the available area of a screen.
-bool EstVisible(const QRect &fenetre) {
+/// True where the whole window lies in the available area of a screen.
+bool EstSurUnEcran(const QRect &fenetre) {
     const QList<QScreen *> ecrans = QGuiApplication::screens();
-    const QRect prise(fenetre.topLeft(), QSize(fenetre.width() / 2, SkinnedWindow::kBand.pixels()));
-    return std::any_of(ecrans.begin(), ecrans.end(),
-                       [&prise](const QScreen *ecran) { return ecran->availableGeometry().contains(prise); });
+    return std::any_of(ecrans.begin(), ecrans.end(), [&fenetre](const QScreen *ecran) {
+        return ecran->availableGeometry().contains(fenetre);
+    });
 }
 
 struct Place {
@@ -99,8 +99,8 @@ void Placer(browser::Frmmain &frm) {
     const Twips gauche(settings::ToSingle(
         Lire(kReglages, QStringLiteral("MainLeft"), settings::ToText(gaucheCentre.value()))));
     frm.Move(gauche, haut);
-    // The screen that the place was stored for may be gone.
-    if (!EstVisible(frm.geometry())) {
+    // The screen that the place was stored for may be gone, or the window was left half outside it.
+    if (!EstSurUnEcran(frm.geometry())) {
         Centrer(frm);
     }
 }

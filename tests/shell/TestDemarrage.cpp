@@ -96,11 +96,11 @@ private Q_SLOTS:
     void laterRunTakesUpThePlaceAndTheView() {
         for (const auto &[key, value] :
              {std::pair(u"Tris"_qs, u"1"_qs), std::pair(u"MainTop"_qs, u"150.5"_qs),
-              std::pair(u"MainLeft"_qs, u"300"_qs)}) {
+              std::pair(u"MainLeft"_qs, u"0"_qs)}) {
             LivreEssai::setSetting(key, value);
         }
         start();
-        QCOMPARE(m_window->pos(), QPoint(20, 10));
+        QCOMPARE(m_window->pos(), QPoint(0, 10));
         QCOMPARE(LivreEssai::setting(u"Tris"_qs), u"1"_qs);
         QCOMPARE(m_window->LTGauche.Caption(), u" Liste des Durées de Cuisson "_qs);
     }
