@@ -37,7 +37,7 @@ public:
     }
 
     QUrl adresse(const QString &chemin) const {
-        return QUrl(u"http://localhost:%1/%2"_qs.arg(serverPort()).arg(chemin));
+        return QUrl(u"http://127.0.0.1:%1/%2"_qs.arg(serverPort()).arg(chemin));
     }
 
 private:
