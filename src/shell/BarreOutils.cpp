@@ -28,7 +28,7 @@ void OuvrirOutil(Fenetres &fenetres, SkinnedWindow &fenetre) {
 
 void CreerUneRecette(Fenetres &fenetres) {
     OuvrirOutil(fenetres, fenetres.Creation());
-    fenetres.Decharger();
+    fenetres.OublierCreation();
 }
 
 // Its picture is gone with the window.
@@ -44,7 +44,7 @@ void OuvrirFiches(Fenetres &fenetres) {
 
 /// The one tool that needs what may not be there.
 void OuvrirImport(Fenetres &fenetres) {
-    facile::Facile *fenetre = nullptr;
+    webimport::facile::Facile *fenetre = nullptr;
     try {
         fenetre = &fenetres.Import();
     } catch (const platform::webview::WebViewError &obstacle) {

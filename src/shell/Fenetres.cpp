@@ -59,7 +59,7 @@ entry::Manuelle &Fenetres::Creation() {
     return fenetre;
 }
 
-facile::Facile &Fenetres::Import() {
+webimport::facile::Facile &Fenetres::Import() {
     if (!m_import) {
         platform::webview::Engine &moteur =
             platform::webview::loadEngine(store::DossierProgramme() + QStringLiteral("/moteur-web.so"));
@@ -68,7 +68,7 @@ facile::Facile &Fenetres::Import() {
     return *m_import;
 }
 
-void Fenetres::Decharger() {
+void Fenetres::OublierCreation() {
     if (m_creation && !m_creation->IsModal()) {
         m_creation.reset();
     }

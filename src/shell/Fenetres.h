@@ -6,11 +6,11 @@
 #include "browser/Frmmain.h"
 #include "browser/Pop.h"
 #include "entry/Manuelle.h"
-#include "facile/Facile.h"
 #include "pictures/atelier/Acquisition.h"
 #include "platform/scandialogs/ImageSource.h"
 #include "search/FrmFind.h"
 #include "sheets/FicheAlbum.h"
+#include "webimport/facile/Facile.h"
 
 #include <optional>
 
@@ -33,14 +33,14 @@ public:
     pictures::atelier::Acquisition &Atelier();
     void OublierAtelier();
 
-    /// Made anew after each Decharger, and in a display mode of its own.
+    /// Made anew after each OublierCreation, and in a display mode of its own.
     entry::Manuelle &Creation();
 
     /// Unloads the window of creation, unless it is open: then the one who opened it does.
-    void Decharger();
+    void OublierCreation();
 
     /// Opened in a display mode of its own. Throws platform::webview::WebViewError where the browser cannot be had.
-    facile::Facile &Import();
+    webimport::facile::Facile &Import();
 
     /// The tool windows made so far.
     std::vector<platform::controls::ToolWindow *> Outils();
@@ -52,7 +52,7 @@ private:
     platform::scandialogs::ImageSource m_scanner;
     std::optional<pictures::atelier::Acquisition> m_atelier;
     std::optional<entry::Manuelle> m_creation;
-    std::optional<facile::Facile> m_import;
+    std::optional<webimport::facile::Facile> m_import;
 };
 
 } // namespace shell

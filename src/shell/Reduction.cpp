@@ -40,7 +40,7 @@ void RouvrirFenetre(Fenetres &fenetres) {
     for (const Retour &retour : kRetours) {
         if (retour.outil == fenetres.Pop.FenetreOuverte) {
             retour.ouvrir(fenetres).ShowModal();
-            fenetres.Decharger();
+            fenetres.OublierCreation();
         }
     }
 }

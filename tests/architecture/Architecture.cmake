@@ -31,7 +31,7 @@ foreach(source IN LISTS sources)
       list(APPEND faults "${source} includes \"${header}\": a path out of its folder")
     endif()
     # The program itself and the tools stand above all modules.
-    if(NOT header MATCHES "^(platform|store|pictures|browser|entry|facile|webimport|sheets|search|shell)/"
+    if(NOT header MATCHES "^(platform|store|pictures|browser|entry|webimport|sheets|search|shell)/"
        OR NOT folder MATCHES "^src/")
       continue()
     endif()

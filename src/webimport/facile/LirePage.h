@@ -6,10 +6,10 @@ namespace platform::webview {
 class View;
 }
 
-namespace facile {
+namespace webimport::facile {
 
 /// The page shown, in its legacy form. Other events of the program run meanwhile.
-/// @throws webimport::ErreurExecution when the browser does not give it
+/// @throws ErreurExecution when the browser does not give it
 QString LirePage(platform::webview::View &navigateur);
 
-} // namespace facile
+} // namespace webimport::facile

@@ -10,7 +10,7 @@
 #include "store/Textes.h"
 #include "webimport/PreparationSauvegarde.h"
 
-namespace facile {
+namespace webimport::facile {
 
 namespace {
 
@@ -65,7 +65,7 @@ void CreerRecette(Facile &fenetre) {
     }
     const WaitPointer sablier;
     fenetre.RecetteCreee = true;
-    fenetre.TitreRecette.SetText(webimport::TitreAStocker(fenetre.TitreRecette.Text()));
+    fenetre.TitreRecette.SetText(TitreAStocker(fenetre.TitreRecette.Text()));
     store::RecetteSaisie saisie = LireChamps(fenetre);
     const store::TextesNouveaux nouveaux = store::EnregistrerRecette(
         saisie, store::kImport, [&fenetre](const QString &nom) { EnregistrerPhoto(fenetre, nom); });
@@ -89,4 +89,4 @@ void PresserCreer(Facile &fenetre) {
     }
 }
 
-} // namespace facile
+} // namespace webimport::facile

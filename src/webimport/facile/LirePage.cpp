@@ -9,7 +9,7 @@
 
 #include <chrono>
 
-namespace facile {
+namespace webimport::facile {
 
 namespace {
 
@@ -27,7 +27,7 @@ struct Lecture {
 
 QString LirePage(platform::webview::View &navigateur) {
     const auto lecture = std::make_shared<Lecture>();
-    navigateur.runScript(webimport::ScriptPageAncienne() + QStringLiteral("(document.documentElement)"),
+    navigateur.runScript(ScriptPageAncienne() + QStringLiteral("(document.documentElement)"),
                          [lecture](const std::optional<QString> &texte) {
                              lecture->texte = texte;
                              lecture->finie = true;
@@ -38,9 +38,9 @@ QString LirePage(platform::webview::View &navigateur) {
         lecture->attente.exec();
     }
     if (!lecture->texte) {
-        throw webimport::ErreurExecution("La page affichée ne peut pas être lue.");
+        throw ErreurExecution("La page affichée ne peut pas être lue.");
     }
     return *lecture->texte;
 }
 
-} // namespace facile
+} // namespace webimport::facile

@@ -1,6 +1,6 @@
 #pragma once
 
-namespace facile {
+namespace webimport::facile {
 
 class Facile;
 
@@ -9,4 +9,4 @@ class Facile;
 /// @throws DatabaseError, pictures::PhotoError
 void PresserCreer(Facile &fenetre);
 
-} // namespace facile
+} // namespace webimport::facile

@@ -10,7 +10,7 @@
 
 #include <exception>
 
-namespace facile {
+namespace webimport::facile {
 
 namespace {
 
@@ -45,4 +45,4 @@ void ChargerPhoto(Facile &fenetre) {
     fenetre.Photo.SetTag(fenetre.NomPhoto.Text());
 }
 
-} // namespace facile
+} // namespace webimport::facile

@@ -1,15 +1,15 @@
 #pragma once
 
-namespace facile {
+namespace webimport::facile {
 
 class Facile;
 
 /// The event of the button Analyse: reads the page shown into the fields, fetches its picture and shows the recipe. The
 /// program's events run meanwhile, but for the user's.
-/// @throws webimport::ErreurExecution for a page that cannot be read
+/// @throws ErreurExecution for a page that cannot be read
 void PresserAnalyse(Facile &fenetre);
 
 /// Empties the fields but for the address of the picture, and leaves one row of ingredients.
 void ViderChamps(Facile &fenetre);
 
-} // namespace facile
+} // namespace webimport::facile

@@ -1,6 +1,6 @@
 #pragma once
 
-namespace facile {
+namespace webimport::facile {
 
 class Facile;
 
@@ -8,4 +8,4 @@ class Facile;
 /// picture fetched before is shown once more.
 void ChargerPhoto(Facile &fenetre);
 
-} // namespace facile
+} // namespace webimport::facile

@@ -2,9 +2,9 @@
 #include "LivreEssai.h"
 #include "Reponse.h"
 
-#include "facile/Facile.h"
 #include "platform/webview/Engine.h"
 #include "platform/webview/LoadEngine.h"
+#include "webimport/facile/Facile.h"
 
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -12,7 +12,7 @@
 
 #include <optional>
 
-using facile::Facile;
+using webimport::facile::Facile;
 using namespace platform::webview;
 
 namespace {

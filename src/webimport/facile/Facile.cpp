@@ -18,7 +18,7 @@
 
 #include <array>
 
-namespace facile {
+namespace webimport::facile {
 
 namespace {
 
@@ -212,8 +212,8 @@ void Facile::PeindreFiche() {
     CadrePhoto.SetBackColor(kFondClair);
     Photo.hide();
     Scroll(1).SetBackColor(kFondClair);
-    Saisie(0).SetDefaultColor(QColor(webimport::CouleursMethode.ordinaire));
-    Saisie(1).SetDefaultColor(QColor(webimport::CouleursComplements.ordinaire));
+    Saisie(0).SetDefaultColor(QColor(CouleursMethode.ordinaire));
+    Saisie(1).SetDefaultColor(QColor(CouleursComplements.ordinaire));
     for (DropList *liste : {&LQte, &LQte2, &LIngre}) {
         liste->hide();
     }
@@ -276,7 +276,7 @@ void Facile::ReconnaitrePage() {
     Navigateur->runScript(QStringLiteral("document.documentElement.innerHTML"),
                           [this, page = m_page](const std::optional<QString> &texte) {
                               if (page == m_page) {
-                                  MontrerAnalyse(!texte || webimport::EstPageDeRecette(*texte));
+                                  MontrerAnalyse(!texte || EstPageDeRecette(*texte));
                               }
                           });
 }
@@ -361,4 +361,4 @@ void Facile::Quitter() {
     Unload();
 }
 
-} // namespace facile
+} // namespace webimport::facile

@@ -2,14 +2,14 @@
 #include "LivreEssai.h"
 #include "Reponse.h"
 
-#include "facile/Facile.h"
 #include "pictures/EnregistrerPhoto.h"
 #include "platform/webview/Engine.h"
+#include "webimport/facile/Facile.h"
 
 #include <QBuffer>
 #include <QUrl>
 
-using facile::Facile;
+using webimport::facile::Facile;
 using namespace platform::webview;
 
 namespace {

@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-namespace facile {
+namespace webimport::facile {
 
 /// While it lives, what the user does to the program is lost; it goes on painting itself.
 class SansSaisie : public QObject {
@@ -15,4 +15,4 @@ protected:
     bool eventFilter(QObject *objet, QEvent *evenement) override;
 };
 
-} // namespace facile
+} // namespace webimport::facile

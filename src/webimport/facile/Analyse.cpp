@@ -19,7 +19,7 @@
 #include <QSignalBlocker>
 #include <QUrl>
 
-namespace facile {
+namespace webimport::facile {
 
 namespace {
 
@@ -39,7 +39,7 @@ QString EnInfobulle(const QString &texte) {
     return Qt::mightBeRichText(texte) ? texte.toHtmlEscaped() : texte;
 }
 
-void Montrer(TextBox &champ, const webimport::ChampPage &valeur) {
+void Montrer(TextBox &champ, const ChampPage &valeur) {
     champ.SetText(valeur.texte);
     champ.setCursorPosition(0);
     if (valeur.infobulle) {
@@ -47,25 +47,24 @@ void Montrer(TextBox &champ, const webimport::ChampPage &valeur) {
     }
 }
 
-void Montrer(Label &etiquette, const webimport::ChampPage &valeur) {
+void Montrer(Label &etiquette, const ChampPage &valeur) {
     etiquette.SetCaption(valeur.texte);
     if (valeur.infobulle) {
         etiquette.setToolTip(EnInfobulle(*valeur.infobulle));
     }
 }
 
-void Montrer(RichTextBox &saisie, const webimport::ChampPage &valeur,
-             const webimport::CouleursTexte &couleurs) {
+void Montrer(RichTextBox &saisie, const ChampPage &valeur, const CouleursTexte &couleurs) {
     const QSignalBlocker parLeProgramme(&saisie);
     saisie.setPlainText(valeur.texte);
     if (valeur.infobulle) {
         saisie.setToolTip(EnInfobulle(*valeur.infobulle));
     }
-    webimport::MarquerTexte(*saisie.document(), couleurs);
+    MarquerTexte(*saisie.document(), couleurs);
     saisie.moveCursor(QTextCursor::End);
 }
 
-void MontrerLignes(Facile &fenetre, const std::vector<webimport::LigneIngredient> &lignes) {
+void MontrerLignes(Facile &fenetre, const std::vector<LigneIngredient> &lignes) {
     ScrollPanel &cadre = fenetre.Scroll(1);
     cadre.SetScrollableHeight(kHauteurDepart);
     for (int n = 0; n < static_cast<int>(lignes.size()); ++n) {
@@ -76,7 +75,7 @@ void MontrerLignes(Facile &fenetre, const std::vector<webimport::LigneIngredient
         if (cadre.Height() < bas + Twips(300)) {
             cadre.SetScrollableHeight(bas + Twips(100));
         }
-        const webimport::LigneIngredient &ligne = lignes[static_cast<std::size_t>(n)];
+        const LigneIngredient &ligne = lignes[static_cast<std::size_t>(n)];
         fenetre.Qte(n).SetText(ligne.Quantite);
         fenetre.Qte2(n).SetText(ligne.Mesure);
         fenetre.Ingre(n).SetText(ligne.Ingredient);
@@ -84,7 +83,7 @@ void MontrerLignes(Facile &fenetre, const std::vector<webimport::LigneIngredient
     cadre.ScrollToTop();
 }
 
-void Montrer(Facile &fenetre, const webimport::ChampsPage &champs) {
+void Montrer(Facile &fenetre, const ChampsPage &champs) {
     Montrer(fenetre.TitreRecette, champs.TitreRecette);
     Montrer(fenetre.calorie, champs.calorie);
     Montrer(fenetre.DReal, champs.DReal);
@@ -94,24 +93,24 @@ void Montrer(Facile &fenetre, const webimport::ChampsPage &champs) {
     fenetre.NomPhoto.SetText(champs.NomPhoto);
     fenetre.NomPhoto.setCursorPosition(0);
     MontrerLignes(fenetre, champs.Lignes);
-    Montrer(fenetre.Saisie(0), champs.Saisie[webimport::SaisieMethode], webimport::CouleursMethode);
-    Montrer(fenetre.Saisie(1), champs.Saisie[webimport::SaisieComplements], webimport::CouleursComplements);
+    Montrer(fenetre.Saisie(0), champs.Saisie[SaisieMethode], CouleursMethode);
+    Montrer(fenetre.Saisie(1), champs.Saisie[SaisieComplements], CouleursComplements);
 }
 
 /// The page as it comes back from the temporary file, in whose characters the site is written.
-webimport::PageCapturee PasserParLeFichier(Facile &fenetre) {
-    webimport::EcrireTexte(CheminTemporaire(), LirePage(*fenetre.Navigateur));
-    return {.texte = webimport::LireTexte(CheminTemporaire()),
+PageCapturee PasserParLeFichier(Facile &fenetre) {
+    EcrireTexte(CheminTemporaire(), LirePage(*fenetre.Navigateur));
+    return {.texte = LireTexte(CheminTemporaire()),
             .adresse = fenetre.Navigateur->address().toString(QUrl::FullyEncoded),
             .site = {.accueil = store::AdresseComplete(store::PartnerSiteHome),
                      .hote = store::PartnerSiteHost.toString()}};
 }
 
-webimport::ChampsPage Extraire(Facile &fenetre, const webimport::PageCapturee &page) {
-    if (webimport::EstPageDebutFin(page.texte)) {
-        return webimport::ExtrairePageDebutFin(page, fenetre.Memoire);
+ChampsPage Extraire(Facile &fenetre, const PageCapturee &page) {
+    if (EstPageDebutFin(page.texte)) {
+        return ExtrairePageDebutFin(page, fenetre.Memoire);
     }
-    return webimport::ExtrairePageCommentee(
+    return ExtrairePageCommentee(
         page, [&fenetre](const QString &ligne) { fenetre.setWindowTitle(ligne.left(kTitreLePlusLong)); });
 }
 
@@ -120,7 +119,7 @@ void CapturerPage(Facile &fenetre) {
     for (const double part : {5.0, 50.0}) {
         fenetre.Pb.SetFloodPercent(part);
     }
-    const webimport::PageCapturee page = PasserParLeFichier(fenetre);
+    const PageCapturee page = PasserParLeFichier(fenetre);
     fenetre.Pb.SetFloodPercent(55);
     Montrer(fenetre, Extraire(fenetre, page));
     ChargerPhoto(fenetre);
@@ -161,4 +160,4 @@ void PresserAnalyse(Facile &fenetre) {
     QFile::remove(CheminTemporaire());
 }
 
-} // namespace facile
+} // namespace webimport::facile

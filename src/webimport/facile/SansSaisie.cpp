@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 
-namespace facile {
+namespace webimport::facile {
 
 SansSaisie::SansSaisie() {
     QCoreApplication::instance()->installEventFilter(this);
@@ -35,4 +35,4 @@ bool SansSaisie::eventFilter(QObject * /*objet*/, QEvent *evenement) {
     }
 }
 
-} // namespace facile
+} // namespace webimport::facile

@@ -22,7 +22,7 @@ class Engine;
 class View;
 } // namespace platform::webview
 
-namespace facile {
+namespace webimport::facile {
 
 /// The file that a fetched picture passes through, whatever its format.
 QString CheminPhotoRecue();
@@ -87,7 +87,7 @@ public:
     bool RecetteCreee = false;
     /// The picture fetched last.
     QByteArray OctetsPhoto;
-    webimport::MemoireImport Memoire;
+    MemoireImport Memoire;
 
     /// One further row of ingredients.
     void ChargerLigne(platform::controls::Twips haut);
@@ -120,4 +120,4 @@ public:
     std::unique_ptr<platform::webview::View> Navigateur;
 };
 
-} // namespace facile
+} // namespace webimport::facile
