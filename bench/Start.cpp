@@ -1,5 +1,7 @@
 #include "Start.h"
 
+#include "BareBook.h"
+
 #include "platform/desktop/SingleInstance.h"
 #include "shell/Demarrage.h"
 #include "shell/Fenetres.h"
@@ -9,6 +11,8 @@
 #include <QFile>
 #include <QListView>
 #include <QStringListModel>
+
+#include <sqlite3.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -63,11 +67,27 @@ int startOurs(int argc, char **argv, const QString &folder) {
     return QApplication::exec();
 }
 
-int startBare(int argc, char **argv, const QString &folder) {
-    const QApplication application(argc, argv);
+QStringList titlesOfBook(const QString &folder) {
+    const Connection book = BareBook(folder + QStringLiteral("/db.mdb")).open();
+    useFrenchOrder(book.get());
+    const Statement walk = prepare(
+        book.get(), "SELECT Numero, Recette FROM Cocktails INDEXED BY CocktailsListe ORDER BY Recette");
+    QStringList titles;
+    while (step(walk)) {
+        titles.append(QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(walk.get(), 1))));
+    }
+    return titles;
+}
+
+QStringList titlesOfFile(const QString &folder) {
     QFile file(folder + QStringLiteral("/titles.txt"));
     file.open(QIODevice::ReadOnly);
-    QStringListModel titles(QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts));
+    return QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
+}
+
+int startWindow(int argc, char **argv, const QString &folder, QStringList (*read)(const QString &)) {
+    const QApplication application(argc, argv);
+    QStringListModel titles(read(folder));
     QListView list;
     list.setUniformItemSizes(true);
     list.setModel(&titles);
@@ -82,7 +102,10 @@ int startBare(int argc, char **argv, const QString &folder) {
 } // namespace
 
 int start(int argc, char **argv, const QString &which, const QString &folder) {
-    return which == QLatin1String(kOurs) ? startOurs(argc, argv, folder) : startBare(argc, argv, folder);
+    if (which == QLatin1String(kOurs)) {
+        return startOurs(argc, argv, folder);
+    }
+    return startWindow(argc, argv, folder, which == QLatin1String(kBare) ? titlesOfBook : titlesOfFile);
 }
 
 } // namespace bench

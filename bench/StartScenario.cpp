@@ -39,6 +39,9 @@ void measureOn(const QString &display, const QProcessEnvironment &environment, c
     const QString where = QString::number(book.recipes) + QStringLiteral(", ") + display;
     report.add({QStringLiteral("process start to painted list"), where, times.ours, times.bare, Goal::Ratio,
                 kTimeGoal});
+    const Times bookless = alternate([&] { startOnce(book, kOurs, environment); },
+                                     [&] { startOnce(book, kBookless, environment); }, kTurns);
+    report.add({QStringLiteral("the same, against no book at all"), where, bookless.ours, bookless.bare});
     report.add({QStringLiteral("peak resident memory, MiB"), where, median(memory), bareMemory,
                 Goal::Mebibytes, kMemoryGoal});
 }
