@@ -11,6 +11,7 @@
 #include "store/Programme.h"
 
 #include <QDir>
+#include <QFile>
 #include <QStandardPaths>
 
 namespace shell {
@@ -38,6 +39,17 @@ void Convertir(const browser::Frmmain &frm, const QString &ancien, const QString
         ancien, store::CheminNouveauLivre(),
         [&progression](qint64 faites, qint64 total) { progression.Montrer(faites, total); });
     store::RemplacerLivre(copie);
+}
+
+/// Where an old book is kept whose place a new one takes: db-ancien.mdb, or db-ancien-2.mdb beside an earlier one.
+QString CheminAncienLivre() {
+    const QString debut = store::DossierProgramme() + QStringLiteral("/db-ancien");
+    const QString fin = QStringLiteral(".mdb");
+    QString chemin = debut + fin;
+    for (int n = 2; QFile::exists(chemin); ++n) {
+        chemin = debut + u'-' + QString::number(n) + fin;
+    }
+    return chemin;
 }
 
 void RestaurerAncienLivre(browser::Frmmain &frm, const QString &fichier) {
@@ -105,7 +117,7 @@ void RestaurerBase(browser::Frmmain &frm) {
 
 void ReprendreAncienLivre(const browser::Frmmain &frm) {
     if (store::EstAncienLivre(store::CheminBase())) {
-        Convertir(frm, store::CheminBase(), store::DossierProgramme() + QStringLiteral("/db-ancien.mdb"));
+        Convertir(frm, store::CheminBase(), CheminAncienLivre());
     }
 }
 

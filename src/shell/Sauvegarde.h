@@ -13,8 +13,8 @@ void SauvegarderBase(browser::Frmmain &frm);
 /// again. A file that cannot be copied is passed over in silence; one that cannot be converted is told.
 void RestaurerBase(browser::Frmmain &frm);
 
-/// Converts the book of the program where it is one of old, and keeps that as db-ancien.mdb. Throws what the conversion
-/// throws; the book is untouched then.
+/// Converts the book of the program where it is one of old, and keeps that as db-ancien.mdb, or under the next number
+/// where there is one already. Throws what the conversion throws; the book is untouched then.
 void ReprendreAncienLivre(const browser::Frmmain &frm);
 
 } // namespace shell

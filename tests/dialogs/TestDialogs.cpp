@@ -97,8 +97,8 @@ private Q_SLOTS:
         // The file dialog remembers its places in the user's settings.
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, path(u"reglages"_qs));
         QDir(m_folder.path()).mkdir(u"images"_qs);
-        for (const QString &name :
-             {u"images/A.JPG"_qs, u"images/l'été b.bmp"_qs, u"images/c.txt"_qs, u"vieux.bmp"_qs}) {
+        for (const QString &name : {u"images/A.JPG"_qs, u"images/l'été b.bmp"_qs, u"images/c.txt"_qs,
+                                    u"vieux.bmp"_qs, u"du 12.03.26.bmp"_qs}) {
             QVERIFY(QFile(path(name)).open(QIODevice::WriteOnly));
         }
     }
@@ -174,6 +174,7 @@ private Q_SLOTS:
         QCOMPARE(save(u"neuf"_qs), std::pair(path(u"neuf.bmp"_qs), false));
         QCOMPARE(save(u"neuf.ico"_qs), std::pair(path(u"neuf.ico"_qs), false));
         QCOMPARE(save(u"vieux"_qs), std::pair(path(u"vieux.bmp"_qs), true));
+        QCOMPARE(save(u"du 12.03.26"_qs), std::pair(path(u"du 12.03.26.bmp"_qs), true));
         QCOMPARE(save(u"vieux"_qs, QMessageBox::No), std::pair(QString(), true));
     }
 

@@ -172,9 +172,11 @@ private Q_SLOTS:
             QSKIP("no books of old in " OLD_BOOKS);
         }
         write(store::CheminBase(), old);
+        write(path(u"db-ancien.mdb"_qs), "earlier");
         m_test->start();
         QCOMPARE(m_test->main().LBGauche.Caption(), u"40 Recette(s) ..."_qs);
-        QCOMPARE(contentOf(path(u"db-ancien.mdb"_qs)), old);
+        QCOMPARE(contentOf(path(u"db-ancien.mdb"_qs)), QByteArray("earlier"));
+        QCOMPARE(contentOf(path(u"db-ancien-2.mdb"_qs)), old);
         QVERIFY(!QFile::exists(path(u"db.mdb.nouveau"_qs)));
     }
 

@@ -2,6 +2,7 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 
 namespace platform::dialogs {
 
@@ -17,6 +18,27 @@ QStringList nameFilters(const QString &filter) {
     }
     return filters;
 }
+
+/// A date at the end of a name is no ending: "livre 12.03.2026".
+bool hasEnding(const QString &name) {
+    const QString ending = QFileInfo(name).suffix();
+    return !ending.isEmpty() && ending.front().isLetter();
+}
+
+class SaveDialog : public QFileDialog {
+public:
+    using QFileDialog::QFileDialog;
+
+    /// The toolkit takes whatever stands behind a dot for an ending. It reads the field again below, which selectFile()
+    /// leaves alone while it has the focus.
+    void accept() override {
+        const QString chosen = selectedFiles().value(0);
+        if (!QFileInfo(chosen).isDir() && !hasEnding(chosen)) {
+            findChild<QLineEdit *>()->setText(chosen + QLatin1Char('.') + defaultSuffix());
+        }
+        QFileDialog::accept();
+    }
+};
 
 QString choose(QFileDialog &dialog, const QString &filter, const QString &start) {
     constexpr QSize kSize(720, 480); // pixels; on the smallest screen it leaves the window in sight
@@ -43,7 +65,7 @@ QString ShowOpen(QWidget *parent, const QString &title, const QString &filter, c
 
 QString ShowSave(QWidget *parent, const QString &title, const QString &filter, const QString &start,
                  const QString &suffix) {
-    QFileDialog dialog(parent, title);
+    SaveDialog dialog(parent, title);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(suffix);
     return choose(dialog, filter, start);
