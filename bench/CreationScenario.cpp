@@ -13,6 +13,7 @@
 #include <sqlite3.h>
 
 #include <array>
+#include <ranges>
 
 namespace bench {
 
@@ -96,11 +97,11 @@ void saveBare(const BareBook &bare, const store::RecetteSaisie &recipe) {
     step(clear);
     const Statement line =
         prepare(book, "INSERT INTO Ingre (Numero, NQuantite, NMesure, NIngre) VALUES (?, ?, ?, ?)");
-    for (auto typed = recipe.lignes.rbegin(); typed != recipe.lignes.rend(); ++typed) {
+    for (const auto &typed : recipe.lignes | std::views::reverse) {
         sqlite3_bind_int(line.get(), 1, number);
-        sqlite3_bind_int(line.get(), 2, findOrAdd(book, "Quantite", typed->quantite));
-        sqlite3_bind_int(line.get(), 3, findOrAdd(book, "Mesure", typed->mesure));
-        sqlite3_bind_int(line.get(), 4, findOrAdd(book, "Ingredient", typed->ingredient));
+        sqlite3_bind_int(line.get(), 2, findOrAdd(book, "Quantite", typed.quantite));
+        sqlite3_bind_int(line.get(), 3, findOrAdd(book, "Mesure", typed.mesure));
+        sqlite3_bind_int(line.get(), 4, findOrAdd(book, "Ingredient", typed.ingredient));
         step(line);
         sqlite3_reset(line.get());
     }

@@ -14,8 +14,8 @@ namespace bench {
 namespace {
 
 constexpr int kTurns = 25;
-constexpr qsizetype kTypicalSize = 64 * 1024;
-constexpr qsizetype kLargeSize = 1024 * 1024;
+constexpr qsizetype kTypicalSize = 65'536;
+constexpr qsizetype kLargeSize = 1'048'576;
 constexpr int kTimesLarger = 4;
 constexpr double kTypicalGoal = 10; // ms
 constexpr double kLinearGoal = 1.5;

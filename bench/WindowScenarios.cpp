@@ -122,6 +122,7 @@ void measureSheet(const GeneratedBook &book, Report &report) {
     sheet.ChargerFiche();
     sheet.show();
     std::vector<double> turns;
+    turns.reserve(kSheetTurns);
     for (int turn = 0; turn < kSheetTurns; ++turn) {
         turns.push_back(milliseconds([&sheet] {
             sheet.Navi(1).SetValue(true);
