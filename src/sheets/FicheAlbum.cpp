@@ -30,7 +30,7 @@ constexpr std::array kControles{
     ControlRow{"Navi(0)", 30, 150, 1660, 705, u"Précédent  "},
     ControlRow{"Navi(1)", 1720, 150, 1575, 705, u"   Suivant"},
     ControlRow{"Navi(3)", 3360, 150, 1815, 705, u"  Imprimer  ", u"Imprimer la recette"},
-    ControlRow{"Navi(2)", 13080, 150, 1815, 705, u" Configurer  ", u"Configurer l'imprimante"},
+    ControlRow{"Navi(2)", 13080, 120, 1815, 705, u" Configurer  ", u"Configurer l'imprimante"},
     ControlRow{"Scroll(0)", 230, 1680, 14900, 7430, u"", u"", u"Fiche"},
 
     ControlRow{"Recette", 240, 165, 14175, 435},
@@ -58,6 +58,14 @@ constexpr std::array kControles{
     ControlRow{"Ingre(0)", 4140, 5280, 10155, 375, u"", u"", u"Ingrédient"},
     ControlRow{"Prepa", 240, 5880, 14055, 4455, u"", u"", u"Préparation"},
     ControlRow{"Deco", 240, 10845, 14055, 1815, u"", u"", u"Compléments"},
+};
+
+/// Pictures of Navi.
+constexpr std::array kDessins{
+    ":/icones/facile-precedent.argb",
+    ":/icones/facile-suivant.argb",
+    ":/icones/fiche-configurer.argb",
+    ":/icones/fiche-imprimer.argb",
 };
 
 constexpr Twips kEntreLignes{100};
@@ -111,11 +119,13 @@ FicheAlbum::FicheAlbum(browser::Frmmain &frm)
 }
 
 void FicheAlbum::Peindre() {
-    Navi.ForEach([](Ribbon &bouton) {
+    for (int index = 0; index < Navi.Count(); ++index) {
+        Ribbon &bouton = Navi(index);
         bouton.SetLook(Look::Command);
+        bouton.SetPicture(resourcePicture(QString::fromLatin1(kDessins.at(static_cast<std::size_t>(index)))));
         bouton.setFont(interfaceFont(Face::Verdana, kPointsLibelle));
         bouton.SetForeColor(kEncre);
-    });
+    }
     Scroll(0).SetBackColor(kPapier);
     Recette.SetForeColor(kEncre);
     Recette.SetBackColor(kFondTitre);
@@ -125,6 +135,8 @@ void FicheAlbum::Peindre() {
     Libelle.ForEach([](Label &libelle) {
         libelle.setFont(interfaceFont(Face::Verdana, kPointsLibelle, true));
         libelle.SetForeColor(kCouleurLibelle);
+        // The line is a little taller than its place, and loses the empty room above its letters.
+        libelle.setAlignment(Qt::AlignLeft | Qt::AlignBottom);
     });
     for (Ribbon *champ : {&Cout, &Diff, &Teneur, &Qte(0), &Mesure(0), &Ingre(0)}) {
         PreparerChamp(*champ);
@@ -143,7 +155,7 @@ void FicheAlbum::Brancher() {
     const std::array<std::function<void()>, 4> actions{
         [this] { Naviguer(-1); },
         [this] { Naviguer(1); },
-        [this] { m_imprimante.ShowPrinter(this); },
+        [this] { m_imprimante.ShowPrinter(this, Recette.Caption()); },
         [this] { ImprimerFiche(); },
     };
     for (int index = 0; index < Navi.Count(); ++index) {

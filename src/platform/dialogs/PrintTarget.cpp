@@ -2,9 +2,12 @@
 
 #include "FileDialog.h"
 
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QFileInfo>
+#include <QGroupBox>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrintDialog>
@@ -42,6 +45,52 @@ void draw(QPagedPaintDevice &device, const std::function<void(QPainter &)> &page
     }
 }
 
+/// Where a printer prints. The print dialog changes that at each choice in its list, not when it is accepted.
+struct Destination {
+    QPrinter::OutputFormat format;
+    QString name;
+    QPageLayout layout;
+
+    explicit Destination(const QPrinter &printer)
+        : format(printer.outputFormat()), name(printer.printerName()), layout(printer.pageLayout()) {}
+
+    void restore(QPrinter &printer) const {
+        if (format == QPrinter::PdfFormat) {
+            printer.setOutputFormat(format);
+        } else {
+            printer.setPrinterName(name);
+        }
+        printer.setPageLayout(layout);
+    }
+};
+
+/// The print dialog, which only notes a choice: nothing is printed yet.
+class SetupDialog : public QPrintDialog {
+public:
+    SetupDialog(QPrinter &printer, const Destination &chosen, const QString &file, QWidget *parent)
+        : QPrintDialog(&printer, parent), m_pdf(chosen.format == QPrinter::PdfFormat) {
+        setWindowTitle(QStringLiteral("Configurer l'imprimante"));
+        setOption(PrintCollateCopies, false);
+        findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->setText(QStringLiteral("OK"));
+        findChild<QLineEdit *>(QStringLiteral("filename"))->setText(file);
+    }
+
+protected:
+    /// Just before it is shown, the dialog offers to choose among the pages, of which there is one, and after a choice of
+    /// PDF files starts from a printer.
+    void showEvent(QShowEvent *event) override {
+        QPrintDialog::showEvent(event);
+        findChild<QGroupBox *>(QStringLiteral("gbPrintRange"))->hide();
+        if (m_pdf) {
+            auto *destinations = findChild<QComboBox *>(QStringLiteral("printers"));
+            destinations->setCurrentIndex(destinations->count() - 1);
+        }
+    }
+
+private:
+    bool m_pdf;
+};
+
 } // namespace
 
 PrintTarget::PrintTarget() = default;
@@ -55,16 +104,13 @@ QPrinter &PrintTarget::printer() {
     return *m_printer;
 }
 
-void PrintTarget::ShowPrinter(QWidget *parent) {
-    QPrintDialog dialog(&printer(), parent);
-    dialog.setWindowTitle(QStringLiteral("Configurer l'imprimante"));
-    for (const auto option : {QPrintDialog::PrintPageRange, QPrintDialog::PrintCollateCopies}) {
-        dialog.setOption(option, false);
-    }
-    // It only notes the choice: nothing is printed yet.
-    dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->setText(QStringLiteral("OK"));
+void PrintTarget::ShowPrinter(QWidget *parent, const QString &title) {
+    const Destination before(printer());
+    SetupDialog dialog(printer(), before, proposedFile(title), parent);
     if (dialog.exec() == QDialog::Accepted) {
         m_file = printer().outputFormat() == QPrinter::PdfFormat ? printer().outputFileName() : QString();
+    } else {
+        before.restore(printer());
     }
 }
 
@@ -80,7 +126,8 @@ void PrintTarget::Print(QWidget *parent, const QString &title, const std::functi
     }
     QString path = std::exchange(m_file, {});
     if (path.isEmpty()) {
-        path = askForFile(parent, title);
+        path = ShowSave(parent, QStringLiteral("Imprimer dans un fichier PDF"),
+                        QStringLiteral("Fichiers PDF|*.pdf"), proposedFile(title), QStringLiteral("pdf"));
     }
     if (!path.isEmpty()) {
         writePdf(path, title, page);
@@ -88,16 +135,14 @@ void PrintTarget::Print(QWidget *parent, const QString &title, const std::functi
     }
 }
 
-QString PrintTarget::askForFile(QWidget *parent, const QString &title) {
+QString PrintTarget::proposedFile(const QString &title) {
     if (m_folder.isEmpty()) {
         m_folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
         if (!QFileInfo(m_folder).isDir()) {
             m_folder = QStandardPaths::writableLocation(QStandardPaths::HomeLocation);
         }
     }
-    return ShowSave(parent, QStringLiteral("Imprimer dans un fichier PDF"),
-                    QStringLiteral("Fichiers PDF|*.pdf"), m_folder + QLatin1Char('/') + fileNameOf(title),
-                    QStringLiteral("pdf"));
+    return m_folder + QLatin1Char('/') + fileNameOf(title);
 }
 
 void PrintTarget::writePdf(const QString &path, const QString &title,

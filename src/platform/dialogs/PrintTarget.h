@@ -25,8 +25,8 @@ public:
     ~PrintTarget();
 
     /// Lets the user choose among the installed printers and a PDF file, and set paper and copies; Cancel changes
-    /// nothing. The parent may be null or hidden.
-    void ShowPrinter(QWidget *parent);
+    /// nothing. The title names the file proposed. The parent may be null or hidden.
+    void ShowPrinter(QWidget *parent, const QString &title);
 
     /// Prints one upright page of 600 dots to the inch. The painter's device is the printable area. A PDF file
     /// chosen by ShowPrinter takes the first page; for each other one a file name is asked for, and Cancel prints
@@ -35,7 +35,7 @@ public:
 
 private:
     QPrinter &printer();
-    QString askForFile(QWidget *parent, const QString &title);
+    QString proposedFile(const QString &title);
     void writePdf(const QString &path, const QString &title, const std::function<void(QPainter &)> &page);
 
     std::unique_ptr<QPrinter> m_printer; // made late: it looks for the installed ones
