@@ -18,6 +18,9 @@ constexpr Twips kSortPicture{480};
 constexpr Twips kSortTop{60};
 constexpr Twips kTileMargin{60};
 constexpr Twips kTilePicture{1080}; // at most
+constexpr Twips kCommandPicture{360};
+constexpr Twips kCommandMargin{105};
+constexpr double kDisabledCaption = 0.45; // opacity
 const QColor kValueGround(214, 225, 242);
 const QColor kValueHover(251, 243, 226);
 
@@ -171,6 +174,10 @@ QRectF RibbonButton::pictureArea() const {
     if (m_look == Look::Tile) {
         return tilePictureArea();
     }
+    if (m_look == Look::Command) {
+        const double side = kCommandPicture.pixels();
+        return {static_cast<double>(kCommandMargin.pixels()), (height() - side) / 2.0, side, side};
+    }
     const double side = m_look == Look::Tool ? 0.86 * qMin(width(), height()) : qMin(width(), height());
     return {(width() - side) / 2.0, (height() - side) / 2.0, side, side};
 }
@@ -230,11 +237,16 @@ void RibbonButton::paintCaption(QPainter &painter) const {
         return;
     }
     if (m_look == Look::Command) {
+        if (!m_picture.isNull()) {
+            area.setLeft(pictureArea().toRect().right());
+        }
+        painter.setOpacity(isEnabled() ? 1.0 : kDisabledCaption);
         painter.drawText(area, Qt::AlignCenter, text());
+        painter.setOpacity(1.0);
         return;
     }
     if (m_look == Look::Tile) {
-        painter.setOpacity(isEnabled() ? 1.0 : 0.45);
+        painter.setOpacity(isEnabled() ? 1.0 : kDisabledCaption);
         paintTileCaption(painter);
         painter.setOpacity(1.0);
         return;

@@ -13,7 +13,7 @@ enum class Look {
     Tool,    ///< a picture on a ground that lights up under the pointer
     Sort,    ///< a picture over a caption, on a block of its own
     Value,   ///< a flat line of text, cut at the edge, that shows under the pointer that it can be pressed
-    Command, ///< a light block with a caption in its middle
+    Command, ///< a light block with a caption in its middle, right of a small picture if there is one
     Tile, ///< a light block with a picture above a caption, beside it where the block is much wider than high
 };
 
