@@ -74,6 +74,7 @@ FrmFind::FrmFind(browser::Frmmain &frm)
     setAccessibleName(windowTitle());
     Grouper(Opt_Liste);
     Grouper(Choix);
+    setTabOrder(&Chk(0), &LChk(0));
     Peindre();
     PreparerListes(frm);
     Brancher(frm);
