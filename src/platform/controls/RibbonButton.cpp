@@ -241,7 +241,8 @@ void RibbonButton::paintCaption(QPainter &painter) const {
             area.setLeft(pictureArea().toRect().right());
         }
         painter.setOpacity(isEnabled() ? 1.0 : kDisabledCaption);
-        painter.drawText(area, Qt::AlignCenter, text());
+        // Blanks at the ends of a caption only keep room for the picture.
+        painter.drawText(area, Qt::AlignCenter, m_picture.isNull() ? text() : text().trimmed());
         painter.setOpacity(1.0);
         return;
     }
