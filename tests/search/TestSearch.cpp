@@ -53,12 +53,6 @@ private:
         QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, place);
     }
 
-    /// Ticks a restriction and chooses the class of that code.
-    void restrict(int index, int code) {
-        QTest::mouseClick(&m_find->Chk(index), Qt::LeftButton);
-        clickRow(m_find->LChk(index), code + 1);
-    }
-
     std::unique_ptr<LivreEssai> m_book;
     std::unique_ptr<Frmmain> m_main;
     std::unique_ptr<FrmFind> m_find;
@@ -78,115 +72,78 @@ private Q_SLOTS:
         m_main.reset();
     }
 
-    void matchesTheTextInUpperCase_data() {
-        QTest::addColumn<int>("option");
-        QTest::addColumn<bool>("prefix");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("expected");
-        const auto row = [](const char *name, int option, bool prefix, const QString &text,
-                            const QString &expected) {
-            QTest::newRow(name) << option << prefix << text << expected;
-        };
-        row("all, newest first, without markup", 0, true, u""_qs,
-            u"Straße, Éclair, Pâté en croûte, Tarte"_qs);
-        row("none contains nothing", 0, false, u""_qs, u""_qs);
-        row("capital with an accent", 0, true, u"éc"_qs, u"Éclair"_qs);
-        row("accents count", 0, true, u"pate"_qs, u""_qs);
-        row("in the middle only", 0, false, u"CROÛ"_qs, u"Pâté en croûte"_qs);
-        row("not at the beginning", 0, true, u"croû"_qs, u""_qs);
-        row("a letter of two capitals", 0, false, u"strasse"_qs, u"Straße"_qs);
-        row("quote", 0, false, u"l'"_qs, u""_qs);
-        row("cooking times in order", 1, true, u"1"_qs, u"1 heure, 10 mn"_qs);
-        row("persons", 2, false, u"PERS"_qs, u"4 personnes"_qs);
-        row("ligature", 3, true, u"œuf"_qs, u"Œufs"_qs);
-        row("ingredients without markup", 3, false, u"e"_qs, u"Beurre, Eau"_qs);
-        row("preparation times", 4, true, u"20"_qs, u"20 mn"_qs);
-    }
-
     void matchesTheTextInUpperCase() {
-        QFETCH(const int, option);
-        QFETCH(const bool, prefix);
-        QFETCH(const QString, text);
-        QFETCH(const QString, expected);
-        QCOMPARE(found(option, prefix, text), expected);
+        struct Search {
+            int option;
+            bool prefix;
+            QString text, expected;
+        };
+
+        const Search searches[]{
+            {0, true, u""_qs, u"Straße, Éclair, Pâté en croûte, Tarte"_qs}, // newest first, none with markup
+            {0, false, u""_qs, u""_qs},
+            {0, true, u"éc"_qs, u"Éclair"_qs},
+            {0, true, u"pate"_qs, u""_qs},
+            {0, false, u"CROÛ"_qs, u"Pâté en croûte"_qs},
+            {0, false, u"strasse"_qs, u"Straße"_qs}, // a letter of two capitals
+            {1, true, u"1"_qs, u"1 heure, 10 mn"_qs},
+            {3, true, u"œuf"_qs, u"Œufs"_qs},
+            {3, false, u"e"_qs, u"Beurre, Eau"_qs},
+        };
+        for (const auto &[option, prefix, text, expected] : searches) {
+            QCOMPARE(found(option, prefix, text), expected);
+        }
         QVERIFY(!m_find->Creer.Value());
     }
 
-    void restrictsRecipesByCostAndDifficulty() {
-        restrict(0, 1);
-        QCOMPARE(found(0, true, u""_qs), u"Éclair, Tarte"_qs);
-        QCOMPARE(m_find->LNombre.Caption(), u"2 résultats"_qs);
-        restrict(1, 2);
-        QCOMPARE(found(0, true, u""_qs), u"Éclair"_qs);
-        QCOMPARE(m_find->LNombre.Caption(), u"1 résultat"_qs);
-        clickRow(m_find->LChk(0), 6);
-        QCOMPARE(m_find->LChk(0).Text(6), QString());
-        QCOMPARE(found(0, true, u""_qs), QString());
-        QCOMPARE(m_find->LNombre.Caption(), u"Aucun résultat"_qs);
-    }
-
-    void restrictsNothingButRecipes() {
-        restrict(0, 5);
-        QCOMPARE(found(3, true, u"b"_qs), u"Beurre"_qs);
-        for (int index = 0; index < 2; ++index) {
-            QVERIFY(!m_find->Chk(index).isEnabled() && !m_find->LChk(index).isEnabled());
-        }
-        found(0, true, {});
-        QVERIFY(m_find->Chk(0).isEnabled() && m_find->LChk(1).isEnabled());
-    }
-
-    void tickChoosesTheFirstClassUnlessOneIsChosen() {
+    void restrictsRecipesAloneByCostAndDifficulty() {
+        const auto count = [this](int option) {
+            found(option, true, {});
+            return m_find->LNombre.Caption();
+        };
         QTest::mouseClick(&m_find->Chk(0), Qt::LeftButton);
         QCOMPARE(m_find->LChk(0).SelectedIndex(), 1);
+        clickRow(m_find->LChk(0), 2);
+        QCOMPARE(count(0), u"2 résultats"_qs);
         clickRow(m_find->LChk(1), 3);
         QTest::mouseClick(&m_find->Chk(1), Qt::LeftButton);
         QCOMPARE(m_find->LChk(1).SelectedIndex(), 3);
-    }
-
-    void twoGroupsOfOptionsLeaveEachOtherAlone() {
-        QTest::mouseClick(&m_find->Choix(1), Qt::LeftButton);
-        QVERIFY(!m_find->Choix(0).Value() && m_find->Opt_Liste(0).Value());
-        QTest::mouseClick(&m_find->Opt_Liste(4), Qt::LeftButton);
-        QVERIFY(m_find->Choix(1).Value() && !m_find->Opt_Liste(0).Value());
-    }
-
-    void bringsUpARowInItsView_data() {
-        QTest::addColumn<int>("before");
-        QTest::addColumn<int>("option");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("view");
-        const auto row = [](const char *name, int before, int option, const QString &text, int view) {
-            QTest::newRow(name) << before << option << text << view;
-        };
-        row("recipe from costs", 3, 0, u"Tarte"_qs, 0);
-        row("recipe from recipes", 0, 0, u"Éclair"_qs, 0);
-        // Row 5 is chosen in the main window too, as a cooking time.
-        row("cooking time", 1, 1, u"10 mn"_qs, 1);
-        row("persons", 0, 2, u"4 personnes"_qs, 2);
-        row("ingredient", 0, 3, u"Œufs"_qs, 6);
-        row("preparation time", 5, 4, u"20 mn"_qs, 7);
+        QCOMPARE(count(0), u"1 résultat"_qs);
+        QCOMPARE(texts(m_find->Liste), u"Éclair"_qs);
+        clickRow(m_find->LChk(0), 6);
+        QCOMPARE(m_find->LChk(0).Text(6), QString());
+        QCOMPARE(count(0), u"Aucun résultat"_qs);
+        QCOMPARE(count(3), u"3 résultats"_qs);
+        QVERIFY(!m_find->Chk(0).isEnabled() && !m_find->LChk(1).isEnabled());
+        count(0);
+        QVERIFY(m_find->Chk(0).isEnabled() && m_find->LChk(1).isEnabled());
     }
 
     void bringsUpARowInItsView() {
-        QFETCH(const int, before);
-        QFETCH(const int, option);
-        QFETCH(const QString, text);
-        QFETCH(const int, view);
-        open(before);
-        QCOMPARE(found(option, true, text), text);
-        QCOMPARE(m_find->Liste.SmallIcon(1), view + 1);
-        // The rows belong to what was searched, whatever is chosen afterwards.
-        QTest::mouseClick(&m_find->Opt_Liste((option + 1) % 5), Qt::LeftButton);
-        doubleClick(m_find->Liste, 1);
+        struct Row {
+            int before, option;
+            QString text;
+            int view;
+        };
 
-        QCOMPARE(m_main->Liste.Text(m_main->Liste.SelectedIndex()), text);
-        QCOMPARE(m_main->LTDroit.Caption(), text);
-        QCOMPARE(m_main->Liste.Tag(), QString::number(view));
-        QCOMPARE(VueCourante(), view);
-        for (int index = 0; index < kNombreDeVues; ++index) {
-            QCOMPARE(m_main->Bouton(index).ForeColor() == Qt::black, index == view);
+        const Row rows[]{
+            {3, 0, u"Tarte"_qs, 0},       {1, 1, u"10 mn"_qs, 1}, // chosen in the main window too
+            {0, 2, u"4 personnes"_qs, 2}, {0, 3, u"Œufs"_qs, 6},  {5, 4, u"20 mn"_qs, 7},
+        };
+        for (const auto &[before, option, text, view] : rows) {
+            open(before);
+            QCOMPARE(found(option, true, text), text);
+            QCOMPARE(m_find->Liste.SmallIcon(1), view + 1);
+            // The rows belong to what was searched, whatever is chosen afterwards.
+            QTest::mouseClick(&m_find->Opt_Liste((option + 1) % 5), Qt::LeftButton);
+            doubleClick(m_find->Liste, 1);
+            QCOMPARE(m_main->Liste.Text(m_main->Liste.SelectedIndex()), text);
+            QCOMPARE(m_main->LTDroit.Caption(), text);
+            QCOMPARE(m_main->Liste.Tag(), QString::number(view));
+            QCOMPARE(VueCourante(), view);
+            QCOMPARE(m_main->Bouton(before).ForeColor() == Qt::black, before == view);
+            QCOMPARE(m_main->Bouton(view).ForeColor(), Qt::black);
         }
-        QVERIFY(m_find->isVisible());
     }
 
     void recipeWithTheKeyOfTheShownGroupIsShown() {
@@ -224,13 +181,6 @@ private Q_SLOTS:
         QVERIFY_THROWS_EXCEPTION(std::out_of_range, doubleClick(m_find->Liste, 1));
         found(0, true, u"nothing"_qs);
         QVERIFY_THROWS_EXCEPTION(std::out_of_range, doubleClick(m_find->Liste, 1));
-    }
-
-    void emptiesTheListWhenTheBookCannotBeRead() {
-        found(0, true, u"Tarte"_qs);
-        QVERIFY(QFile::remove(store::CheminBase()));
-        QVERIFY_THROWS_EXCEPTION(std::runtime_error, found(0, true, u"Tarte"_qs));
-        QCOMPARE(m_find->Liste.Count(), 0);
     }
 };
 

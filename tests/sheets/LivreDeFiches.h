@@ -2,6 +2,8 @@
 
 #include "LivreEssai.h"
 
+#include "sheets/FicheAlbum.h"
+
 #include <QImage>
 
 /// The book fixture with recipes for the sheet, in the order of the list: "Aïoli" with 8 ingredient lines and a photo
@@ -39,4 +41,13 @@ private:
     static QString recipe(const QString &values) {
         return QStringLiteral("INSERT INTO Cocktails VALUES (%1)").arg(values);
     }
+};
+
+/// That book in the main window, which shows the first recipe, and the sheet.
+struct FicheOuverte {
+    LivreDeFiches book;
+    browser::Frmmain window;
+    sheets::FicheAlbum sheet{window};
+
+    FicheOuverte() { openView(window, 0); }
 };

@@ -71,19 +71,15 @@ private Q_SLOTS:
         QVERIFY((page.photo == Rect{80, 414, 1154, 1058}));
     }
 
-    void halfPixelsGoToTheEvenNeighbour() {
+    void halvesGoToTheEvenNeighbourAndOfTheRoomBesideThePhotoTowardsZero() {
         Mesures mesures = sheet();
         mesures.recette = place(241, 14175, 433);
-        const Page page = Composer(mesures, 7650);
-        QVERIFY((page.blocs.front().rect == Rect{120, 100, 7410, 316}));
-    }
-
-    void photoWiderThanItsFrameIsCentredByTruncation() {
-        Mesures mesures = sheet();
         mesures.cadrePhoto = place(240, 482, 3975);
         mesures.photo = extent(404, 3735);
+        const Page page = Composer(mesures, 7650);
+        QVERIFY((page.blocs.front().rect == Rect{120, 100, 7410, 316}));
         // The frame is 121 pixels wide, the photo 202: half of -81 is -40.
-        QCOMPARE(Composer(mesures, 7650).photo.left, 120 - 40);
+        QCOMPARE(page.photo.left, 120 - 40);
     }
 };
 
