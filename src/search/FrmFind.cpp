@@ -7,7 +7,6 @@
 #include "store/Textes.h"
 #include "store/Vocabulaires.h"
 
-#include <QButtonGroup>
 #include <QShortcut>
 
 #include <array>
@@ -72,19 +71,14 @@ FrmFind::FrmFind(browser::Frmmain &frm)
       LSuite(this, rowNamed(kControles, "LSuite")) {
     setWindowTitle(QStringLiteral("Recherche multicritères"));
     setAccessibleName(windowTitle());
-    Grouper(Opt_Liste);
-    Grouper(Choix);
+    Opt_Liste.ForEach([this](OptionButton &option) { m_tables.addButton(&option); });
+    Choix.ForEach([this](OptionButton &option) { m_facons.addButton(&option); });
     setTabOrder(&Chk(0), &LChk(0));
     Peindre();
     PreparerListes(frm);
     Brancher(frm);
     Opt_Liste(0).SetValue(true);
     Choix(0).SetValue(true);
-}
-
-void FrmFind::Grouper(Array<OptionButton> &options) {
-    auto *groupe = new QButtonGroup(this);
-    options.ForEach([groupe](OptionButton &option) { groupe->addButton(&option); });
 }
 
 void FrmFind::Peindre() {

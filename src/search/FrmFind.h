@@ -7,6 +7,8 @@
 #include "platform/controls/TextBox.h"
 #include "platform/controls/ToolWindow.h"
 
+#include <QButtonGroup>
+
 namespace browser {
 class Frmmain;
 }
@@ -54,10 +56,11 @@ protected:
 private:
     /// The keyboard goes from the text to the results, if there are any.
     void AllerAuxResultats();
-    void Grouper(Array<OptionButton> &options);
     void Peindre();
     void PreparerListes(const browser::Frmmain &frm);
     void Brancher(browser::Frmmain &frm);
+
+    QButtonGroup m_tables, m_facons; // only one of a group is chosen
 };
 
 } // namespace search
