@@ -10,26 +10,24 @@ namespace platform::dialogs {
 
 namespace {
 
-/// Translates what the toolkit's own file leaves in English.
-class Leftovers : public QTranslator {
+/// The toolkit's own translations, and what they leave in English.
+class FrenchTexts : public QTranslator {
 public:
     using QTranslator::QTranslator;
 
-    bool isEmpty() const override { return false; }
-
-    QString translate(const char *context, const char *source, const char * /*disambiguation*/,
-                      int /*n*/) const override {
-        constexpr std::array kTexts{
+    QString translate(const char *context, const char *source, const char *disambiguation,
+                      int n) const override {
+        constexpr std::array kLeftovers{
             std::pair("Printer Properties", "Propriétés de l'imprimante"),
             std::pair("Advanced", "Options avancées"),
         };
         const bool printing = qstrncmp(context, "QPrint", qstrlen("QPrint")) == 0;
-        for (const auto &[english, french] : kTexts) {
+        for (const auto &[english, french] : kLeftovers) {
             if (printing && qstrcmp(source, english) == 0) {
                 return QString::fromUtf8(french);
             }
         }
-        return {};
+        return QTranslator::translate(context, source, disambiguation, n);
     }
 };
 
@@ -37,11 +35,10 @@ public:
 
 void SpeakFrench(const QString &translationsFolder) {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    auto translator = std::make_unique<QTranslator>(QCoreApplication::instance());
+    auto translator = std::make_unique<FrenchTexts>(QCoreApplication::instance());
     if (translator->load(QStringLiteral("qtbase_fr"), translationsFolder)) {
         QCoreApplication::installTranslator(translator.release());
     }
-    QCoreApplication::installTranslator(new Leftovers(QCoreApplication::instance()));
 }
 
 } // namespace platform::dialogs
