@@ -12,6 +12,7 @@
 #include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPrinterInfo>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSaveFile>
@@ -116,12 +117,7 @@ void PrintTarget::ShowPrinter(QWidget *parent, const QString &title) {
 
 void PrintTarget::Print(QWidget *parent, const QString &title, const std::function<void(QPainter &)> &page) {
     if (printer().outputFormat() != QPrinter::PdfFormat) {
-        const std::string failure = "L'impression a échoué.";
-        printer().setDocName(title);
-        draw(printer(), page, failure);
-        if (printer().printerState() == QPrinter::Error) {
-            throw PrintError(failure);
-        }
+        printPage(title, page);
         return;
     }
     QString path = std::exchange(m_file, {});
@@ -143,6 +139,20 @@ QString PrintTarget::proposedFile(const QString &title) {
         }
     }
     return m_folder + QLatin1Char('/') + fileNameOf(title);
+}
+
+void PrintTarget::printPage(const QString &title, const std::function<void(QPainter &)> &page) {
+    const QString name = printer().printerName();
+    // What is printed on a printer that is gone is lost without a word.
+    if (QPrinterInfo::printerInfo(name).isNull()) {
+        throw PrintError("L'imprimante " + name.toStdString() + " n'est pas disponible.");
+    }
+    const std::string failure = "L'impression a échoué.";
+    printer().setDocName(title);
+    draw(printer(), page, failure);
+    if (printer().printerState() == QPrinter::Error) {
+        throw PrintError(failure);
+    }
 }
 
 void PrintTarget::writePdf(const QString &path, const QString &title,

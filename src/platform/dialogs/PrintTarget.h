@@ -36,6 +36,7 @@ public:
 private:
     QPrinter &printer();
     QString proposedFile(const QString &title);
+    void printPage(const QString &title, const std::function<void(QPainter &)> &page);
     void writePdf(const QString &path, const QString &title, const std::function<void(QPainter &)> &page);
 
     std::unique_ptr<QPrinter> m_printer; // made late: it looks for the installed ones
