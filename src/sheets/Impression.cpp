@@ -112,8 +112,9 @@ double PointsSurPapier(double points, const QPaintDevice &papier) {
     return largeur >= kPleineLargeur ? points : std::clamp(demis, kPointsMin, points);
 }
 
+/// Half a dot stays free, so that the dots do not touch the text of the next column.
 QString PointillesDe(int largeur, const QFontMetricsF &metrique) {
-    const auto nombre = static_cast<qsizetype>(largeur / metrique.horizontalAdvance(QLatin1Char('.')));
+    const auto nombre = static_cast<qsizetype>(largeur / metrique.horizontalAdvance(QLatin1Char('.')) - 0.5);
     return QStringLiteral(".").repeated(nombre);
 }
 
