@@ -20,22 +20,13 @@ using namespace platform::controls;
 
 constexpr int kTrait = 3; // device pixels, of the title's box
 
-/// Size of letters in points, and their width in percent of that of the typeface.
-struct Taille {
-    double points;
-    int largeur = 100;
-
-    static constexpr int kLargeurMin = 70;
-    static constexpr int kPasDeLargeur = 5;
-};
-
 /// A text of the page with what it takes from its control.
 struct Ecriture {
     QString texte;
     QColor couleur;
     QFont fonte; ///< bold, italic and underline of it count
     double points;
-    bool reductible = true; ///< set smaller, then narrower, where it does not fit
+    bool reductible = true; ///< set smaller where it does not fit
 };
 
 template <class Controle>
@@ -92,12 +83,11 @@ QFont PoliceImprimante() {
 }
 
 /// Gives the printer colour, weight, size, slant and underline of a text; the typeface stays the printer's.
-void SetupFontPrinter(QPainter &feuille, const Ecriture &ecriture, Taille taille) {
+void SetupFontPrinter(QPainter &feuille, const Ecriture &ecriture, double points) {
     feuille.setPen(ecriture.couleur);
     QFont fonte = feuille.font();
     fonte.setBold(ecriture.fonte.bold());
-    fonte.setPointSizeF(taille.points);
-    fonte.setStretch(taille.largeur);
+    fonte.setPointSizeF(points);
     fonte.setItalic(ecriture.fonte.italic());
     fonte.setUnderline(ecriture.fonte.underline());
     feuille.setFont(fonte);
@@ -133,24 +123,21 @@ Qt::Alignment Alignement(Champ champ, bool tient) {
 void DessinerTexte(QPainter &feuille, const Bloc &bloc, Ecriture ecriture) {
     const QRect place(QPoint(bloc.rect.left, bloc.rect.top),
                       QSize(bloc.rect.right - bloc.rect.left, bloc.rect.bottom - bloc.rect.top));
-    const auto tientA = [&](Taille taille) {
-        SetupFontPrinter(feuille, ecriture, taille);
+    const auto tientA = [&](double points) {
+        SetupFontPrinter(feuille, ecriture, points);
         const QRectF pris = feuille.boundingRect(QRectF(place), Qt::TextWordWrap, ecriture.texte);
         return pris.height() <= place.height() && pris.width() <= place.width();
     };
-    Taille taille{PointsSurPapier(ecriture.points, *feuille.device())};
-    SetupFontPrinter(feuille, ecriture, taille);
+    double points = PointsSurPapier(ecriture.points, *feuille.device());
+    SetupFontPrinter(feuille, ecriture, points);
     if (ecriture.texte == store::LignePointillee) {
         ecriture.texte = PointillesDe(place.width(), QFontMetricsF(feuille.font(), feuille.device()));
         ecriture.reductible = false;
     }
     if (ecriture.reductible) {
-        taille.points = TailleQuiTient(taille.points, [&](double points) { return tientA({points}); });
-        while (taille.largeur > Taille::kLargeurMin && !tientA(taille)) {
-            taille.largeur -= Taille::kPasDeLargeur;
-        }
+        points = TailleQuiTient(points, tientA);
     }
-    const auto alignement = static_cast<int>(Alignement(bloc.champ, tientA(taille)));
+    const auto alignement = static_cast<int>(Alignement(bloc.champ, tientA(points)));
     feuille.drawText(place, alignement | Qt::TextWordWrap | Qt::TextDontClip, ecriture.texte);
 }
 

@@ -11,7 +11,7 @@ struct Mesures;
 Mesures MesuresDe(const FicheAlbum &fiche);
 
 /// Prints the sheet on the painter's device, on one page. A text that does not fit into its place is set smaller, down to
-/// kPointsMin, then in narrower letters, and runs on below its place when it still does not fit.
+/// kPointsMin, and runs on below its place when it still does not fit.
 void Imprimer(const FicheAlbum &fiche, QPainter &feuille);
 
 } // namespace sheets

@@ -161,8 +161,7 @@ private Q_SLOTS:
     }
 
     void longTextsAreSetSmaller() {
-        // On the small paper only narrower letters make room for them.
-        for (const auto &[paper, sentences] : {std::pair(QPageSize::A4, 48), std::pair(QPageSize::A5, 32)}) {
+        for (const auto &[paper, sentences] : {std::pair(QPageSize::A4, 48), std::pair(QPageSize::A5, 24)}) {
             change(u"Recette = 'Ail %1 fin', preparation = 'Commencer %2 finir.'"_qs.arg(
                 u"titre "_qs.repeated(18).trimmed(),
                 u"remuer longuement la sauce au chocolat noir "_qs.repeated(sentences)));
