@@ -7,6 +7,7 @@
 #include "Valeurs.h"
 #include "Vues.h"
 
+#include "platform/controls/FileDrop.h"
 #include "platform/controls/Fonts.h"
 #include "platform/controls/ToolWindow.h"
 #include "store/Configuration.h"
@@ -294,7 +295,6 @@ void Frmmain::PeindreFiche() {
     Saisie(0).SetDefaultColor(kCouleurPreparation);
     Saisie(1).SetDefaultColor(Qt::white);
     CadrePhoto.SetReachable();
-    CadrePhoto.SetTakesFiles();
     for (DropList *liste : ListesModif()) {
         liste->hide();
     }
@@ -392,9 +392,8 @@ void Frmmain::BrancherFiche() {
         connect(panneau, &ScrollPanel::Clicked, this, [this] { CacherListeModif(*this); });
     }
     connect(&CadrePhoto, &Panel::Clicked, this, [this] { ClicCadrePhoto(*this); });
-    // Not at once: the program that the file comes from waits for the end of the drop.
     connect(
-        &CadrePhoto, &Panel::FileDropped, this,
+        new FileDrop(CadrePhoto), &FileDrop::Dropped, this,
         [this](const QString &fichier) { DeposerPhoto(*this, fichier); }, Qt::QueuedConnection);
 }
 

@@ -2,6 +2,7 @@
 
 #include "Scan.h"
 
+#include "platform/controls/FileDrop.h"
 #include "platform/controls/Fonts.h"
 
 #include <QShortcut>
@@ -114,13 +115,15 @@ void Acquisition::Brancher() {
     Btn_ScanS(kOuvrir).setFocus();
     connect(new QShortcut(QKeySequence::Paste, this), &QShortcut::activated, this,
             [this] { CollerImage(*this); });
-    // What lies over the frame must not take the files that are dropped there.
+    // Dragging the picture must no more move the window than dragging its frame does.
     PhotoScan.setAttribute(Qt::WA_TransparentForMouseEvents);
-    Cadre.SetTakesFiles();
-    connect(&Cadre, &Panel::FileDropped, this, [this](const QString &fichier) {
-        OuvrirFichier(*this, fichier);
-        PermettreOperations();
-    });
+    connect(
+        new FileDrop(*this), &FileDrop::Dropped, this,
+        [this](const QString &fichier) {
+            OuvrirFichier(*this, fichier);
+            PermettreOperations();
+        },
+        Qt::QueuedConnection);
 }
 
 void Acquisition::BrancherBouton(int index) {

@@ -3,29 +3,10 @@
 #include "SkinnedWindow.h"
 
 #include <QContextMenuEvent>
-#include <QDragEnterEvent>
-#include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QUrl>
 
 namespace platform::controls {
-
-namespace {
-
-/// Path of the one file of this computer that is being dragged; empty for anything else.
-QString draggedFile(const QMimeData &dragged) {
-    const QList<QUrl> places = dragged.urls();
-    return places.size() == 1 ? places.first().toLocalFile() : QString();
-}
-
-/// The file stays where it is, also where the other program proposes to move it.
-void acceptCopy(QDropEvent &event) {
-    event.setDropAction(Qt::CopyAction);
-    event.accept();
-}
-
-} // namespace
 
 TextLabel::TextLabel(QWidget *parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
@@ -132,17 +113,6 @@ void CaptionPanel::contextMenuEvent(QContextMenuEvent *event) {
     if (event->reason() == QContextMenuEvent::Keyboard) {
         Q_EMIT RightClicked(mapToGlobal(rect().center()));
     }
-}
-
-void CaptionPanel::dragEnterEvent(QDragEnterEvent *event) {
-    if (!draggedFile(*event->mimeData()).isEmpty()) {
-        acceptCopy(*event);
-    }
-}
-
-void CaptionPanel::dropEvent(QDropEvent *event) {
-    acceptCopy(*event);
-    Q_EMIT FileDropped(draggedFile(*event->mimeData()));
 }
 
 void CaptionPanel::enterEvent(QEnterEvent *event) {

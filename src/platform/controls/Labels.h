@@ -49,9 +49,6 @@ public:
     /// Lets the keyboard reach the panel: Enter and the space bar click it, the menu key clicks it with the right button.
     void SetReachable();
 
-    /// Lets a file be dropped onto the panel and what stands in it.
-    void SetTakesFiles() { setAcceptDrops(true); }
-
     /// Shows a flood over this part of the panel, 0 to 100 percent, at once; painted only when the whole
     /// percentage changes.
     void SetFloodPercent(double percent);
@@ -59,8 +56,6 @@ public:
 Q_SIGNALS:
     void Clicked();
     void RightClicked(const QPoint &globalPosition);
-    /// A file of this computer was dropped, given by its full path.
-    void FileDropped(const QString &path);
     void Entered();
     void Exited();
 
@@ -72,8 +67,6 @@ protected:
     void leaveEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
-    void dragEnterEvent(QDragEnterEvent *event) override;
-    void dropEvent(QDropEvent *event) override;
 
 private:
     QString m_caption;
