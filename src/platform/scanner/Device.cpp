@@ -7,8 +7,10 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <cmath>
 #include <sane/saneopts.h>
+#include <thread>
 #include <vector>
 
 namespace platform::scanner {
@@ -17,6 +19,9 @@ namespace {
 
 constexpr std::array kUsualResolutions{75.0, 100.0, 150.0, 200.0, 300.0, 400.0, 600.0, 1200.0};
 constexpr std::size_t kBuffer = 65'536;
+// A driver waits until it has something to give. Some that have lost their device give nothing, for ever.
+constexpr int kEmptyReads = 1000;
+constexpr std::chrono::milliseconds kPause{10}; // after each
 
 void check(SANE_Status status) {
     if (status != SANE_STATUS_GOOD) {
@@ -203,28 +208,40 @@ void Device::apply(const ScanSettings &settings) {
     setArea(settings.area);
 }
 
-QImage Device::scan(const std::function<bool(std::optional<double>)> &progress) {
+bool Device::readFrame(FrameAssembler &assembler, const Progress &progress) {
+    std::vector<SANE_Byte> buffer(kBuffer);
+    int emptyReads = 0;
+    while (progress(assembler.progress())) {
+        SANE_Int length = 0;
+        const SANE_Status status =
+            sane().read(m_handle, buffer.data(), static_cast<SANE_Int>(buffer.size()), &length);
+        if (status == SANE_STATUS_EOF) {
+            return true;
+        }
+        check(status);
+        assembler.add(buffer.data(), static_cast<std::size_t>(length));
+        if (length > 0) {
+            emptyReads = 0;
+        } else if (++emptyReads < kEmptyReads) {
+            std::this_thread::sleep_for(kPause);
+        } else {
+            throw ScannerError(SANE_STATUS_IO_ERROR);
+        }
+    }
+    return false;
+}
+
+QImage Device::scan(const Progress &progress) {
     // Ends a scan that is complete as well as one that is not.
     const auto end = qScopeGuard([this] { sane().cancel(m_handle); });
     FrameAssembler assembler;
-    std::vector<SANE_Byte> buffer(kBuffer);
     SANE_Parameters frame{};
     do {
         check(sane().start(m_handle));
         check(sane().get_parameters(m_handle, &frame));
         assembler.begin(frame);
-        while (true) {
-            if (!progress(assembler.progress())) {
-                return {};
-            }
-            SANE_Int length = 0;
-            const SANE_Status status =
-                sane().read(m_handle, buffer.data(), static_cast<SANE_Int>(buffer.size()), &length);
-            if (status == SANE_STATUS_EOF) {
-                break;
-            }
-            check(status);
-            assembler.add(buffer.data(), static_cast<std::size_t>(length));
+        if (!readFrame(assembler, progress)) {
+            return {};
         }
     } while (frame.last_frame == SANE_FALSE);
     QImage picture = assembler.picture();

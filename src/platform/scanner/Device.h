@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ScannerTypes.h"
+#include "Library.h"
 
 #include <QImage>
 
@@ -10,7 +10,9 @@
 
 namespace platform::scanner {
 
-/// An open device. All but the destructor throw ScannerError.
+class FrameAssembler;
+
+/// An open device, with SANE in use for it. All but the destructor throw ScannerError.
 class Device {
 public:
     explicit Device(const QString &name);
@@ -24,10 +26,12 @@ public:
     /// What the device does not offer is passed over.
     void apply(const ScanSettings &settings);
 
+    /// Takes how much is done, from 0 to 1, none when that is unknown, and says whether to go on.
+    using Progress = std::function<bool(std::optional<double>)>;
+
     /// Scans one picture.
-    /// @param progress takes how much is done, from 0 to 1, none when that is unknown, and says whether to go on
     /// @return null when progress said no
-    QImage scan(const std::function<bool(std::optional<double>)> &progress);
+    QImage scan(const Progress &progress);
 
 private:
     struct Option {
@@ -46,7 +50,9 @@ private:
     void set(const char *name, double value);
     void set(const char *name, bool value);
     void setArea(const QRectF &area);
+    bool readFrame(FrameAssembler &assembler, const Progress &progress);
 
+    Library m_library;
     SANE_Handle m_handle = nullptr;
 };
 

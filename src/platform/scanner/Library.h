@@ -4,7 +4,8 @@
 
 namespace platform::scanner {
 
-/// SANE in use. One at a time, and like everything of SANE of one thread alone.
+/// SANE in use. One at a time, and like everything of SANE of one thread alone. Not for longer than one task: drivers
+/// keep what they know of a device, and some end the program by it when the device has gone in between.
 class Library {
 public:
     /// @throws ScannerError

@@ -20,7 +20,7 @@ namespace {
 
 constexpr std::chrono::seconds kPatience{2};
 
-using Task = std::function<void(std::optional<Library> &)>;
+using Task = std::function<void()>;
 
 /// Drivers have threads and processes of their own write into pipes, which a cancelled scan closes; the signal for
 /// that would end the program. They inherit what this thread blocks.
@@ -58,12 +58,8 @@ public:
 
     void work() {
         ignoreBrokenPipes();
-        {
-            // Begun by the first task, and ended by the thread that began it.
-            std::optional<Library> library;
-            while (const Task task = next()) {
-                task(library);
-            }
+        while (const Task task = next()) {
+            task();
         }
         const std::lock_guard lock(m_mutex);
         m_ended = true;
@@ -93,18 +89,15 @@ private:
 namespace {
 
 /// A task that gives a future its result or its failure.
-/// @param work takes the library and the promise
+/// @param work takes the promise
 template <typename Result, typename Work>
 std::pair<Task, QFuture<Result>> promised(Work work) {
     const auto promise = std::make_shared<QPromise<Result>>();
     promise->start();
-    const auto task = [promise, work](std::optional<Library> &library) {
+    const auto task = [promise, work] {
         try {
             if (!promise->isCanceled()) {
-                if (!library) {
-                    library.emplace();
-                }
-                work(*library, *promise);
+                work(*promise);
             }
         } catch (...) {
             promise->setException(std::current_exception());
@@ -126,27 +119,27 @@ Scanner::~Scanner() {
 
 QFuture<QList<DeviceInfo>> Scanner::devices() {
     const auto [task, future] = promised<QList<DeviceInfo>>(
-        [](Library &library, QPromise<QList<DeviceInfo>> &promise) { promise.addResult(library.devices()); });
+        [](QPromise<QList<DeviceInfo>> &promise) { promise.addResult(Library().devices()); });
     m_tasks->add(task);
     return future;
 }
 
 QFuture<ScanOptions> Scanner::options(const QString &device) {
-    const auto [task, future] =
-        promised<ScanOptions>([device](Library & /*library*/, QPromise<ScanOptions> &promise) {
-            promise.addResult(Device(device).options());
-        });
+    const auto [task, future] = promised<ScanOptions>(
+        [device](QPromise<ScanOptions> &promise) { promise.addResult(Device(device).options()); });
     m_tasks->add(task);
     return future;
 }
 
 QFuture<QImage> Scanner::scan(const QString &device, const ScanSettings &settings) {
-    const auto work = [device, settings, tasks = m_tasks.get()](Library & /*library*/,
-                                                                QPromise<QImage> &promise) {
+    const auto work = [device, settings, tasks = m_tasks.get()](QPromise<QImage> &promise) {
         Device opened(device);
         opened.apply(settings);
         const QImage picture = opened.scan([&](std::optional<double> part) {
-            promise.setProgressRange(0, part ? 100 : 0);
+            // Told again, it would wake the dialog for every piece that is read.
+            if (const int most = part ? 100 : 0; promise.future().progressMaximum() != most) {
+                promise.setProgressRange(0, most);
+            }
             promise.setProgressValue(part ? static_cast<int>(*part * 100) : 0);
             return !promise.isCanceled() && !tasks->stopped();
         });
