@@ -83,6 +83,7 @@ AcquisitionDialog::AcquisitionDialog(scanner::Scanner &scanner, const scanner::D
       m_source(new QComboBox(this)),
       m_mode(new QComboBox(this)),
       m_resolution(new QComboBox(this)),
+      m_hint(new QLabel(this)),
       m_area(new PreviewArea(this)),
       m_state(new QLabel(this)),
       m_progress(new QProgressBar(this)),
@@ -119,6 +120,9 @@ void AcquisitionDialog::nameControls() {
     m_scanButton->setObjectName(QStringLiteral("Numeriser"));
     m_cancelButton->setObjectName(QStringLiteral("Annuler"));
     m_scanButton->setDefault(true);
+    // Disabled during a scan, the others hand the keyboard on to Annuler; Enter after it must not close the dialog.
+    m_previewButton->setAutoDefault(false);
+    m_cancelButton->setAutoDefault(false);
     m_state->setWordWrap(true);
     m_state->setTextFormat(Qt::PlainText);
     m_progress->setTextVisible(false);
@@ -134,11 +138,11 @@ void AcquisitionDialog::arrange() {
     addChoice(form, QStringLiteral("&Source :"), m_source);
     addChoice(form, QStringLiteral("&Mode :"), m_mode);
     addChoice(form, QStringLiteral("&Résolution :"), m_resolution);
-    auto *hint = new QLabel(
-        QStringLiteral("Après un aperçu, tracez à la souris\nla partie de la vitre à numériser."), this);
+    m_hint->setText(
+        QStringLiteral("Après un aperçu, tracez à la souris\nla partie de la vitre à numériser."));
     auto *left = new QVBoxLayout;
     left->addLayout(form);
-    left->addWidget(hint);
+    left->addWidget(m_hint);
     left->addStretch();
     left->addWidget(m_state);
     left->addWidget(m_progress);
@@ -176,7 +180,10 @@ void AcquisitionDialog::showOptions() {
     }
     m_resolution->setCurrentIndex(m_resolution->findData(nearest(m_options.resolutions, kUsualResolution)));
     m_area->setGlass(m_options.glass);
+    m_hint->setVisible(!m_options.glass.isEmpty());
+    m_area->setVisible(!m_options.glass.isEmpty());
     setBusy(false, state);
+    adjustSize();
 }
 
 ScanSettings AcquisitionDialog::settings(bool preview) const {
@@ -233,6 +240,9 @@ void AcquisitionDialog::setBusy(bool busy, const QString &state) {
     m_area->setEnabled(!busy && !m_options.glass.isEmpty());
     for (QComboBox *box : {m_source, m_mode, m_resolution}) {
         box->setEnabled(!busy && box->count() > 0);
+    }
+    if (!busy) {
+        m_scanButton->setFocus();
     }
 }
 

@@ -51,6 +51,7 @@ private:
     QComboBox *m_source;
     QComboBox *m_mode;
     QComboBox *m_resolution;
+    QLabel *m_hint;
     PreviewArea *m_area;
     QLabel *m_state;
     QProgressBar *m_progress;
