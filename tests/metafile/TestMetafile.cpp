@@ -3,7 +3,6 @@
 
 #include <QElapsedTimer>
 #include <QFile>
-#include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QtEndian>
@@ -75,28 +74,14 @@ private Q_SLOTS:
         QCOMPARE(picture.size(), QSize(96, 48)); // an inch by half of one
         QCOMPARE(picture.pixelColor(20, 24), QColor(Qt::red));
         QCOMPARE(picture.pixelColor(80, 24), QColor(Qt::white));
-    }
-
-    void windowThatBeginsElsewhere() {
         // The red half stands right of the origin of a picture that begins 720 left of it.
-        QByteArray content = placeable(metafile(redHalf()), 720, 720, 1440);
-        content.replace(6, 2, words({-720 & 0xFFFF}));
-        const QImage picture = readMetafile(content);
-        QCOMPARE(picture.pixelColor(24, 24), QColor(Qt::white));
-        QCOMPARE(picture.pixelColor(72, 24), QColor(Qt::red));
-    }
-
-    void withoutTheHeaderOfItsSize() {
-        const QImage picture = readMetafile(metafile(redHalf()));
-        QCOMPARE(picture.pixelColor(picture.width() / 4, picture.height() / 2), QColor(Qt::red));
-    }
-
-    void recognisedByTheirContent() {
-        QVERIFY(isMetafile(metafile({})));
-        QVERIFY(isMetafile(placeable(metafile({}), 1, 1, 1)));
-        QVERIFY(!isMetafile({}));
-        QVERIFY(!isMetafile("BM234567890123456789"));
-        QVERIFY(!isMetafile("\xFF\xD8\xFF\xE0 JFIF and so on"));
+        QByteArray shifted = placeable(metafile(redHalf()), 720, 720, 1440);
+        shifted.replace(6, 2, words({-720 & 0xFFFF}));
+        QCOMPARE(readMetafile(shifted).pixelColor(24, 24), QColor(Qt::white));
+        QCOMPARE(readMetafile(shifted).pixelColor(72, 24), QColor(Qt::red));
+        // Without the header that tells its size.
+        const QImage bare = readMetafile(metafile(redHalf()));
+        QCOMPARE(bare.pixelColor(bare.width() / 4, bare.height() / 2), QColor(Qt::red));
     }
 
     void hostileFilesOnlyFail_data() {
@@ -104,6 +89,7 @@ private Q_SLOTS:
         QTest::newRow("nothing but a header") << metafile({}).left(18);
         QTest::newRow("cut off in a record") << placeable(metafile(redHalf()), 1440, 720, 1440).left(70);
         QTest::newRow("no unit") << placeable(metafile(redHalf()), 1440, 720, 0);
+        QTest::newRow("absurd size") << placeable(metafile(redHalf()), 32767, 32767, 1);
         QTest::newRow("polygon of more points than the record has")
             << metafile(record(0x324, {65535, 1, 2, 3, 4}));
         QTest::newRow("polygons without end") << metafile(record(0x538, {2, 65535, 65535, 1, 2}));
@@ -116,19 +102,12 @@ private Q_SLOTS:
 
     void hostileFilesOnlyFail() {
         QFETCH(QByteArray, content);
-        try {
-            const QImage picture = readMetafile(content);
-            QVERIFY(!picture.isNull()); // the library may have passed over the fault
-        } catch (const MetafileError &) {
-        }
-    }
-
-    void absurdSizeIsBounded() {
         QElapsedTimer clock;
         clock.start();
         try {
-            const QImage picture = readMetafile(placeable(metafile(redHalf()), 32767, 32767, 1));
-            QVERIFY(picture.width() <= 2048 && picture.height() <= 2048);
+            const QImage picture = readMetafile(content);
+            // The library may have passed over the fault.
+            QVERIFY(!picture.isNull() && picture.width() <= 2048 && picture.height() <= 2048);
         } catch (const MetafileError &) {
         }
         QVERIFY(clock.elapsed() < 12'000);

@@ -12,7 +12,7 @@ public:
         configure();
     }
 
-    /// Takes effect for the next Scanner.
+    /// Takes effect for the next task of a Scanner.
     void configure(const QByteArray &settings = {}) {
         write(QStringLiteral("dll.conf"), "test\n");
         write(QStringLiteral("test.conf"), "number_of_devices 2\nmode Gray\ndepth 8\n"
@@ -23,7 +23,7 @@ public:
                                                settings);
     }
 
-    /// From the next Scanner on there is no driver at all.
+    /// From the next task on there is no driver at all.
     void withoutDevices() { write(QStringLiteral("dll.conf"), "\n"); }
 
 private:

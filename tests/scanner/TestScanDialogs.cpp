@@ -70,10 +70,10 @@ private Q_SLOTS:
         QApplication::clipboard()->clear();
     }
 
-    void choiceIsRemembered() {
+    void choiceIsRememberedUntilTheScannerGoes() {
         ImageSource source;
         choose(source, 1);
-        onDialog(u"SelectionSource"_qs, [](QDialog &dialog) {
+        onDialog(u"SelectionSource"_qs, [this](QDialog &dialog) {
             auto *list = dialog.findChild<QListWidget *>(u"Sources"_qs);
             QTRY_COMPARE(list->count(), 2);
             QCOMPARE(list->currentRow(), 1);
@@ -81,21 +81,22 @@ private Q_SLOTS:
             QCOMPARE(list->count(), 0);
             QTRY_COMPARE(list->count(), 2);
             QCOMPARE(list->currentRow(), 1);
-            click(dialog, u"Annuler"_qs);
-        });
-        QCOMPARE(source.SelectImageSource(nullptr), 0);
-    }
-
-    void noDevice() {
-        m_backend.withoutDevices();
-        ImageSource source;
-        onDialog(u"SelectionSource"_qs, [](QDialog &dialog) {
+            m_backend.withoutDevices(); // the scanners are unplugged
+            click(dialog, u"Actualiser"_qs);
             QTRY_VERIFY(state(dialog).startsWith(u"Aucun scanner trouvé"));
             QVERIFY(!dialog.findChild<QAbstractButton *>(u"Choisir"_qs)->isEnabled());
             click(dialog, u"Annuler"_qs);
         });
         QCOMPARE(source.SelectImageSource(nullptr), 0);
+        m_backend.configure("number_of_devices 1\n");
+        onDialog(u"Numerisation"_qs, [](QDialog &dialog) {
+            QTRY_VERIFY(ready(dialog));
+            click(dialog, u"Numeriser"_qs);
+            QTRY_VERIFY(state(dialog).startsWith(u"Le scanner ne répond pas"));
+            click(dialog, u"Annuler"_qs);
+        });
         QCOMPARE(source.AcquireToClipboard(nullptr), 0);
+        QCOMPARE(ImageSource().AcquireToClipboard(nullptr), 0); // nothing chosen: nothing shown
     }
 
     void pictureOfTheDrawnAreaComesToTheClipboard() {
@@ -138,7 +139,7 @@ private Q_SLOTS:
             QTRY_VERIFY(ready(dialog));
             click(dialog, u"Numeriser"_qs);
             QTRY_COMPARE(state(dialog), u"Le couvercle du scanner est ouvert."_qs);
-            QVERIFY(ready(dialog));
+            QVERIFY(dialog.findChild<QAbstractButton *>(u"Numeriser"_qs)->hasFocus()); // not Annuler
             click(dialog, u"Annuler"_qs);
             QVERIFY(!dialog.isVisible());
         });
@@ -157,21 +158,10 @@ private Q_SLOTS:
             click(dialog, u"Annuler"_qs);
             QVERIFY(dialog.isVisible());
             QTRY_COMPARE(state(dialog), u"Numérisation annulée."_qs);
-            click(dialog, u"Annuler"_qs);
-            QVERIFY(!dialog.isVisible());
-        });
-        QCOMPARE(source.AcquireToClipboard(nullptr), 0);
-    }
-
-    void closedWhileTheDriverIsBusy() {
-        m_backend.configure("read-delay true\nread-delay-duration 200000\n");
-        ImageSource source;
-        choose(source, 0);
-        onDialog(u"Numerisation"_qs, [](QDialog &dialog) {
-            QTRY_VERIFY(ready(dialog));
+            // One that the driver does not let go is left behind by the second press.
             click(dialog, u"Numeriser"_qs);
-            dialog.reject();
-            dialog.reject();
+            click(dialog, u"Annuler"_qs);
+            click(dialog, u"Annuler"_qs);
             QVERIFY(!dialog.isVisible());
         });
         QCOMPARE(source.AcquireToClipboard(nullptr), 0);
