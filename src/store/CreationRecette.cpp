@@ -193,14 +193,13 @@ std::optional<qint64> Creation::Chercher(const TableDeTextes &table, const QStri
 std::optional<qint64> Creation::Ajouter(const TableDeTextes &table, const QString &texte) {
     std::optional<qint64> numero;
     Executer([&] { numero = NumeroSuivant(table.maximum); });
-    Executer([&] {
-        Recordset lignes = m_base.OpenRecordset(table.lignes.toString());
-        lignes.AddNew();
-        lignes.Fields(table.cle) = numero.value();
-        lignes.Fields(table.texte) = texte;
-        lignes.Update();
-        lignes.SetBookmark(lignes.LastModified());
-    });
+    std::optional<Recordset> lignes;
+    Executer([&] { lignes = m_base.OpenRecordset(table.lignes.toString()); });
+    Executer([&] { lignes.value().AddNew(); });
+    Executer([&] { lignes.value().Fields(table.cle) = numero.value(); });
+    Executer([&] { lignes.value().Fields(table.texte) = texte; });
+    Executer([&] { lignes.value().Update(); });
+    Executer([&] { lignes.value().SetBookmark(lignes.value().LastModified()); });
     return numero;
 }
 
