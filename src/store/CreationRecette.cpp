@@ -4,6 +4,7 @@
 #include "Textes.h"
 #include "Vocabulaires.h"
 
+#include <algorithm>
 #include <optional>
 #include <span>
 
@@ -248,11 +249,11 @@ TextesNouveaux Creation::EcrireLignes() {
     TextesNouveaux nouveaux;
     std::optional<Recordset> lignes;
     Executer([&] { lignes = m_base.OpenRecordset(QStringLiteral("SELECT * From Ingre")); });
-    for (auto ligne = m_saisie.lignes.rbegin(); ligne != m_saisie.lignes.rend(); ++ligne) {
-        if (!ligne->vide()) {
-            EcrireLigne(lignes, *ligne, nouveaux);
+    std::for_each(m_saisie.lignes.crbegin(), m_saisie.lignes.crend(), [&](const LigneSaisie &ligne) {
+        if (!ligne.vide()) {
+            EcrireLigne(lignes, ligne, nouveaux);
         }
-    }
+    });
     return nouveaux;
 }
 
