@@ -186,6 +186,7 @@ void Manuelle::LegenderPhoto() {
 void Manuelle::Brancher() {
     BrancherListes(*this);
     connect(&Scroll, &ScrollPanel::Clicked, this, [this] { CacherListes(*this); });
+    connect(&Photo, &Image::Pressed, this, [this] { CacherListesDesLignes(*this); });
     connect(&CadrePhoto, &Panel::Clicked, this, &Manuelle::ChoisirPhoto);
     connect(&Creer, &Ribbon::toggled, this, [this](bool presse) {
         if (presse) {
@@ -196,7 +197,6 @@ void Manuelle::Brancher() {
 }
 
 void Manuelle::ChoisirPhoto() {
-    CacherListesDesLignes(*this);
     pictures::ChoisirImage({*this, {CadrePhoto.Width(), CadrePhoto.Height()}, Photo, Principale.ImageTemp},
                            Principale.DossierImages);
     LegenderPhoto();

@@ -11,13 +11,13 @@ namespace pictures {
 namespace {
 
 QString CheminNomme(const QString &nom) {
-    // ":" begins the name of a resource of the program, which is no file of the cook's.
-    if (nom.startsWith(QLatin1Char(':'))) {
-        return {};
+    // To the toolkit ":" begins the name of a resource of the program, to the cook it is a letter of a title.
+    if (QDir::isAbsolutePath(nom) && !nom.startsWith(u':')) {
+        return nom;
     }
     // Nothing is ever found from the working directory, so a relative path is no path.
-    if (nom.contains(QLatin1Char('\\')) || QDir::isAbsolutePath(nom)) {
-        return QDir::isAbsolutePath(nom) ? nom : QString();
+    if (nom.contains(u'\\')) {
+        return {};
     }
     const QString dossier =
         QDir::cleanPath(store::DossierProgramme() + QStringLiteral("/photos")) + QLatin1Char('/');

@@ -4,6 +4,7 @@
 #include "Textes.h"
 #include "Vocabulaires.h"
 
+#include <algorithm>
 #include <optional>
 #include <span>
 
@@ -193,14 +194,13 @@ std::optional<qint64> Creation::Chercher(const TableDeTextes &table, const QStri
 std::optional<qint64> Creation::Ajouter(const TableDeTextes &table, const QString &texte) {
     std::optional<qint64> numero;
     Executer([&] { numero = NumeroSuivant(table.maximum); });
-    Executer([&] {
-        Recordset lignes = m_base.OpenRecordset(table.lignes.toString());
-        lignes.AddNew();
-        lignes.Fields(table.cle) = numero.value();
-        lignes.Fields(table.texte) = texte;
-        lignes.Update();
-        lignes.SetBookmark(lignes.LastModified());
-    });
+    std::optional<Recordset> lignes;
+    Executer([&] { lignes = m_base.OpenRecordset(table.lignes.toString()); });
+    Executer([&] { lignes.value().AddNew(); });
+    Executer([&] { lignes.value().Fields(table.cle) = numero.value(); });
+    Executer([&] { lignes.value().Fields(table.texte) = texte; });
+    Executer([&] { lignes.value().Update(); });
+    Executer([&] { lignes.value().SetBookmark(lignes.value().LastModified()); });
     return numero;
 }
 
@@ -249,11 +249,11 @@ TextesNouveaux Creation::EcrireLignes() {
     TextesNouveaux nouveaux;
     std::optional<Recordset> lignes;
     Executer([&] { lignes = m_base.OpenRecordset(QStringLiteral("SELECT * From Ingre")); });
-    for (auto ligne = m_saisie.lignes.rbegin(); ligne != m_saisie.lignes.rend(); ++ligne) {
-        if (!ligne->vide()) {
-            EcrireLigne(lignes, *ligne, nouveaux);
+    std::for_each(m_saisie.lignes.crbegin(), m_saisie.lignes.crend(), [&](const LigneSaisie &ligne) {
+        if (!ligne.vide()) {
+            EcrireLigne(lignes, ligne, nouveaux);
         }
-    }
+    });
     return nouveaux;
 }
 

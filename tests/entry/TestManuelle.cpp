@@ -9,7 +9,6 @@
 
 #include <QAbstractItemView>
 #include <QCompleter>
-#include <QSignalSpy>
 
 #include <memory>
 
@@ -86,48 +85,35 @@ private Q_SLOTS:
     void theListsOfferWhatTheBookHolds() {
         QCOMPARE(m_entry->LCout.Count(), 5);
         QCOMPARE(m_entry->LDiff.Count(), 6);
-        QCOMPARE(m_entry->LDureeCuisson.Count(), 3);
         QCOMPARE(m_entry->LDureeCuisson.itemText(2), store::LignePointillee.toString());
         QCOMPARE(m_entry->LVin.Count(), 0);
         QCOMPARE(m_entry->LIngre.Count(), 3);
-        QCOMPARE(open(), QString());
     }
 
     void aFieldEnteredWithTheMouseIsCoveredByItsList() {
         QTest::mouseClick(&m_entry->Ingre(2), Qt::LeftButton);
         QCOMPARE(open(), u"LIngre"_qs);
         QTest::mouseClick(&m_entry->Qte(10), Qt::LeftButton);
-        QCOMPARE(open(), u"LQte"_qs);
-        QCOMPARE(focus(), u"LQte"_qs);
-        QCOMPARE(m_entry->LQte.Tag(), u"10"_qs);
+        QCOMPARE(open() + u"," + focus(), u"LQte,LQte"_qs);
         QCOMPARE(m_entry->LQte.geometry(), m_entry->Qte(10).geometry());
         type(u"3/4"_qs);
-        QCOMPARE(m_entry->Qte(10).Text(), u"3/4"_qs);
-        QCOMPARE(m_entry->Qte(9).Text(), QString());
-
         // The text of one line is not carried to the next.
         QTest::mouseClick(&m_entry->Qte(9), Qt::LeftButton);
-        QCOMPARE(m_entry->LQte.Text(), QString());
+        QCOMPARE(m_entry->LQte.Text() + m_entry->Qte(9).Text(), QString());
         QCOMPARE(m_entry->Qte(10).Text(), u"3/4"_qs);
 
-        m_entry->Saisie(0).setFocus();
+        QTest::mousePress(&m_entry->Photo, Qt::LeftButton);
         QCOMPARE(open(), QString());
         QTest::mouseClick(&m_entry->Liste(5), Qt::LeftButton);
-        QCOMPARE(open(), u"LPlat"_qs);
         m_entry->Saisie(1).setFocus(); // hides the lists of the lines alone
         QCOMPARE(open(), u"LPlat"_qs);
-        QTest::mouseClick(m_entry->Scroll.Content(), Qt::LeftButton, {}, QPoint(5, 5));
-        QCOMPARE(open(), QString());
-    }
-
-    void aValueIsTakenAndTheListStays() {
-        QTest::mouseClick(&m_entry->Liste(5), Qt::LeftButton);
         m_entry->LPlat.SetListIndex(1);
         Q_EMIT m_entry->LPlat.activated(1);
         QCOMPARE(m_entry->Liste(5).Text(), store::LignePointillee.toString());
-        QCOMPARE(open(), u"LPlat"_qs);
-        m_entry->Liste(5).SetText(u"Dessert"_qs); // beneath the list
+        m_entry->Liste(5).SetText(u"Dessert"_qs); // beneath the list, which stays
         QCOMPARE(m_entry->LPlat.Text(), u"Dessert"_qs);
+        QTest::mouseClick(m_entry->Scroll.Content(), Qt::LeftButton, {}, QPoint(5, 5));
+        QCOMPARE(open(), QString());
     }
 
     void theKeyboardGoesThroughAllFields() {
@@ -156,11 +142,9 @@ private Q_SLOTS:
         press(Qt::Key_Down);
         QAbstractItemView *rows = m_entry->LDureeCuisson.view();
         QTRY_VERIFY(rows->isVisible());
-        QCOMPARE(rows->model()->rowCount(), 3);
         QTest::keyClick(rows, Qt::Key_Down);
         QTest::keyClick(rows, Qt::Key_Return);
-        QVERIFY(!m_entry->Liste(3).Text().isEmpty());
-        QCOMPARE(m_entry->Liste(3).Text(), m_entry->LDureeCuisson.Text());
+        QCOMPARE(m_entry->Liste(3).Text(), m_entry->LDureeCuisson.itemText(1));
         QCOMPARE(focus(), u"LDureeCuisson"_qs);
 
         // Typing narrows nothing, and Tab leaves the opened list as it was.
@@ -172,8 +156,7 @@ private Q_SLOTS:
         QTest::keyClick(rows, Qt::Key_Down);
         QTest::keyClick(rows, Qt::Key_Tab);
         QVERIFY(!rows->isVisible());
-        QCOMPARE(focus(), u"LPers"_qs);
-        QCOMPARE(m_entry->Liste(3).Text(), u"1"_qs);
+        QCOMPARE(focus() + m_entry->Liste(3).Text(), u"LPers1"_qs);
     }
 
     void typingInALineProposes() {
@@ -203,14 +186,12 @@ private Q_SLOTS:
         m_entry->Liste(3).SetText(u"10 mn"_qs);
         const QByteArray before = LivreEssai::bytes();
         QCOMPARE(create(), u"Veuillez d'abord saisir le nom de la recette !"_qs);
-        QCOMPARE(focus(), u"TitreRecette"_qs);
-        QCOMPARE(m_entry->Liste(3).Text(), u"10 mn"_qs);
+        QCOMPARE(focus() + m_entry->Liste(3).Text(), u"TitreRecette10 mn"_qs);
 
         m_entry->TitreRecette.SetText(u"Riz"_qs);
         m_entry->Liste(3).SetText(u" "_qs);
         QCOMPARE(create(), u"Veuillez d'abord saisir une durée de cuisson !"_qs);
-        QCOMPARE(focus(), u"Liste(3)"_qs);
-        QCOMPARE(open(), QString());
+        QCOMPARE(focus() + open(), u"Liste(3)"_qs);
         QVERIFY(!m_entry->creationFaite && !m_entry->Creer.Value());
         QCOMPARE(LivreEssai::bytes(), before);
         press(Qt::Key_Down); // the field has the keyboard already
@@ -227,30 +208,27 @@ private Q_SLOTS:
         m_entry->Qte(0).setFocus();
         type(u"2"_qs);
         m_entry->Ingre(0).SetText(u"Riz"_qs);
-        m_entry->Ingre(3).SetText(u"Beurre"_qs);
         QCOMPARE(create(), u"Création réussie ! "_qs);
         QVERIFY(m_entry->creationFaite && !m_entry->Creer.Value());
-        QCOMPARE(open(), QString());
-        QCOMPARE(rowsOf(u"SELECT Recette, Photo, Nreal From Cocktails where Numero = 2"_qs, 3),
-                 QStringList(u"Riz (Le)|Le Riz.jpg|2"_qs));
         QVERIFY(QFile::exists(m_book->path(u"photos/Le Riz.jpg"_qs)));
-        QString rtf = LivreEssai::text(u"SELECT Numero, preparation From Cocktails where Numero = 2"_qs);
+        const QString rtf =
+            LivreEssai::text(u"SELECT Numero, preparation From Cocktails where Numero = 2"_qs);
         QVERIFY(rtf.contains(u"\\red0\\green255\\blue255"_qs) && rtf.contains(u"Remuer"_qs));
 
         QCOMPARE(m_entry->DReal.Text(), u"5 mn"_qs);
         for (const TextBox *field : m_entry->findChildren<TextBox *>()) {
             QVERIFY2(field == &m_entry->DReal || field->Text().isEmpty(), qPrintable(field->objectName()));
         }
-        QCOMPARE(m_entry->Saisie(0).Text(), QString());
+        QCOMPARE(m_entry->Saisie(0).Text() + open(), QString());
         QVERIFY(m_entry->Photo.Picture().isNull());
 
         // The lists of the lines know the new texts, those of the values do not.
         QVERIFY(m_entry->LIngre.findText(u"Riz"_qs) >= 0 && m_entry->LQte.findText(u"2"_qs) >= 0);
         QVERIFY(m_entry->LPlat.findText(u"Dessert"_qs) < 0);
-
         fill();
         QCOMPARE(create(), u"Création réussie ! "_qs);
-        QCOMPARE(rowsOf(u"SELECT NDureeReal From Cocktails where Numero = 3"_qs, 1), QStringList(u"1"_qs));
+        QCOMPARE(rowsOf(u"SELECT Recette, NDureeReal, Photo From Cocktails where Numero > 1"_qs, 3),
+                 QStringList(2, u"Riz (Le)|1|Le Riz.jpg"_qs));
     }
 
     void theMainListFollowsAtTheEnd() {

@@ -1,15 +1,8 @@
-#include "LivreEssai.h"
+#include "EssaiCoque.h"
 
 #include "browser/Operations.h"
-#include "platform/desktop/SingleInstance.h"
-#include "shell/Demarrage.h"
-#include "shell/Fenetres.h"
-
-#include <QApplication>
-#include <QTimer>
 
 #include <functional>
-#include <memory>
 
 /// How the window of creation is opened, minimised, brought back and unloaded.
 class TestCreationManuelle : public QObject {
@@ -20,58 +13,56 @@ private:
     void meanwhile(const std::function<void(entry::Manuelle &)> &act) {
         QTimer::singleShot(0, this, [this, act] {
             m_seen = true;
-            entry::Manuelle &window = m_windows->Creation();
+            entry::Manuelle &window = m_program->windows->Creation();
+            QVERIFY(window.isVisible() && !m_program->main().isVisible());
             act(window);
             window.Quit.SetValue(true);
         });
     }
 
-    const platform::desktop::SingleInstance m_instance{
-        u"SavorelEssai%1"_qs.arg(QCoreApplication::applicationPid())};
-    std::unique_ptr<LivreEssai> m_book;
-    std::unique_ptr<shell::Fenetres> m_windows;
+    /// Whether the window was there and is gone, with the main window in its place.
+    bool isOver() const {
+        return m_seen && m_program->main().isVisible() && m_program->windows->Outils().empty();
+    }
+
+    std::unique_ptr<EssaiCoque> m_program;
     bool m_seen = false;
 
 private Q_SLOTS:
 
     void init() {
-        m_book = std::make_unique<LivreEssai>();
-        LivreEssai::execute(
-            {u"INSERT INTO Cocktails (Numero, Recette, Cout, difficulte) VALUES (1, 'Tarte', 0, 0)"_qs});
+        m_program = std::make_unique<EssaiCoque>();
         platform::settings::SaveSetting(u"Savorel"_qs, u"Patch"_qs, u"Mode"_qs, u"1"_qs);
-        m_windows = std::make_unique<shell::Fenetres>();
-        shell::ChargerFrmmain(*m_windows, m_instance);
+        m_program->start();
         m_seen = false;
     }
 
-    void cleanup() { m_windows.reset(); }
+    void cleanup() { m_program.reset(); }
 
     void theToolMakesItAnewEachTime() {
-        browser::Frmmain &frm = m_windows->Principale;
         for (int turn = 0; turn < 2; ++turn) {
             LivreEssai::execute({u"INSERT INTO Quantite VALUES (%1, 'q')"_qs.arg(turn + 1)});
             meanwhile([&](entry::Manuelle &window) {
-                QVERIFY(window.isVisible() && !frm.isVisible());
                 QCOMPARE(window.Mode(), 0); // and not the one of the main window
                 QCOMPARE(window.LQte.Count(), turn + 1);
                 QCOMPARE(window.TitreRecette.Text(), QString());
                 window.TitreRecette.SetText(u"Riz"_qs);
             });
-            QTest::mouseClick(&frm.LBtn(0), Qt::LeftButton);
-            QVERIFY(m_seen && frm.isVisible() && !frm.Outils(0).Value());
-            QVERIFY(m_windows->Outils().empty());
+            QTest::mouseClick(&m_program->main().LBtn(0), Qt::LeftButton);
+            QVERIFY(isOver() && !m_program->main().Outils(0).Value());
         }
     }
 
     void theMenuOpensItWhereRowsAreRecipes() {
-        browser::Frmmain &frm = m_windows->Principale;
+        browser::Frmmain &frm = m_program->main();
+        browser::Pop &pop = m_program->windows->Pop;
         clickRow(frm.Liste, 1, Qt::RightButton);
-        QTRY_VERIFY(m_windows->Pop.Menu1.isVisible());
-        m_windows->Pop.Menu1.close();
-        QVERIFY(m_windows->Pop.Ajouter.isEnabled());
-        meanwhile([&frm](entry::Manuelle &window) { QVERIFY(window.isVisible() && !frm.isVisible()); });
-        m_windows->Pop.Ajouter.trigger();
-        QVERIFY(m_seen && frm.isVisible());
+        QTRY_VERIFY(pop.Menu1.isVisible());
+        pop.Menu1.close();
+        QVERIFY(pop.Ajouter.isEnabled());
+        meanwhile([](const entry::Manuelle & /*window*/) {});
+        pop.Ajouter.trigger();
+        QVERIFY(isOver());
 
         frm.Outils(2).SetTag(browser::kBas);
         browser::EnregistrerVue(5);
@@ -81,27 +72,27 @@ private Q_SLOTS:
     }
 
     void aMinimisedOneComesBackAsItWas() {
-        browser::Frmmain &frm = m_windows->Principale;
+        browser::Pop &pop = m_program->windows->Pop;
         for (const bool byMenu : {false, true}) {
-            m_windows->Pop.FenetreOuverte = browser::Pop::kSeule;
-            meanwhile([this](entry::Manuelle &window) {
+            pop.FenetreOuverte = browser::Pop::kSeule;
+            meanwhile([&](entry::Manuelle &window) {
                 window.TitreRecette.SetText(u"Riz"_qs);
                 window.Ingre(10).SetText(u"Sel"_qs);
-                window.Mini.SetValue(true);
+                window.Saisie(1).setFocus();
+                QTest::mouseClick(&window.Mini, Qt::LeftButton);
                 QVERIFY(!window.isVisible());
-                QTRY_VERIFY(m_windows->Pop.isVisible());
-                m_windows->Pop.setWindowState(Qt::WindowNoState);
+                QTRY_VERIFY(pop.isVisible());
+                pop.setWindowState(Qt::WindowNoState);
                 QTRY_VERIFY(window.isVisible());
-                QCOMPARE(&window, &m_windows->Creation());
                 QCOMPARE(window.TitreRecette.Text() + window.Ingre(10).Text(), u"RizSel"_qs);
+                QCOMPARE(window.focusWidget(), &window.Saisie(1));
             });
             if (byMenu) {
-                Q_EMIT frm.CreationDemandee();
+                Q_EMIT m_program->main().CreationDemandee();
             } else {
-                frm.Outils(0).SetValue(true);
+                m_program->main().Outils(0).SetValue(true);
             }
-            QVERIFY(m_seen && frm.isVisible());
-            QVERIFY(m_windows->Outils().empty());
+            QVERIFY(isOver());
         }
     }
 };

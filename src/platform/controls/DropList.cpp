@@ -1,12 +1,14 @@
 #include "DropList.h"
 
 #include "Fonts.h"
+#include "SkinnedWindow.h"
 
 #include <QApplication>
 #include <QCompleter>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
+#include <QPainter>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QWheelEvent>
@@ -15,6 +17,7 @@ namespace platform::controls {
 
 namespace {
 
+constexpr int kMargin = 2;        // pixels that bring the text where a text box has it
 constexpr int kMeasuredRows = 20; // longer lists keep the width of their field
 
 /// A key that an opened list acts on.
@@ -29,6 +32,7 @@ DropBox::DropBox(QWidget *parent) : QComboBox(parent), m_rows(this) {
     setModel(&m_rows);
     // setEditable would make the popup's list at once, only to frame it for a box without a field.
     setLineEdit(new QLineEdit(this));
+    lineEdit()->setTextMargins(kMargin, 0, 0, 0);
     setInsertPolicy(QComboBox::NoInsert);
     setCompleter(nullptr);
     setFont(interfaceFont(Face::Verdana, 8.25));
@@ -127,6 +131,14 @@ void DropBox::AddItems(const QStringList &texts) {
     // The toolkit would choose the first row of a list that was empty.
     setCurrentIndex(-1);
     setEditText(written);
+}
+
+void DropBox::paintEvent(QPaintEvent *event) {
+    QComboBox::paintEvent(event);
+    if (hasFocus()) {
+        QPainter painter(this);
+        paintFocusRing(painter, rect(), skinAround(*this));
+    }
 }
 
 bool DropBox::isProposing() const {

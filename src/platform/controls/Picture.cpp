@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QImageReader>
+#include <QMouseEvent>
 #include <QPainter>
 
 namespace platform::controls {
@@ -119,6 +120,11 @@ void PictureBox::paintEvent(QPaintEvent * /*event*/) {
         m_scaled.setDevicePixelRatio(devicePixelRatio());
     }
     QPainter(this).drawPixmap(0, 0, m_scaled);
+}
+
+void PictureBox::mousePressEvent(QMouseEvent *event) {
+    Q_EMIT Pressed();
+    event->ignore();
 }
 
 } // namespace platform::controls

@@ -40,8 +40,13 @@ public:
     /// Width and height of the unstretched picture, in twips.
     Extent NaturalSize() const;
 
+Q_SIGNALS:
+    /// It was pressed; what it stands in takes the press too.
+    void Pressed();
+
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
 
 private:
     QImage m_picture;

@@ -1,8 +1,10 @@
 #include "TextBox.h"
 
 #include "Fonts.h"
+#include "SkinnedWindow.h"
 
 #include <QKeyEvent>
+#include <QPainter>
 
 namespace platform::controls {
 
@@ -10,15 +12,25 @@ namespace {
 
 const QColor kPaper(240, 245, 252);
 const QColor kInk(22, 33, 58);
+constexpr int kMargin = 3; // pixels that keep the text clear of the focus ring
 
 } // namespace
 
 LineBox::LineBox(QWidget *parent) : QLineEdit(parent) {
     setFont(interfaceFont(Face::Verdana, 8.25));
+    setTextMargins(kMargin, 0, kMargin, 0);
     QPalette colours = palette();
     colours.setColor(QPalette::Base, kPaper);
     colours.setColor(QPalette::Text, kInk);
     setPalette(colours);
+}
+
+void LineBox::paintEvent(QPaintEvent *event) {
+    QLineEdit::paintEvent(event);
+    if (hasFocus()) {
+        QPainter painter(this);
+        paintFocusRing(painter, rect(), skinAround(*this));
+    }
 }
 
 void LineBox::focusInEvent(QFocusEvent *event) {

@@ -23,6 +23,7 @@ Q_SIGNALS:
     void Entered();
 
 protected:
+    void paintEvent(QPaintEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;

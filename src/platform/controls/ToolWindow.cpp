@@ -33,6 +33,9 @@ ToolWindow::ToolWindow(const QString &name, Extent size)
     Icone.SetPicture(resourcePicture(QStringLiteral(":/icones/savorel.argb")).toImage());
     setBandPictures(Mini, QStringLiteral("reduire"));
     setBandPictures(Quit, QStringLiteral("fermer"));
+    // Pressed with the mouse they leave the keyboard to the field that has it: a minimised window comes back to it.
+    Mini.setFocusPolicy(Qt::TabFocus);
+    Quit.setFocusPolicy(Qt::TabFocus);
     connect(&Mini, &Ribbon::toggled, this, [this](bool pressed) {
         if (pressed) {
             Mini.Release();

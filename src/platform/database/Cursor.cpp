@@ -20,6 +20,10 @@ QByteArray sourceSql(const std::optional<TableQuery> &table, const QString &sql)
     return table ? "SELECT * FROM " + quotedName(table->table) + " WHERE rowid = ?" : sql.toUtf8();
 }
 
+bool isWhole(const TableQuery &table) {
+    return table.condition.isEmpty() && table.orderColumn.isEmpty();
+}
+
 } // namespace
 
 Cursor::Cursor(const std::shared_ptr<Connection> &connection, const QString &sql)
@@ -27,11 +31,32 @@ Cursor::Cursor(const std::shared_ptr<Connection> &connection, const QString &sql
       m_table(parseTableQuery(sql)),
       m_source(connection, sourceSql(m_table, sql)),
       m_rows(m_table ? std::min(kListColumns, m_source.columnCount()) : m_source.columnCount()) {
+    if (!m_table || !isWhole(*m_table)) {
+        readRows();
+    }
+}
+
+/// A whole table in its own order waits until its rows are asked for: large ones are opened only to be added to.
+void Cursor::readRows() {
+    if (m_rowsRead) {
+        return;
+    }
+    m_rows = RowCache(m_rows.columns()); // a reading that failed may have left some
     if (m_table) {
         readTable();
     } else {
         readSnapshot();
     }
+    m_rowsRead = true;
+}
+
+qsizetype Cursor::count() {
+    readRows();
+    return m_rows.count();
+}
+
+bool Cursor::atEnd() {
+    return m_row >= count();
 }
 
 void Cursor::readSnapshot() {
@@ -111,7 +136,7 @@ void Cursor::moveNext() {
     dropRow();
 }
 
-void Cursor::requireRow() const {
+void Cursor::requireRow() {
     if (m_deleted) {
         throw DatabaseError("L'enregistrement en cours a été supprimé.");
     }
@@ -266,7 +291,7 @@ void Cursor::insertRow() {
     insert.step();
 
     m_lastModified = sqlite3_last_insert_rowid(m_connection->handle());
-    if (readRow(m_lastModified)) {
+    if (m_rowsRead && readRow(m_lastModified)) {
         m_rows.append(m_lastModified, m_source.handle());
     }
     dropRow();
@@ -335,12 +360,13 @@ void Cursor::remove() {
     m_deleted = true;
 }
 
-RowMark Cursor::bookmark() const {
+RowMark Cursor::bookmark() {
     requireRow();
     return RowMark{m_rows.rowid(m_row)};
 }
 
 void Cursor::setBookmark(RowMark mark) {
+    readRows();
     const qsizetype row = m_rows.find(qint64(mark));
     if (row < 0) {
         throw DatabaseError("Cet enregistrement ne fait pas partie de la requête.");

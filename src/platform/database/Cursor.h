@@ -15,9 +15,8 @@ class Cursor {
 public:
     Cursor(const std::shared_ptr<Connection> &connection, const QString &sql);
 
-    qsizetype count() const { return m_rows.count(); }
-
-    bool atEnd() const { return m_row >= m_rows.count(); }
+    qsizetype count();
+    bool atEnd();
 
     void moveNext();
 
@@ -38,17 +37,18 @@ public:
 
     RowMark lastModified() const { return RowMark{m_lastModified}; }
 
-    RowMark bookmark() const;
+    RowMark bookmark();
     void setBookmark(RowMark mark);
 
 private:
     enum class Change { None, Edit, Add };
 
+    void readRows();
     void readTable();
     void readSnapshot();
     int keptColumn(const QByteArray &name) const;
     bool hasCollation(const QByteArray &name) const;
-    void requireRow() const;
+    void requireRow();
     void requireTable() const;
     void requireChange() const;
     void dropRow();
@@ -67,6 +67,7 @@ private:
     Statement m_source;
     bool m_sourceOnRow = false;
     RowCache m_rows;
+    bool m_rowsRead = false;
     qsizetype m_row = 0;
     /// The current row was deleted: m_row is the one after it already.
     bool m_deleted = false;

@@ -49,7 +49,8 @@ private:
 };
 
 /// The rows of a query and the place in them. All rows are known when it is opened, by their mark and their
-/// first two columns; the other columns of the current row are read when they are asked for.
+/// first two columns; the other columns of the current row are read when they are asked for. Those of a whole table
+/// without an order are known from the first question about them on: adding to a large table costs no reading.
 ///
 /// Every operation without the row that it needs throws DatabaseError.
 class Recordset {
