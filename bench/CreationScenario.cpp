@@ -12,8 +12,8 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <array>
-#include <ranges>
 
 namespace bench {
 
@@ -97,14 +97,14 @@ void saveBare(const BareBook &bare, const store::RecetteSaisie &recipe) {
     step(clear);
     const Statement line =
         prepare(book, "INSERT INTO Ingre (Numero, NQuantite, NMesure, NIngre) VALUES (?, ?, ?, ?)");
-    for (const auto &typed : recipe.lignes | std::views::reverse) {
+    std::for_each(recipe.lignes.crbegin(), recipe.lignes.crend(), [&](const store::LigneSaisie &typed) {
         sqlite3_bind_int(line.get(), 1, number);
         sqlite3_bind_int(line.get(), 2, findOrAdd(book, "Quantite", typed.quantite));
         sqlite3_bind_int(line.get(), 3, findOrAdd(book, "Mesure", typed.mesure));
         sqlite3_bind_int(line.get(), 4, findOrAdd(book, "Ingredient", typed.ingredient));
         step(line);
         sqlite3_reset(line.get());
-    }
+    });
 }
 
 } // namespace
