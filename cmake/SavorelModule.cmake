@@ -31,11 +31,11 @@ function(savorel_module)
 endfunction()
 
 # savorel_test(<name> <sources> USES <modules> [LIBRARIES <targets>] [ARGUMENTS <words>]): a test program run by CTest,
-# offscreen.
+# offscreen. What tests share stands in tests/support.
 function(savorel_test name)
   cmake_parse_arguments(T "" "" "USES;LIBRARIES;ARGUMENTS" ${ARGN})
   add_executable(${name} ${T_UNPARSED_ARGUMENTS})
-  target_link_libraries(${name} PRIVATE Qt6::Test ${T_USES} ${T_LIBRARIES})
+  target_link_libraries(${name} PRIVATE Qt6::Test test_support ${T_USES} ${T_LIBRARIES})
   add_test(NAME ${name} COMMAND ${name} ${T_ARGUMENTS})
   set_tests_properties(${name} PROPERTIES
     TIMEOUT 300

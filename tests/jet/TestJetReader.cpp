@@ -1,7 +1,8 @@
+#include "Files.h"
+
 #include "platform/jet/JetReader.h"
 
 #include <QElapsedTimer>
-#include <QFile>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
@@ -46,16 +47,11 @@ class TestJetReader : public QObject {
     Q_OBJECT
 
 private:
-    QString write(const QString &name, const QByteArray &content) const {
-        QFile file(m_folder->filePath(name));
-        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? file.fileName()
-                                                                                        : QString();
+    QString write(const QByteArray &content) const {
+        return writeFile(m_folder->filePath(u"livre.mdb"_s), content);
     }
 
-    static QByteArray oldBook() {
-        QFile file(QStringLiteral(OLD_BOOKS "/ancien-livre.mdb"));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    static QByteArray oldBook() { return contentOf(QStringLiteral(OLD_BOOKS "/ancien-livre.mdb")); }
 
     const QString m_program = QStringLiteral(READING_PROGRAM);
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -63,15 +59,6 @@ private:
 private Q_SLOTS:
 
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }
-
-    void firstBytes() {
-        QVERIFY(isJetFile(write(u"jet"_s, QByteArray("\0\1\0\0Standard Jet DB\0", 20))));
-        QVERIFY(!isJetFile(write(u"vide"_s, {})));
-        QVERIFY(!isJetFile(write(u"court"_s, QByteArray("\0\1\0\0Standard", 12))));
-        QVERIFY(!isJetFile(write(u"zeros"_s, QByteArray(8192, '\0'))));
-        QVERIFY(!isJetFile(write(u"sqlite"_s, QByteArray("SQLite format 3\0    ", 20))));
-        QVERIFY(!isJetFile(m_folder->filePath(u"absent"_s)));
-    }
 
     void aReaderThatFails_data() {
         QTest::addColumn<QByteArray>("script");
@@ -99,8 +86,7 @@ private Q_SLOTS:
 
     void aReaderThatFails() {
         QFETCH(QByteArray, script);
-        const QString program = write(u"lecteur"_s, "#!/bin/sh\n" + script + "\n");
-        QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner));
+        const QString program = writeScript(m_folder->filePath(u"lecteur"_s), script);
         QFETCH(QString, error);
         Counter sink;
         QElapsedTimer timer;
@@ -112,34 +98,20 @@ private Q_SLOTS:
         QVERIFY(!error.contains(u"temps") || sink.calls > 5);
     }
 
-    void noReader() {
-        Counter sink;
-        QVERIFY(errorOf(m_folder->filePath(u"absent"_s), u"livre"_s, sink).contains(u"lancé"));
-    }
-
-    void aSinkThatThrowsEndsTheReader() {
-        class Impatient : public Counter {
-        public:
-            void progress(qint64, qint64) override { throw std::runtime_error("assez"); }
-        };
-
-        const QString program = write(u"lecteur"_s, "#!/bin/sh\nexec sleep 60\n");
-        QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner));
-        Impatient sink;
-        QElapsedTimer timer;
-        timer.start();
-        QVERIFY_EXCEPTION_THROWN(readJet(program, u"livre"_s, {}, sink), std::runtime_error);
-        QVERIFY(timer.elapsed() < 5000);
-    }
-
     void filesThatAreNoBook() {
         Counter sink;
         for (const QByteArray &content : {QByteArray(), QByteArray(8192, '\0'), QByteArray(100, 'x'),
-                                          QByteArray("\0\1\0\0Standard Jet DB\0", 20)}) {
-            QVERIFY(!errorOf(m_program, write(u"livre.mdb"_s, content), sink).isEmpty());
+                                          QByteArray("\0\1\0\0Standard", 12)}) {
+            QVERIFY(!isJetFile(write(content)));
+            QVERIFY(!errorOf(m_program, write(content), sink).isEmpty());
         }
-        QVERIFY(!errorOf(m_program, m_folder->filePath(u"absent"_s), sink).isEmpty());
+        const QString headOnly = write(QByteArray("\0\1\0\0Standard Jet DB\0", 20));
+        QVERIFY(isJetFile(headOnly));
+        QVERIFY(!errorOf(m_program, headOnly, sink).isEmpty());
+        const QString absent = m_folder->filePath(u"absent"_s);
+        QVERIFY(!isJetFile(absent) && !errorOf(m_program, absent, sink).isEmpty());
         QCOMPARE(sink.tables, 0);
+        QVERIFY(errorOf(absent, headOnly, sink).contains(u"lancé"));
     }
 
     /// The file is read to its end although its texts are not whole: nothing but the checks tells it.
@@ -152,7 +124,7 @@ private Q_SLOTS:
             const qsizetype cut = book.size() * percent / 100;
             for (const qsizetype size : {cut, cut - cut % 4096}) {
                 Counter sink;
-                const QString error = errorOf(m_program, write(u"livre.mdb"_s, book.first(size)), sink);
+                const QString error = errorOf(m_program, write(book.first(size)), sink);
                 QVERIFY2(!error.isEmpty(), qPrintable(QString::number(size)));
             }
         }
@@ -174,7 +146,7 @@ private Q_SLOTS:
                 byte = char(byte ^ char(1 + random.bounded(255)));
             }
             Counter sink;
-            const QString error = errorOf(m_program, write(u"livre.mdb"_s, damaged), sink, 20s);
+            const QString error = errorOf(m_program, write(damaged), sink, 20s);
             QVERIFY2(!error.contains(u"temps"), qPrintable(QString::number(i)));
             refused += error.isEmpty() ? 0 : 1;
         }

@@ -1,42 +1,23 @@
+#include "Files.h"
+#include "SmallFilesOnly.h"
+
 #include "platform/database/DatabaseError.h"
 #include "store/CopieFichier.h"
 #include "store/Livre.h"
 #include "store/Programme.h"
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <memory>
 
 using namespace store;
 
 namespace {
-
-/// No file grows beyond a size, as on a full disk, for as long as the object lives.
-class FullDisk {
-public:
-    explicit FullDisk(rlim_t bytes) {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-
-    FullDisk(const FullDisk &) = delete;
-    FullDisk &operator=(const FullDisk &) = delete;
-
-    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &m_before); }
-
-private:
-    rlimit m_before{};
-};
 
 /// The administrator, whom nothing is forbidden, is somebody else for as long as the object lives.
 class PlainUser {
@@ -72,16 +53,6 @@ QString recipeOf(const QString &path) {
     return book.OpenRecordset(u"SELECT * From Cocktails"_qs).Fields(1).Text();
 }
 
-void write(const QString &path, const QByteArray &bytes) {
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-}
-
-QByteArray read(const QString &path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 } // namespace
 
 class TestCopieFichier : public QObject {
@@ -105,7 +76,7 @@ private Q_SLOTS:
 
     void replacedBookIsKept() {
         CopierFichier(path(u"copie.mdb"_qs), CheminNouveauLivre());
-        write(CheminBase() + u"-journal"_qs, "of a change that is done");
+        writeFile(CheminBase() + u"-journal"_qs, "of a change that is done");
         RemplacerLivre(CheminAvantRestauration());
         QCOMPARE(recipeOf(CheminBase()), u"Soupe"_qs);
         QCOMPARE(recipeOf(CheminAvantRestauration()), u"Tarte"_qs);
@@ -129,25 +100,24 @@ private Q_SLOTS:
     }
 
     void fullDiskChangesNothing() {
-        const QByteArray before = read(CheminBase());
-        const QByteArray small = "small";
-        write(path(u"petit.mdb"_qs), small);
+        const QByteArray before = contentOf(CheminBase());
+        writeFile(path(u"petit.mdb"_qs), "small");
         const QStringList present = files();
         {
-            const FullDisk full(10'000);
+            const SmallFilesOnly full(10'000);
             QVERIFY_THROWS_EXCEPTION(CopieError, CopierLivre(path(u"copie.mdb"_qs)));
             QVERIFY_THROWS_EXCEPTION(CopieError, CopierLivre(path(u"absente.mdb"_qs)));
             // The new book still has its place, the copy of the former one no more.
             CopierFichier(path(u"petit.mdb"_qs), CheminNouveauLivre());
             QVERIFY_THROWS_EXCEPTION(CopieError, RemplacerLivre(CheminAvantRestauration()));
         }
-        QCOMPARE(read(CheminBase()), before);
+        QCOMPARE(contentOf(CheminBase()), before);
         QCOMPARE(recipeOf(path(u"copie.mdb"_qs)), u"Soupe"_qs);
         QCOMPARE(files(), present);
     }
 
     void whatMustNotBeWrittenStays() {
-        const QByteArray before = read(CheminBase());
+        const QByteArray before = contentOf(CheminBase());
         CopierFichier(path(u"copie.mdb"_qs), CheminNouveauLivre());
         QVERIFY(QFile::setPermissions(CheminBase(), QFile::ReadOwner | QFile::ReadOther));
         QVERIFY(QFile::setPermissions(m_folder->path(), QFile::Permissions(0x7777)));
@@ -161,15 +131,15 @@ private Q_SLOTS:
             QVERIFY_THROWS_EXCEPTION(CopieError, CopierFichier(path(u"copie.mdb"_qs), CheminNouveauLivre()));
             QVERIFY_THROWS_EXCEPTION(CopieError, CopierFichier(path(u"absente.mdb"_qs), path(u"x"_qs)));
         }
-        QCOMPARE(read(CheminBase()), before);
+        QCOMPARE(contentOf(CheminBase()), before);
         QVERIFY(QFile::setPermissions(m_folder->path(), QFile::Permissions(0x7777)));
         QCOMPARE(files(), QStringList({u"copie.mdb"_qs, u"db.mdb"_qs}));
     }
 
     void killedAtAnyMomentLeavesAWholeBook() {
         constexpr int kRounds = 25;
-        const QByteArray whole = read(CheminBase());
-        const QByteArray other = read(path(u"copie.mdb"_qs));
+        const QByteArray whole = contentOf(CheminBase());
+        const QByteArray other = contentOf(path(u"copie.mdb"_qs));
         for (int round = 0; round < kRounds; ++round) {
             const pid_t child = fork();
             QVERIFY(child >= 0);
@@ -183,7 +153,7 @@ private Q_SLOTS:
             kill(child, SIGKILL);
             waitpid(child, nullptr, 0);
             for (const QString &book : {CheminBase(), CheminAvantRestauration()}) {
-                const QByteArray found = read(book);
+                const QByteArray found = contentOf(book);
                 QVERIFY(found == whole || found == other || !QFile::exists(book));
             }
             QVERIFY(QFile::exists(CheminBase()) && !recipeOf(CheminBase()).isEmpty());
@@ -192,8 +162,9 @@ private Q_SLOTS:
     }
 
     void errorNamesTheCopyThatIsKept() {
-        for (const QByteArray &damage : {QByteArray("no book at all"), read(CheminBase()).left(20'000)}) {
-            write(path(u"mauvais.mdb"_qs), damage);
+        for (const QByteArray &damage :
+             {QByteArray("no book at all"), contentOf(CheminBase()).left(20'000)}) {
+            writeFile(path(u"mauvais.mdb"_qs), damage);
             CopierFichier(path(u"mauvais.mdb"_qs), CheminNouveauLivre());
             RemplacerLivre(CheminAvantRestauration());
             try {
