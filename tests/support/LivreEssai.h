@@ -1,5 +1,8 @@
 #pragma once
 
+#include "Files.h"
+#include "Shown.h"
+
 #include "browser/Frmmain.h"
 #include "browser/Vues.h"
 #include "platform/settings/Settings.h"
@@ -7,10 +10,8 @@
 #include "store/Programme.h"
 
 #include <QDir>
-#include <QFile>
 #include <QSettings>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <stdexcept>
 
@@ -29,13 +30,7 @@ public:
     QString path(const QString &name) const { return m_folder.filePath(name); }
 
     /// The bytes of db.mdb.
-    static QByteArray bytes() {
-        QFile book(store::CheminBase());
-        if (!book.open(QIODevice::ReadOnly)) {
-            throw std::runtime_error("no book");
-        }
-        return book.readAll();
-    }
+    static QByteArray bytes() { return contentOf(store::CheminBase()); }
 
     static void execute(const QStringList &statements) {
         auto book = store::OuvrirLivre();
@@ -85,11 +80,7 @@ inline void openView(browser::Frmmain &frm, int view) {
     frm.PreparerListes();
     frm.SetCouleurSelection(Qt::blue);
     frm.RemplirVocabulaires();
-    frm.move(1, 1); // the wait below is long for a window at the origin
-    frm.show();
-    if (!QTest::qWaitForWindowActive(&frm)) {
-        throw std::runtime_error("no active window");
-    }
+    showActive(frm);
     browser::EnregistrerVue(browser::kVueAucune);
     frm.Bouton(view).SetValue(true);
 }
