@@ -1,8 +1,10 @@
+#include "Files.h"
+
 #include "platform/settings/Conversion.h"
 #include "platform/settings/Settings.h"
 
 #include <QCoreApplication>
-#include <QFile>
+#include <QDir>
 #include <QProcess>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -34,6 +36,8 @@ class TestSettings : public QObject {
 private:
     QString file() const { return m_folder->filePath(u"Essai/Essai.ini"_qs); }
 
+    static QString tris() { return GetSetting(kApplication, u"Settings"_qs, u"Tris"_qs, u"0"_qs); }
+
     std::unique_ptr<QTemporaryDir> m_folder;
 
 private Q_SLOTS:
@@ -44,82 +48,56 @@ private Q_SLOTS:
     }
 
     void absentKeyGivesTheDefault() {
-        QCOMPARE(GetSetting(kApplication, u"Settings"_qs, u"Tris"_qs, u"0"_qs), u"0"_qs);
-        QCOMPARE(GetSetting(kApplication, u"Settings"_qs, u"Tris"_qs), QString());
+        QCOMPARE(tris(), u"0"_qs);
         QVERIFY2(!QFile::exists(file()), "reading must not write");
-
         SaveSetting(kApplication, u"Settings"_qs, u"Tris"_qs, QString());
-        QCOMPARE(GetSetting(kApplication, u"Settings"_qs, u"Tris"_qs, u"0"_qs), QString());
-    }
-
-    void textComesBackAsItWas_data() {
-        QTest::addColumn<QString>("text");
-        QTest::newRow("letters of other alphabets") << u"Crème brûlée à l'œuf Ω"_qs;
-        QTest::newRow("comma, which would make a list") << u"sel, poivre"_qs;
-        QTest::newRow("percent, which escapes in keys") << u"100%20 %n"_qs;
-        QTest::newRow("semicolon, which begins a comment") << u"a;b"_qs;
-        QTest::newRow("blanks at both ends") << u"  bord  "_qs;
-        QTest::newRow("quotes and separators of paths") << u"\"C:\\photos\\x\" = /tmp"_qs;
-        QTest::newRow("line ends") << u"un\r\ndeux"_qs;
-        QTest::newRow("at sign, which marks types") << u"@Invalid()"_qs;
+        QCOMPARE(tris(), QString());
     }
 
     void textComesBackAsItWas() {
-        QFETCH(QString, text);
-        SaveSetting(kApplication, u"Settings"_qs, u"Clé 1"_qs, text);
-        QCOMPARE(GetSetting(kApplication, u"Settings"_qs, u"Clé 1"_qs), text);
+        for (const QString &text :
+             {u"Crème brûlée à l'œuf Ω"_qs, u"sel, poivre"_qs, u"100%20 %n"_qs, u"a;b"_qs, u"  bord  "_qs,
+              u"\"C:\\photos\\x\" = /tmp"_qs, u"un\r\ndeux"_qs, u"@Invalid()"_qs}) {
+            keepSettingsIn(m_folder->path());
+            SaveSetting(kApplication, u"Settings"_qs, u"Clé 1"_qs, text);
+            QCOMPARE(GetSetting(kApplication, u"Settings"_qs, u"Clé 1"_qs), text);
 
-        // A copy under another path is read from the disk and not from what the process remembers.
-        const QTemporaryDir elsewhere;
-        QVERIFY(QDir(elsewhere.path()).mkdir(kApplication));
-        QVERIFY(QFile::copy(file(), elsewhere.filePath(u"Essai/Essai.ini"_qs)));
-        keepSettingsIn(elsewhere.path());
-        QCOMPARE(GetSetting(kApplication, u"Settings"_qs, u"Clé 1"_qs), text);
+            // A copy under another path is read from the disk and not from what the process remembers.
+            const QTemporaryDir elsewhere;
+            QVERIFY(QDir(elsewhere.path()).mkdir(kApplication));
+            QVERIFY(QFile::copy(file(), elsewhere.filePath(u"Essai/Essai.ini"_qs)));
+            keepSettingsIn(elsewhere.path());
+            QCOMPARE(GetSetting(kApplication, u"Settings"_qs, u"Clé 1"_qs), text);
+        }
     }
 
-    void sectionsAndKeysStandInTheFileAsTheyAre() {
+    void theFileIsReadAndWrittenByHandToo() {
         SaveSetting(kApplication, u"Settings"_qs, u"Mode"_qs, u"1"_qs);
         SaveSetting(kApplication, u"Patch"_qs, u"Mode"_qs, u"2"_qs);
-        QFile ini(file());
-        QVERIFY(ini.open(QIODevice::ReadOnly));
-        QCOMPARE(ini.readAll(), "[Patch]\nMode=2\n\n[Settings]\nMode=1\n");
-    }
+        QCOMPARE(contentOf(file()), "[Patch]\nMode=2\n\n[Settings]\nMode=1\n");
 
-    void commaOfAFileChangedByHandStays() {
+        init(); // a comma must not make a list
         QVERIFY(QDir(m_folder->path()).mkdir(kApplication));
-        QFile ini(file());
-        QVERIFY(ini.open(QIODevice::WriteOnly));
-        ini.write("[Settings]\nMainTop=12,5\n");
-        ini.close();
-        QCOMPARE(GetSetting(kApplication, u"Settings"_qs, u"MainTop"_qs), u"12,5"_qs);
+        writeFile(file(), "[Settings]\nTris=12,5\n");
+        QCOMPARE(tris(), u"12,5"_qs);
     }
 
     void unwritableStoreIsAnError() {
         // A file where the folder should be: refuses also the administrator.
-        const QString obstacle = m_folder->filePath(u"obstacle"_qs);
-        QFile blocked(obstacle);
-        QVERIFY(blocked.open(QIODevice::WriteOnly));
-        keepSettingsIn(obstacle);
+        keepSettingsIn(writeFile(m_folder->filePath(u"obstacle"_qs), {}));
         QVERIFY_THROWS_EXCEPTION(SettingsError,
                                  SaveSetting(kApplication, u"Settings"_qs, u"Tris"_qs, u"1"_qs));
-        QCOMPARE(GetSetting(kApplication, u"Absent"_qs, u"Tris"_qs, u"0"_qs), u"0"_qs);
-    }
-
-    void integersFromTexts_data() {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("number");
-        QTest::newRow("blanks around") << u" 7 "_qs << 7;
-        QTest::newRow("negative") << u"-12"_qs << -12;
-        QTest::newRow("comma, tie up to even") << u"3,5"_qs << 4;
-        QTest::newRow("point, tie down to even") << u"2.5"_qs << 2;
-        QTest::newRow("largest after rounding") << u"32767,4"_qs << 32767;
-        QTest::newRow("smallest") << u"-32768"_qs << -32768;
+        QCOMPARE(tris(), u"0"_qs);
     }
 
     void integersFromTexts() {
-        QFETCH(QString, text);
-        QTEST(static_cast<int>(ToInteger(text)), "number");
-        QTEST(ToLong(text), "number");
+        const std::pair<QString, int> numbers[]{
+            {u" 7 "_qs, 7}, {u"-12"_qs, -12},       {u"3,5"_qs, 4}, // a tie goes to the even one
+            {u"2.5"_qs, 2}, {u"32767,4"_qs, 32767}, {u"-32768"_qs, -32768}};
+        for (const auto &[text, number] : numbers) {
+            QCOMPARE(int(ToInteger(text)), number);
+            QCOMPARE(ToLong(text), number);
+        }
         QCOMPARE(ToLong(u"99999"_qs), 99999);
     }
 
@@ -150,36 +128,28 @@ private Q_SLOTS:
         }
     }
 
-    void wordsOfTruthByLanguage_data() {
-        QTest::addColumn<QStringList>("environment");
-        QTest::addColumn<QByteArray>("words");
-        QTest::newRow("French") << QStringList{u"LC_ALL=fr_FR.UTF-8"_qs} << QByteArray("Vrai Faux");
-        QTest::newRow("of Canada") << QStringList{u"LANG=fr_CA"_qs} << QByteArray("Vrai Faux");
-        QTest::newRow("French with other numbers")
-            << QStringList{u"LANG=fr_FR.UTF-8"_qs, u"LC_NUMERIC=en_US.UTF-8"_qs} << QByteArray("Vrai Faux");
-        QTest::newRow("German") << QStringList{u"LANG=de_DE.UTF-8"_qs} << QByteArray("True False");
-        QTest::newRow("none") << QStringList{u"LANG=C"_qs} << QByteArray("True False");
-    }
-
     void wordsOfTruthByLanguage() {
-        QFETCH(QStringList, environment);
-        // The language is settled once for a process.
-        QProcess other;
-        other.setEnvironment(environment);
-        other.start(QCoreApplication::applicationFilePath(), {kSayTruth});
-        QVERIFY(other.waitForFinished());
-        QTEST(other.readAllStandardOutput(), "words");
+        const std::pair<QStringList, QByteArray> languages[]{
+            {{u"LC_ALL=fr_FR.UTF-8"_qs}, "Vrai Faux"},
+            {{u"LANG=fr_CA"_qs}, "Vrai Faux"},
+            {{u"LANG=fr_FR.UTF-8"_qs, u"LC_NUMERIC=en_US.UTF-8"_qs}, "Vrai Faux"},
+            {{u"LANG=de_DE.UTF-8"_qs}, "True False"},
+            {{u"LANG=C"_qs}, "True False"}};
+        for (const auto &[environment, words] : languages) {
+            QProcess other; // the language is settled once for a process
+            other.setEnvironment(environment);
+            other.start(QCoreApplication::applicationFilePath(), {kSayTruth});
+            QVERIFY(other.waitForFinished());
+            QCOMPARE(other.readAllStandardOutput().trimmed(), words);
+        }
     }
 };
 
 int main(int argc, char *argv[]) {
     const QCoreApplication application(argc, argv);
     if (QCoreApplication::arguments().value(1) == kSayTruth) {
-        QFile out;
-        return out.open(stdout, QIODevice::WriteOnly) &&
-                       out.write(QString(ToText(true) + u' ' + ToText(false)).toUtf8()) > 0
-                   ? EXIT_SUCCESS
-                   : EXIT_FAILURE;
+        std::puts(qPrintable(QString(ToText(true) + u' ' + ToText(false))));
+        return EXIT_SUCCESS;
     }
     TestSettings test;
     return QTest::qExec(&test, argc, argv);

@@ -1,15 +1,14 @@
 #pragma once
 
 #include "LivreEssai.h"
+#include "Meanwhile.h"
 
 #include "platform/desktop/SingleInstance.h"
 #include "shell/Demarrage.h"
 #include "shell/Fenetres.h"
 
-#include <QApplication>
 #include <QFileDialog>
 #include <QLineEdit>
-#include <QTimer>
 
 #include <memory>
 
@@ -38,27 +37,10 @@ private:
         QStringLiteral("SavorelEssai%1").arg(QCoreApplication::applicationPid())};
 };
 
-/// Does something, again and again, until it says that it is done: what the user does while a modal window is open.
-template <class Step>
-std::unique_ptr<QTimer> meanwhile(Step step) {
-    auto timer = std::make_unique<QTimer>();
-    QObject::connect(timer.get(), &QTimer::timeout, timer.get(), [step, &timer = *timer] {
-        if (step()) {
-            timer.stop();
-        }
-    });
-    timer->start(10);
-    return timer;
-}
-
 /// Types a name into the next file dialog and accepts; cancels it for an empty name.
 inline std::unique_ptr<QTimer> choosing(const QString &name) {
-    return meanwhile([name] {
-        auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-        if (dialog == nullptr) {
-            return false;
-        }
-        auto *field = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+    return in<QFileDialog>([name](QFileDialog &dialog) {
+        auto *field = dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
         field->setText(name);
         QTest::keyClick(field, name.isEmpty() ? Qt::Key_Escape : Qt::Key_Return);
         return true;

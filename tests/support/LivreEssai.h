@@ -39,6 +39,21 @@ public:
         }
     }
 
+    /// One row for each vocabulary, and recipe 1, Tarte, which names them. It has no line yet.
+    static void addTarte() {
+        execute({
+            QStringLiteral("INSERT INTO Categorie VALUES (1, '10 mn'), (2, '1 heure')"),
+            QStringLiteral("INSERT INTO DureeReal VALUES (1, '20 mn')"),
+            QStringLiteral("INSERT INTO Verre (NVerre, Verre) VALUES (1, '4 personnes')"),
+            QStringLiteral("INSERT INTO Realisation VALUES (1, 'Entrée')"),
+            QStringLiteral("INSERT INTO VIN VALUES (1, 'Chinon')"),
+            QStringLiteral("INSERT INTO Ingredient VALUES (1, 'Beurre')"),
+            QStringLiteral("INSERT INTO Quantite VALUES (1, '100')"),
+            QStringLiteral("INSERT INTO Mesure VALUES (1, 'g')"),
+            QStringLiteral("INSERT INTO Cocktails VALUES (1, 'Tarte', 1, 1, NULL, 1, '', '', 1, 2, 1, 1)"),
+        });
+    }
+
     /// The second column of the first row of a query.
     static QString text(const QString &query) {
         auto book = store::OuvrirLivre();
