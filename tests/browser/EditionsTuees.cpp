@@ -141,14 +141,8 @@ int main(int argc, char *argv[]) {
         edit(arguments.value(2), arguments.value(3).toInt());
     }
     const LivreEssai book;
-    LivreEssai::execute({
-        u"INSERT INTO Categorie VALUES (1, '10 mn')"_qs,
-        u"INSERT INTO Ingredient VALUES (1, 'Beurre')"_qs,
-        u"INSERT INTO Quantite VALUES (1, '100')"_qs,
-        u"INSERT INTO Mesure VALUES (1, 'g')"_qs,
-        u"INSERT INTO Cocktails VALUES (1, 'Tarte', 1, 1, NULL, 1, '', '', 1, 2, 1, 1)"_qs,
-        u"INSERT INTO Ingre VALUES (1, 1, 1, 1)"_qs,
-    });
+    LivreEssai::addTarte();
+    LivreEssai::execute({u"INSERT INTO Ingre VALUES (1, 1, 1, 1)"_qs});
     const int wanted = arguments.size() > 1 ? arguments[1].toInt() : 500;
     int done = 0;
     int kills = 0;

@@ -1,3 +1,4 @@
+#include "Lignes.h"
 #include "LivreEssai.h"
 #include "Reponse.h"
 
@@ -33,10 +34,7 @@ private:
         entry.trigger();
     }
 
-    static int count(const QString &query) {
-        auto book = store::OuvrirLivre();
-        return static_cast<int>(book.OpenRecordset(query).RecordCount());
-    }
+    static qsizetype count(const QString &query) { return rowsOf(query, 1).size(); }
 
     std::unique_ptr<LivreEssai> m_book;
     std::unique_ptr<Frmmain> m_window;
@@ -46,10 +44,9 @@ private Q_SLOTS:
 
     void init() {
         m_book = std::make_unique<LivreEssai>();
+        LivreEssai::addTarte();
         LivreEssai::execute({
-            u"INSERT INTO Categorie VALUES (1, '10 mn'), (2, '1 heure'), (3, '2 heures')"_qs,
-            u"INSERT INTO Ingredient VALUES (1, 'Beurre')"_qs,
-            u"INSERT INTO Cocktails VALUES (1, 'Tarte', 1, 1, NULL, 1, '', '', 1, 2, 1, 1)"_qs,
+            u"INSERT INTO Categorie VALUES (3, '2 heures')"_qs,
             u"INSERT INTO Cocktails VALUES (2, 'Bisque', 1, 1, NULL, 1, '', '', 1, 2, 1, 1)"_qs,
             u"INSERT INTO Cocktails VALUES (3, 'Vacherin', 2, 1, NULL, 1, '', '', 1, 2, 1, 1)"_qs,
             u"INSERT INTO Ingre VALUES (1, 1, 1, 1), (2, 1, 1, 1)"_qs,
