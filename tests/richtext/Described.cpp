@@ -5,6 +5,8 @@
 #include <QTextDocument>
 #include <QTextList>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void describeLength(QString &result, const char *name, qreal pixels) {
@@ -14,13 +16,12 @@ void describeLength(QString &result, const char *name, qreal pixels) {
 }
 
 QString described(const QTextBlock &block) {
-    static const QHash<int, QString> alignments{{Qt::AlignRight, QStringLiteral("right ")},
-                                                {Qt::AlignHCenter, QStringLiteral("centre ")},
-                                                {Qt::AlignJustify, QStringLiteral("justified ")}};
-    static const QHash<int, QString> lists{{QTextListFormat::ListDisc, QStringLiteral("bullet ")},
-                                           {QTextListFormat::ListDecimal, QStringLiteral("number ")},
-                                           {QTextListFormat::ListLowerAlpha, QStringLiteral("letter ")},
-                                           {QTextListFormat::ListUpperRoman, QStringLiteral("ROMAN ")}};
+    static const QHash<int, QString> alignments{
+        {Qt::AlignRight, u"right "_s}, {Qt::AlignHCenter, u"centre "_s}, {Qt::AlignJustify, u"justified "_s}};
+    static const QHash<int, QString> lists{{QTextListFormat::ListDisc, u"bullet "_s},
+                                           {QTextListFormat::ListDecimal, u"number "_s},
+                                           {QTextListFormat::ListLowerAlpha, u"letter "_s},
+                                           {QTextListFormat::ListUpperRoman, u"ROMAN "_s}};
     const QTextBlockFormat format = block.blockFormat();
     QString result = alignments.value(int(format.alignment()));
     if (block.textList() != nullptr) {
@@ -44,19 +45,18 @@ QString described(const QTextCharFormat &format) {
         result += family + u' ';
     }
     if (format.hasProperty(QTextFormat::FontPointSize)) {
-        result += QString::number(format.fontPointSize()) + QStringLiteral("pt ");
+        result += QString::number(format.fontPointSize()) + u"pt "_s;
     }
     if (format.hasProperty(QTextFormat::ForegroundBrush)) {
         result += format.foreground().color().name() + u' ';
     }
     if (format.hasProperty(QTextFormat::BackgroundBrush)) {
-        result += QStringLiteral("on ") + format.background().color().name() + u' ';
+        result += u"on "_s + format.background().color().name() + u' ';
     }
-    result += format.hasProperty(QTextFormat::FontWeight) ? QStringLiteral("bold ") : QString();
-    result += format.hasProperty(QTextFormat::FontItalic) ? QStringLiteral("italic ") : QString();
-    result +=
-        format.underlineStyle() != QTextCharFormat::NoUnderline ? QStringLiteral("underline ") : QString();
-    result += format.hasProperty(QTextFormat::FontStrikeOut) ? QStringLiteral("strike ") : QString();
+    result += format.hasProperty(QTextFormat::FontWeight) ? u"bold "_s : QString();
+    result += format.hasProperty(QTextFormat::FontItalic) ? u"italic "_s : QString();
+    result += format.underlineStyle() != QTextCharFormat::NoUnderline ? u"underline "_s : QString();
+    result += format.hasProperty(QTextFormat::FontStrikeOut) ? u"strike "_s : QString();
     return result.trimmed();
 }
 
