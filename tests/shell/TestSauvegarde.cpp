@@ -14,29 +14,15 @@ const QString kOldBooks = QStringLiteral(OLD_BOOKS);
 constexpr int kBackup = 5;
 constexpr int kRestore = 6;
 
-QByteArray contentOf(const QString &path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void write(const QString &path, const QByteArray &bytes) {
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-}
-
 /// Agrees to replace a file, and takes notice of the next message.
 std::unique_ptr<QTimer> accepting(QString &said) {
-    return meanwhile([&said] {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        if (box == nullptr) {
-            return false;
-        }
-        if (QAbstractButton *yes = box->button(QMessageBox::Yes)) {
+    return in<QMessageBox>([&said](QMessageBox &box) {
+        if (QAbstractButton *yes = box.button(QMessageBox::Yes)) {
             yes->click();
             return false;
         }
-        said = box->text();
-        box->accept();
+        said = box.text();
+        box.accept();
         return true;
     });
 }
@@ -136,34 +122,27 @@ private Q_SLOTS:
 
     void foreignFileFailsAtTheNextQuery() {
         m_test->start();
-        write(path(u"facture.mdb"_qs), "Monsieur,");
-        press(kRestore, path(u"facture.mdb"_qs));
+        press(kRestore, writeFile(path(u"facture.mdb"_qs), "Monsieur,"));
         QCOMPARE(LivreEssai::bytes(), "Monsieur,");
         QVERIFY(!m_test->main().Chargement.isVisible());
         QCOMPARE(QGuiApplication::overrideCursor(), nullptr);
         QVERIFY_THROWS_EXCEPTION(DatabaseError, m_test->main().Bouton(1).SetValue(true));
     }
 
-    void oldBooks_data() {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("count");
-        QTest::newRow("with a password") << u"ancien-livre"_qs << u"40 Recette(s) ..."_qs;
-        QTest::newRow("with long memos") << u"vieux-livre"_qs << u"300 Recette(s) ..."_qs;
-    }
-
     void oldBooks() {
-        QFETCH(QString, name);
-        const QByteArray old = contentOf(kOldBooks + u'/' + name + u".mdb");
-        if (old.isEmpty()) {
-            QSKIP("no books of old in " OLD_BOOKS);
-        }
         m_test->start();
-        write(path(u"vieux.mdb"_qs), old);
-        press(kRestore, path(u"vieux.mdb"_qs));
-        QTEST(m_test->main().LBGauche.Caption(), "count");
-        QCOMPARE(contentOf(path(u"vieux.mdb"_qs)), old);
-        press(kRestore, store::CheminAvantRestauration());
-        QCOMPARE(m_test->main().LTDroit.Caption(), u"Tarte"_qs);
+        for (const auto &[name, count] : {std::pair(u"/ancien-livre.mdb"_qs, u"40 Recette(s) ..."_qs),
+                                          std::pair(u"/vieux-livre.mdb"_qs, u"300 Recette(s) ..."_qs)}) {
+            const QByteArray old = contentOf(kOldBooks + name);
+            if (old.isEmpty()) {
+                QSKIP("no books of old in " OLD_BOOKS);
+            }
+            press(kRestore, writeFile(path(u"vieux.mdb"_qs), old));
+            QCOMPARE(m_test->main().LBGauche.Caption(), count);
+            QCOMPARE(contentOf(path(u"vieux.mdb"_qs)), old);
+            press(kRestore, store::CheminAvantRestauration());
+            QCOMPARE(m_test->main().LTDroit.Caption(), u"Tarte"_qs);
+        }
     }
 
     void oldBookInThePlaceOfOurs() {
@@ -171,8 +150,8 @@ private Q_SLOTS:
         if (old.isEmpty()) {
             QSKIP("no books of old in " OLD_BOOKS);
         }
-        write(store::CheminBase(), old);
-        write(path(u"db-ancien.mdb"_qs), "earlier");
+        writeFile(store::CheminBase(), old);
+        writeFile(path(u"db-ancien.mdb"_qs), "earlier");
         m_test->start();
         QCOMPARE(m_test->main().LBGauche.Caption(), u"40 Recette(s) ..."_qs);
         QCOMPARE(contentOf(path(u"db-ancien.mdb"_qs)), QByteArray("earlier"));
@@ -184,7 +163,7 @@ private Q_SLOTS:
         m_test->start();
         const QByteArray before = LivreEssai::bytes();
         const QByteArray damaged = QByteArray(4, '\1') + "Standard Jet DB" + QByteArray(9'000, '\7');
-        write(path(u"vieux.mdb"_qs), damaged);
+        writeFile(path(u"vieux.mdb"_qs), damaged);
         QString said;
         {
             const auto user = accepting(said);
@@ -196,7 +175,7 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(path(u"db.mdb.nouveau"_qs)));
 
         init();
-        write(store::CheminBase(), damaged);
+        writeFile(store::CheminBase(), damaged);
         QVERIFY_THROWS_EXCEPTION(platform::jet::JetError, m_test->start());
         QCOMPARE(LivreEssai::bytes(), damaged);
     }

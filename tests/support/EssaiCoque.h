@@ -26,15 +26,18 @@ public:
 
     void start() const { shell::ChargerFrmmain(*windows, m_instance); }
 
+    /// The claim of a program of another name, so that a running one does not matter.
+    static QString claim() {
+        return QStringLiteral("SavorelEssai%1").arg(QCoreApplication::applicationPid());
+    }
+
     browser::Frmmain &main() const { return windows->Principale; }
 
     LivreEssai book;
     std::unique_ptr<shell::Fenetres> windows;
 
 private:
-    // Of a name of its own, so that a running program does not matter.
-    const platform::desktop::SingleInstance m_instance{
-        QStringLiteral("SavorelEssai%1").arg(QCoreApplication::applicationPid())};
+    const platform::desktop::SingleInstance m_instance{claim()};
 };
 
 /// Types a name into the next file dialog and accepts; cancels it for an empty name.
