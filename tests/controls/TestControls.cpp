@@ -4,13 +4,16 @@
 #include "platform/controls/ControlArray.h"
 #include "platform/controls/DropList.h"
 #include "platform/controls/Labels.h"
+#include "platform/controls/ListView.h"
 #include "platform/controls/Picture.h"
 #include "platform/controls/RibbonButton.h"
 
+#include <QApplication>
 #include <QBuffer>
 #include <QLineEdit>
 #include <QListView>
 #include <QPainter>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtEndian>
@@ -75,6 +78,17 @@ private:
         showActive(*m_window);
         control->setFocus();
         return *control;
+    }
+
+    List &shownList() {
+        auto &list = shown<List>();
+        list.resize(300, 200);
+        list.SetColumn(u"Titre"_qs, Twips(3700));
+        List::Loading rows(list);
+        rows.Add(u"N 7"_qs, u"Aïoli"_qs, 1);
+        rows.Add(u"N 3"_qs, u"Bisque"_qs, 1);
+        rows.Add(u"N 9"_qs, u"Clafoutis"_qs, 2);
+        return list;
     }
 
     QString file(const QByteArray &content) const {
@@ -177,6 +191,60 @@ private Q_SLOTS:
         QCOMPARE(list.Count(), 3);
         QCOMPARE(enter.count(), 1);
         QCOMPARE(clicks.count(), 1);
+    }
+
+    void listRaisesWithTheRowSelected() {
+        List &list = shownList();
+        QStringList raised;
+        const auto note = [&](const QString &event) {
+            return [event, &list, &raised] { raised += event + QString::number(list.SelectedIndex()); };
+        };
+        connect(&list, &List::ItemClicked, &list, note(u"clic "_qs));
+        connect(&list, &List::ArrowReleased, &list, note(u"flèche "_qs));
+        connect(&list, &List::RightClicked, &list, note(u"droit "_qs));
+        const auto click = [&list](int index, Qt::MouseButton button) {
+            const QRect row = list.visualRect(list.model()->index(index - 1, 0));
+            QTest::mouseClick(list.viewport(), button, {}, row.center());
+        };
+        list.Select(3); // by code: nothing
+        click(2, Qt::LeftButton);
+        for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Shift}) {
+            QTest::keyClick(&list, key);
+        }
+        click(1, Qt::RightButton); // on another row shows it first
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, QPoint(5, list.viewport()->height() - 2));
+        QCOMPARE(raised,
+                 QStringList({u"clic 2"_qs, u"flèche 3"_qs, u"flèche 2"_qs, u"clic 1"_qs, u"droit 1"_qs}));
+    }
+
+    void listKeepsItsRowsApart() {
+        List &list = shownList();
+        QCOMPARE(list.IndexOfKey(u"N 9"_qs), 3);
+        QCOMPARE(list.IndexOfKey(u"N 1"_qs), 0);
+        QVERIFY_THROWS_EXCEPTION(std::out_of_range, list.Text(0));
+        QVERIFY_THROWS_EXCEPTION(std::out_of_range, list.Select(4));
+        list.Remove(1);
+        QCOMPARE(list.IndexOfKey(u"N 9"_qs), 2);
+        {
+            List::Loading rows(list);
+            rows.Add(u"N 1"_qs, u"Un"_qs, 1);
+            QVERIFY_THROWS_EXCEPTION(DuplicateKeyError, rows.Add(u"N 1"_qs, u"Encore"_qs, 1));
+            rows.Add(u"N 2"_qs, u"Deux"_qs, 1);
+        }
+        QCOMPARE(list.Count(), 2);
+        QCOMPARE(list.Text(1) + list.Text(2), u"UnDeux"_qs);
+    }
+
+    void escapeGivesUpTheEditOfARow() {
+        List &list = shownList();
+        list.StartLabelEdit();
+        const QPointer<QLineEdit> editor = list.viewport()->findChild<QLineEdit *>();
+        QSignalSpy edits(&list, &List::AfterLabelEdit);
+        QTest::keyClicks(editor, u"Perdu"_qs);
+        QTest::keyClick(editor, Qt::Key_Escape);
+        QTRY_VERIFY(editor.isNull());
+        QCOMPARE(edits.count(), 0);
+        QCOMPARE(list.Text(1), u"Aïoli"_qs);
     }
 
     void pictureIsTurnedAsItsOrientationSays() {

@@ -167,18 +167,6 @@ private Q_SLOTS:
         formatWith(Qt::Key_U, u"\\ul"_qs, u"\\ulnone"_qs);
     }
 
-    void boxesExchangeTheirFormats() {
-        m_box->SetTextRTF(
-            u"{\\rtf1{\\colortbl;\\red255\\green255\\blue0;}\\cf1 l'\\b \"\\'9cuf\" \\i  1\\b0  2}"_qs);
-        const QString before = stored();
-        m_box->selectAll();
-        press(Qt::Key_C);
-        press(Qt::Key_Delete, Qt::NoModifier);
-        press(Qt::Key_V);
-        QCOMPARE(stored().section(u"2"_qs, 0, 0), before.section(u"2"_qs, 0, 0));
-        QCOMPARE(raised(), 2);
-    }
-
     void droppedTextIsCleaned() {
         m_box->SetTextRTF(QString());
         const std::unique_ptr<QMimeData> data(
@@ -213,20 +201,6 @@ private Q_SLOTS:
         QCOMPARE(m_box->SelLength(), 0);
         QVERIFY(QApplication::activePopupWidget() == nullptr);
         QCOMPARE(raised(), 0);
-    }
-
-    void longTextWithAllCharactersIsStoredWhole() {
-        const QString typed = u"L'\u0153uf \"\u00e0 la coque\" {\\b} \U0001F373"_qs;
-        const QString pasted = u"\U0001F373é\u2019 l'ail; "_qs.repeated(800);
-        m_box->SetTextRTF(QString());
-        QTest::sendKeyEvent(QTest::Click, m_box, Qt::Key_unknown, typed, Qt::NoModifier);
-        QApplication::clipboard()->setText(pasted);
-        press(Qt::Key_V);
-        QCOMPARE(m_box->Text(), typed + pasted);
-        const QString text = m_box->TextRTF();
-        m_box->SetTextRTF(text);
-        QCOMPARE(m_box->Text(), typed + pasted);
-        QCOMPARE(m_box->TextRTF(), text);
     }
 };
 
