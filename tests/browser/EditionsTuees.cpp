@@ -7,43 +7,17 @@
 #include "platform/richtext/RichText.h"
 
 #include <QApplication>
-#include <QLineEdit>
 #include <QProcess>
 #include <QRandomGenerator>
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
-#include <map>
 
 using namespace browser;
 using namespace platform::controls;
 
 namespace {
-
-constexpr std::array<const char *, 5> kKinds{"duree", "cout", "texte", "quantite", "titre"};
-
-/// What the book holds now where a kind of change writes.
-QString stored(const QString &kind) {
-    static const std::map<QString, QString> queries{
-        {u"duree"_qs, u"SELECT c.NCategorie, c.Categorie From Categorie c, Cocktails r"
-                      " where r.Numero = 1 and c.NCategorie = r.NCategorie"_qs},
-        {u"cout"_qs, u"SELECT Numero, Cout From Cocktails where Numero = 1"_qs},
-        {u"texte"_qs, u"SELECT Numero, preparation From Cocktails where Numero = 1"_qs},
-        {u"quantite"_qs, u"SELECT q.NQuantite, q.Quantite From Quantite q, Ingre l"
-                         " where l.Numero = 1 and l.NIngre = 1 and q.NQuantite = l.NQuantite"
-                         " order by q.NQuantite desc"_qs},
-        {u"titre"_qs, u"SELECT Numero, Recette From Cocktails where Numero = 1"_qs},
-    };
-    auto book = store::OuvrirLivre();
-    auto row = book.OpenRecordset(queries.at(kind));
-    const QString text = row.Fields(1).Text();
-    return kind == u"texte" ? platform::richtext::plainText(text) : text;
-}
-
-void say(const char *word, const QString &kind, const QString &value) {
-    std::printf("%s %s %s\n", word, qPrintable(kind), qPrintable(value));
-    std::fflush(stdout);
-}
 
 void choose(Ribbon &button, DropList &list, const QString &text) {
     button.SetValue(true);
@@ -52,23 +26,40 @@ void choose(Ribbon &button, DropList &list, const QString &text) {
     Q_EMIT list.activated(list.currentIndex());
 }
 
-void change(Frmmain &frm, const QString &kind, const QString &value) {
-    if (kind == u"duree") {
-        frm.Data(6).SetValue(true);
-        frm.LCategorie.SetText(value);
-        Q_EMIT frm.LCategorie.EnterPressed();
-    } else if (kind == u"cout") {
-        frm.Data(2).SetValue(true);
-        frm.LCout.setCurrentIndex(value.toInt());
-        Q_EMIT frm.LCout.activated(frm.LCout.currentIndex());
-    } else if (kind == u"texte") {
-        frm.Saisie(0).selectAll();
-        frm.Saisie(0).insertPlainText(value);
-    } else if (kind == u"quantite") {
-        choose(frm.Quantite(0), frm.LQuantite, value);
-    } else {
-        RenommerListe(frm, 1, value);
-    }
+/// A kind of change: where the book holds it, and how it is done.
+struct Kind {
+    QString query;
+    void (*change)(Frmmain &, const QString &);
+};
+
+const std::array kKinds{
+    Kind{u"SELECT c.NCategorie, c.Categorie From Categorie c, Cocktails r"
+         " where r.Numero = 1 and c.NCategorie = r.NCategorie"_qs,
+         [](Frmmain &frm, const QString &value) {
+             frm.Data(6).SetValue(true);
+             frm.LCategorie.SetText(value);
+             Q_EMIT frm.LCategorie.EnterPressed();
+         }},
+    Kind{u"SELECT Numero, preparation From Cocktails where Numero = 1"_qs,
+         [](Frmmain &frm, const QString &value) {
+             frm.Saisie(0).selectAll();
+             frm.Saisie(0).insertPlainText(value);
+         }},
+    Kind{u"SELECT q.NQuantite, q.Quantite From Quantite q, Ingre l"
+         " where l.Numero = 1 and l.NIngre = 1 and q.NQuantite = l.NQuantite order by q.NQuantite desc"_qs,
+         [](Frmmain &frm, const QString &value) { choose(frm.Quantite(0), frm.LQuantite, value); }},
+    Kind{u"SELECT Numero, Recette From Cocktails where Numero = 1"_qs,
+         [](Frmmain &frm, const QString &value) { RenommerListe(frm, 1, value); }},
+};
+
+/// What the book holds now where a kind of change writes.
+QString stored(const Kind &kind) {
+    return platform::richtext::plainText(LivreEssai::text(kind.query));
+}
+
+void say(const char *word, std::size_t kind, const QString &value) {
+    std::printf("%s %zu %s\n", word, kind, qPrintable(value));
+    std::fflush(stdout);
 }
 
 /// The program that is killed: changes the book of a folder for ever.
@@ -78,12 +69,10 @@ void change(Frmmain &frm, const QString &kind, const QString &value) {
     Frmmain frm;
     openView(frm, 0);
     for (int turn = firstTurn;; ++turn) {
-        const QString kind = QLatin1String(kKinds.at(static_cast<std::size_t>(turn) % kKinds.size()));
-        const int round = turn / static_cast<int>(kKinds.size());
-        const QString value =
-            kind == u"cout" ? QString::number(round % frm.LCout.Count()) : u"essai-%1"_qs.arg(turn);
+        const std::size_t kind = static_cast<std::size_t>(turn) % kKinds.size();
+        const QString value = u"essai-%1"_qs.arg(turn);
         say("try", kind, value);
-        change(frm, kind, value);
+        kKinds.at(kind).change(frm, value);
         say("done", kind, value);
     }
 }
@@ -93,8 +82,10 @@ struct Claim {
     QString done, tried;
 };
 
+using Claims = std::array<Claim, kKinds.size()>;
+
 /// Lets the editor run for some time and kills it. Gives the number of changes done, -1 if it did not even try one.
-int killOnce(const QString &folder, int firstTurn, std::map<QString, Claim> &claims) {
+int killOnce(const QString &folder, int firstTurn, Claims &claims) {
     QProcess editor;
     editor.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     editor.start(QCoreApplication::applicationFilePath(), {u"--edit"_qs, folder, QString::number(firstTurn)});
@@ -109,7 +100,7 @@ int killOnce(const QString &folder, int firstTurn, std::map<QString, Claim> &cla
             continue;
         }
         done = std::max(done, 0);
-        Claim &claim = claims[QString::fromUtf8(words[1])];
+        Claim &claim = claims.at(words[1].toUInt());
         claim.tried = QString::fromUtf8(words[2]);
         if (words[0] == "done") {
             claim.done = claim.tried;
@@ -119,17 +110,13 @@ int killOnce(const QString &folder, int firstTurn, std::map<QString, Claim> &cla
     return done;
 }
 
-bool holds(const std::map<QString, Claim> &claims) {
-    for (const auto &[kind, claim] : claims) {
-        const QString value = stored(kind);
-        const bool broken = claim.tried != claim.done;
-        if (value != claim.done && !(broken && value == claim.tried)) {
-            std::fprintf(stderr, "%s: « %s » stored, « %s » shown\n", qPrintable(kind), qPrintable(value),
-                         qPrintable(claim.done));
-            return false;
-        }
+bool holds(const Kind &kind, const Claim &claim) {
+    const QString value = stored(kind);
+    if (value == claim.done || value == claim.tried) {
+        return true;
     }
-    return true;
+    std::fprintf(stderr, "« %s » stored, « %s » shown\n", qPrintable(value), qPrintable(claim.done));
+    return false;
 }
 
 } // namespace
@@ -147,9 +134,9 @@ int main(int argc, char *argv[]) {
     int done = 0;
     int kills = 0;
     while (done < wanted) {
-        std::map<QString, Claim> claims;
-        for (const char *kind : kKinds) {
-            claims[QLatin1String(kind)] = {stored(QLatin1String(kind)), stored(QLatin1String(kind))};
+        Claims claims;
+        for (std::size_t kind = 0; kind < kKinds.size(); ++kind) {
+            claims.at(kind).done = claims.at(kind).tried = stored(kKinds.at(kind));
         }
         const int round = killOnce(book.path({}), done + kills, claims);
         if (round < 0) {
@@ -158,7 +145,7 @@ int main(int argc, char *argv[]) {
         }
         done += round;
         ++kills;
-        if (!holds(claims)) {
+        if (!std::equal(kKinds.begin(), kKinds.end(), claims.begin(), holds)) {
             return EXIT_FAILURE;
         }
     }

@@ -56,37 +56,30 @@ private Q_SLOTS:
 
     void cleanup() { m_window.reset(); }
 
-    void recordsWithoutATextAreCountedButNotShown_data() {
-        QTest::addColumn<int>("view");
-        QTest::addColumn<QString>("row");
-        QTest::addColumn<QString>("header");
-        QTest::addColumn<QString>("count");
-        const auto row = [](const char *name, int view, const QString &values, const QString &header,
-                            const QString &count) {
-            QTest::newRow(name) << view << values << header << count;
-        };
-        row("recipes", 0, u"Cocktails (Numero) VALUES (5)"_qs, u" Liste des Recettes "_qs,
-            u"1 Recette(s) ..."_qs);
-        row("cooking times", 1, u"Categorie VALUES (5, NULL)"_qs, u" Liste des Durées de Cuisson "_qs,
-            u"1 Durée(s)  de Cuisson ..."_qs);
-        row("persons", 2, u"Verre (NVerre) VALUES (5)"_qs, u" Liste des Nombres de Personnes"_qs,
-            u"1 Nombre(s) de Personnes ..."_qs);
-        row("dish types", 5, u"Realisation VALUES (5, NULL)"_qs, u" Types de Plats"_qs, u"1"_qs);
-        row("ingredients", 6, u"Ingredient VALUES (5, NULL), (6, 'Sel</B>')"_qs, u" Liste des Ingrédients"_qs,
-            u"2 Ingrédient(s) ..."_qs);
-        row("preparation times", 7, u"DureeReal VALUES (5, NULL)"_qs, u" Durée de Réalisation"_qs,
-            u"1 Durée(s) de Réalisation ..."_qs);
-    }
-
     void recordsWithoutATextAreCountedButNotShown() {
-        QFETCH(int, view);
-        QFETCH(QString, row);
-        LivreEssai::execute({u"INSERT INTO "_qs + row});
-        Frmmain &frm = opened(view);
-        QTEST(frm.LTGauche.Caption(), "header");
-        QTEST(frm.LBGauche.Caption(), "count");
-        QCOMPARE(frm.Liste.Count(), 0);
-        QVERIFY(!frm.Chargement.isVisible());
+        struct Case {
+            int view;
+            QString row, header, count;
+        };
+
+        const Case cases[]{
+            {0, u"Cocktails (Numero) VALUES (5)"_qs, u" Liste des Recettes "_qs, u"1 Recette(s) ..."_qs},
+            {1, u"Categorie VALUES (5, NULL)"_qs, u" Liste des Durées de Cuisson "_qs,
+             u"1 Durée(s)  de Cuisson ..."_qs},
+            {2, u"Verre (NVerre) VALUES (5)"_qs, u" Liste des Nombres de Personnes"_qs,
+             u"1 Nombre(s) de Personnes ..."_qs},
+            {5, u"Realisation VALUES (5, NULL)"_qs, u" Types de Plats"_qs, u"1"_qs},
+            {6, u"Ingredient VALUES (5, NULL), (6, 'Sel</B>')"_qs, u" Liste des Ingrédients"_qs,
+             u"2 Ingrédient(s) ..."_qs},
+            {7, u"DureeReal VALUES (5, NULL)"_qs, u" Durée de Réalisation"_qs,
+             u"1 Durée(s) de Réalisation ..."_qs}};
+        for (const Case &table : cases) {
+            LivreEssai::execute({u"INSERT INTO "_qs + table.row});
+            const Frmmain &frm = opened(table.view);
+            QCOMPARE(frm.LTGauche.Caption(), table.header);
+            QCOMPARE(frm.LBGauche.Caption(), table.count);
+            QVERIFY(frm.Liste.Count() == 0 && !frm.Chargement.isVisible());
+        }
     }
 
     void emptyBookShowsTheTheme() {
