@@ -63,35 +63,36 @@ private Q_SLOTS:
     void aReaderThatFails_data() {
         QTest::addColumn<QByteArray>("script");
         QTest::addColumn<QString>("error");
-        QTest::newRow("dies") << "kill -SEGV $$"_ba << u"brutalement"_s;
-        QTest::newRow("never ends") << "exec sleep 60"_ba << u"trop de temps"_s;
-        QTest::newRow("closes its output and stays") << "exec sleep 60 >&-"_ba << u"trop de temps"_s;
-        QTest::newRow("says nothing") << "exit 0"_ba << u"avant la fin"_s;
-        QTest::newRow("talks nonsense") << "exec yes"_ba << u"incompréhensible"_s;
-        QTest::newRow("announces a huge record")
-            << "printf 'R\\377\\377\\377\\377'; exec sleep 60"_ba << u"incompréhensible"_s;
-        QTest::newRow("a text longer than its record")
-            << "printf 'T\\010\\0\\0\\0\\377\\0\\0\\0abcd'; exec sleep 60"_ba << u"incompréhensible"_s;
-        QTest::newRow("a row of no table") << "printf 'R\\0\\0\\0\\0'"_ba << u"incompréhensible"_s;
-        QTest::newRow("tables without end")
-            << "while printf 'T\\011\\0\\0\\0\\1\\0\\0\\0a\\0\\0\\0\\0%65536s'; do :; done"_ba
-            << u"incompréhensible"_s;
-        QTest::newRow("stops within a record") << "printf 'E\\1\\0'"_ba << u"avant la fin"_s;
-        QTest::newRow("ends well with a bad code")
-            << "printf 'E\\0\\0\\0\\0'; exit 3"_ba << u"avant la fin"_s;
-        QTest::newRow("more behind the end")
-            << "printf 'E\\0\\0\\0\\0E\\0\\0\\0\\0'"_ba << u"incompréhensible"_s;
-        QTest::newRow("tells a failure") << "printf 'X\\7\\0\\0\\0\\3\\0\\0\\0non'; exit 2"_ba << u"non"_s;
+        const auto row = [](const char *name, const char *script, const QString &error) {
+            QTest::newRow(name) << QByteArray(script) << error;
+        };
+        row("dies", "kill -SEGV $$", u"brutalement"_s);
+        row("never ends", "exec sleep 60", u"trop de temps"_s);
+        row("closes its output and stays", "exec sleep 60 >&-", u"trop de temps"_s);
+        row("says nothing", "exit 0", u"avant la fin"_s);
+        row("talks nonsense", "exec yes", u"incompréhensible"_s);
+        row("announces a huge record", "printf 'R\\377\\377\\377\\377'; exec sleep 60",
+            u"incompréhensible"_s);
+        row("a text longer than its record", "printf 'T\\010\\0\\0\\0\\377\\0\\0\\0abcd'; exec sleep 60",
+            u"incompréhensible"_s);
+        row("a row of no table", "printf 'R\\0\\0\\0\\0'", u"incompréhensible"_s);
+        row("tables without end",
+            "while printf 'T\\011\\0\\0\\0\\1\\0\\0\\0a\\0\\0\\0\\0%65536s'; do :; done",
+            u"incompréhensible"_s);
+        row("stops within a record", "printf 'E\\1\\0'", u"avant la fin"_s);
+        row("ends well with a bad code", "printf 'E\\0\\0\\0\\0'; exit 3", u"avant la fin"_s);
+        row("more behind the end", "printf 'E\\0\\0\\0\\0E\\0\\0\\0\\0'", u"incompréhensible"_s);
+        row("tells a failure", "printf 'X\\7\\0\\0\\0\\3\\0\\0\\0non'; exit 2", u"non"_s);
     }
 
     void aReaderThatFails() {
-        QFETCH(QByteArray, script);
-        const QString program = writeScript(m_folder->filePath(u"lecteur"_s), script);
-        QFETCH(QString, error);
+        QFETCH(const QByteArray, script);
+        QFETCH(const QString, error);
         Counter sink;
         QElapsedTimer timer;
         timer.start();
-        const QString told = errorOf(program, u"livre"_s, sink, 1s);
+        const QString told =
+            errorOf(writeScript(m_folder->filePath(u"lecteur"_s), script), u"livre"_s, sink, 1s);
         QVERIFY2(told.contains(error), qPrintable(told));
         QVERIFY2(timer.elapsed() < 5000, "the limit is one second");
         // A window that shows the progress must be painted while the reader is silent.

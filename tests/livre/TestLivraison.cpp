@@ -25,82 +25,50 @@ private:
         QCOMPARE(cmake.exitCode(), 0);
     }
 
-    void write(const QString &path, const QByteArray &content) const {
-        const QString full = m_folder->filePath(path);
-        QVERIFY(QDir().mkpath(full.section(u'/', 0, -2)));
-        writeFile(full, content);
-    }
-
-    QByteArray read(const QString &path) const { return contentOf(m_folder->filePath(path)); }
-
     std::unique_ptr<QTemporaryDir> m_folder;
 
 private Q_SLOTS:
 
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }
 
-    void aRebuild_data() {
+    void scenario_data() {
         QTest::addColumn<QString>("file");
-        QTest::newRow("book") << u"db.mdb"_s;
-        QTest::newRow("photo with a ligature") << u"photos/Bœuf bourguignon.jpg"_s;
-        QTest::newRow("blank, apostrophe and brackets") << u"Fond Ecran/Soupe à l'oignon (gratinée).jpg"_s;
+        QTest::addColumn<QString>("words");
+        const QString changes = u"new:one rebuild is:one new:two rebuild is:two"
+                                " mine:own rebuild is:own new:three rebuild rebuild is:own"_s;
+        QTest::newRow("new versions and own changes") << u"db.mdb"_s << changes;
+        QTest::newRow("ligature") << u"photos/Bœuf bourguignon.jpg"_s << changes;
+        QTest::newRow("signs") << u"Fond Ecran/Soupe à l'oignon (gratinée).jpg"_s << changes;
+        QTest::newRow("a file thrown away comes back")
+            << u"photos/a.jpg"_s << u"new:one rebuild thrown: rebuild is:one"_s;
+        QTest::newRow("a folder older than the deliveries")
+            << u"db.mdb"_s << u"mine:recipes new:one rebuild is:recipes"_s;
+        QTest::newRow("broken off before the stamp was written")
+            << u"db.mdb"_s << u"mine:one new:one rebuild new:two rebuild is:two"_s;
+        QTest::newRow("a change that was undone counts as none")
+            << u"db.mdb"_s << u"new:one rebuild mine:own new:two rebuild mine:one rebuild is:two"_s;
     }
 
-    void aRebuild() {
+    void scenario() {
         QFETCH(const QString, file);
-        const QString fresh = u"neuf/"_s + file;
-        const QString delivered = u"Savorel/"_s + file;
-
-        write(fresh, "one");
-        deliver();
-        QCOMPARE(read(delivered), "one");
-        write(fresh, "two");
-        deliver();
-        QCOMPARE(read(delivered), "two");
-
-        write(delivered, "mine");
-        deliver();
-        QCOMPARE(read(delivered), "mine");
-        write(fresh, "three");
-        deliver();
-        deliver();
-        QCOMPARE(read(delivered), "mine");
-    }
-
-    void aThrownAwayFileComesBack() {
-        write(u"neuf/photos/a.jpg"_s, "one");
-        deliver();
-        QVERIFY(QFile::remove(m_folder->filePath(u"Savorel/photos/a.jpg"_s)));
-        deliver();
-        QCOMPARE(read(u"Savorel/photos/a.jpg"_s), "one");
-    }
-
-    void anOlderFolderIsLeftAlone() {
-        write(u"Savorel/db.mdb"_s, "recipes of many years");
-        write(u"neuf/db.mdb"_s, "one");
-        deliver();
-        QCOMPARE(read(u"Savorel/db.mdb"_s), "recipes of many years");
-    }
-
-    void aDeliveryBrokenOffIsTakenUp() {
-        // The file had arrived, its stamp had not.
-        write(u"Savorel/db.mdb"_s, "one");
-        write(u"neuf/db.mdb"_s, "one");
-        deliver();
-        write(u"neuf/db.mdb"_s, "two");
-        deliver();
-        QCOMPARE(read(u"Savorel/db.mdb"_s), "two");
-    }
-
-    void aChangeThatWasUndoneCountsAsNone() {
-        write(u"neuf/db.mdb"_s, "one");
-        deliver();
-        write(u"Savorel/db.mdb"_s, "mine");
-        write(u"neuf/db.mdb"_s, "two");
-        deliver();
-        write(u"Savorel/db.mdb"_s, "one");
-        deliver();
-        QCOMPARE(read(u"Savorel/db.mdb"_s), "two");
+        QFETCH(const QString, words);
+        const QString fresh = m_folder->filePath(u"neuf/"_s + file);
+        const QString delivered = m_folder->filePath(u"Savorel/"_s + file);
+        for (const QString &path : {fresh, delivered}) {
+            QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+        }
+        for (const QString &step : words.split(u' ')) {
+            const QByteArray content = step.section(u':', 1).toUtf8();
+            if (step == u"rebuild") {
+                deliver();
+            } else if (step == u"thrown:") {
+                QVERIFY(QFile::remove(delivered));
+            } else if (step.startsWith(u"is:")) {
+                QCOMPARE(contentOf(delivered), content);
+            } else {
+                writeFile(step.startsWith(u"new:") ? fresh : delivered, content);
+            }
+        }
     }
 };
 
