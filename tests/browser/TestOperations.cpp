@@ -59,36 +59,32 @@ private Q_SLOTS:
     }
 
     void theMenuBelongsToTheRowUnderThePointer() {
+        const auto menuOn = [this](List &list, int row) {
+            clickRow(list, row, Qt::RightButton);
+            const bool opened = m_menus->Menu1.isVisible();
+            m_menus->Menu1.close();
+            return opened;
+        };
         Frmmain &frm = opened(0);
-        clickRow(frm.Liste, 2, Qt::RightButton);
+        QVERIFY(menuOn(frm.Liste, 2) && m_menus->Ajouter.isEnabled());
         QCOMPARE(frm.LTDroit.Caption(), u"Tarte"_qs); // shown before anything acts on it
         QCOMPARE(frm.Outils(2).Tag(), kHaut);
-        QTRY_VERIFY(m_menus->Menu1.isVisible());
-        QVERIFY(m_menus->Ajouter.isEnabled()); // a recipe
-        m_menus->Menu1.close();
 
-        opened(1);
-        clickRow(m_window->Liste, 1, Qt::RightButton);
-        QCOMPARE(m_window->Outils(2).Tag(), QString());
-        QVERIFY(m_menus->Ajouter.isEnabled());
-        m_menus->Menu1.close();
-        clickRow(m_window->LFilms, 1, Qt::RightButton);
-        QCOMPARE(m_window->Outils(2).Tag(), kBas);
-        m_menus->Menu1.close();
-
+        Frmmain &times = opened(1);
+        QVERIFY(menuOn(times.Liste, 1) && m_menus->Ajouter.isEnabled());
+        QCOMPARE(times.Outils(2).Tag(), QString());
+        QVERIFY(menuOn(times.LFilms, 1));
+        QCOMPARE(times.Outils(2).Tag(), kBas);
         // The recipe of a group is put away before its row stands for the group.
-        clickRow(m_window->LFilms, 1);
-        clickRow(m_window->Liste, 1, Qt::RightButton);
-        QVERIFY(!m_window->Scroll(0).isVisible());
-        m_menus->Menu1.close();
+        clickRow(times.LFilms, 1);
+        QVERIFY(menuOn(times.Liste, 1) && !times.Scroll(0).isVisible());
 
-        clickRow(m_window->Liste, 3); // 2 heures has no recipe, so there is no row to act on
-        QTest::mouseClick(m_window->LFilms.viewport(), Qt::RightButton);
+        clickRow(times.Liste, 3); // 2 heures has no recipe, so there is no row to act on
+        QTest::mouseClick(times.LFilms.viewport(), Qt::RightButton);
         QVERIFY(!m_menus->Modifier.isEnabled() && !m_menus->Supprimer.isEnabled());
         m_menus->Menu1.close();
 
-        clickRow(opened(3).Liste, 1, Qt::RightButton); // nothing to do in a fixed vocabulary
-        QVERIFY(!m_menus->Menu1.isVisible());
+        QVERIFY(!menuOn(opened(3).Liste, 1)); // nothing to do in a fixed vocabulary
     }
 
     void aNewValueIsListed() {

@@ -145,37 +145,26 @@ private Q_SLOTS:
         QCOMPARE(frm.LTDroit.Caption(), recipes.section(u',', 0, 0));
     }
 
-    void buttonOfTheCurrentViewDoesNothing() {
+    void nothingIsLoadedTwice() {
         fill();
         Frmmain &frm = opened(0);
-        LivreEssai::execute({u"UPDATE Cocktails SET Recette = 'Potage' WHERE Numero = 2"_qs});
+        LivreEssai::execute(
+            {u"UPDATE Cocktails SET Recette = 'Potage', preparation = 'Passer' WHERE Numero = 2"_qs});
+        clickRow(frm.Liste, 1);
         QTest::mouseClick(&frm.Bouton(0), Qt::LeftButton);
-        QCOMPARE(frm.Liste.Text(1), u"Bisque"_qs);
+        QCOMPARE(frm.Liste.Text(1) + frm.Saisie(0).Text(), u"BisqueMixer"_qs);
         QVERIFY(!frm.Bouton(0).Value());
-        QCOMPARE(frm.Bouton(0).ForeColor(), QColor(Qt::black));
+        clickRow(frm.Liste, 2);
+        clickRow(frm.Liste, 1);
+        QCOMPARE(frm.Saisie(0).Text(), u"Passer"_qs);
 
         QTest::mouseClick(&frm.Bouton(3), Qt::LeftButton);
         QCOMPARE(LivreEssai::setting(u"Tris"_qs), u"3"_qs);
         QCOMPARE(frm.Bouton(0).ForeColor(), QColor(Qt::white));
         QCOMPARE(frm.Bouton(3).ForeColor(), QColor(Qt::black));
+        LivreEssai::execute({u"UPDATE Cocktails SET preparation = 'Servir' WHERE Numero = 3"_qs});
         QTest::mouseClick(&frm.Bouton(0), Qt::LeftButton);
-        QCOMPARE(frm.Liste.Text(2), u"Potage"_qs);
-    }
-
-    void sameRowIsNotLoadedTwice() {
-        fill();
-        Frmmain &frm = opened(0);
-        LivreEssai::execute({u"UPDATE Cocktails SET preparation = 'Passer' WHERE Numero = 2"_qs});
-        clickRow(frm.Liste, 1);
-        QCOMPARE(frm.Saisie(0).Text(), u"Mixer"_qs);
-        clickRow(frm.Liste, 2);
-        clickRow(frm.Liste, 1);
-        QCOMPARE(frm.Saisie(0).Text(), u"Passer"_qs);
-
-        LivreEssai::execute({u"UPDATE Cocktails SET preparation = 'Servir' WHERE Numero = 2"_qs});
-        QTest::mouseClick(&frm.Bouton(4), Qt::LeftButton);
-        QTest::mouseClick(&frm.Bouton(0), Qt::LeftButton);
-        QCOMPARE(frm.Saisie(0).Text(), u"Servir"_qs);
+        QCOMPARE(texts(frm.Liste) + frm.Saisie(0).Text(), u"Éclair, Potage, TarteServir"_qs);
     }
 
     void arrowsMoveTheRecipeAndTheHighlight() {

@@ -129,20 +129,17 @@ private Q_SLOTS:
         QVERIFY_THROWS_EXCEPTION(DatabaseError, m_test->main().Bouton(1).SetValue(true));
     }
 
-    void oldBooks() {
-        m_test->start();
-        for (const auto &[name, count] : {std::pair(u"/ancien-livre.mdb"_qs, u"40 Recette(s) ..."_qs),
-                                          std::pair(u"/vieux-livre.mdb"_qs, u"300 Recette(s) ..."_qs)}) {
-            const QByteArray old = contentOf(kOldBooks + name);
-            if (old.isEmpty()) {
-                QSKIP("no books of old in " OLD_BOOKS);
-            }
-            press(kRestore, writeFile(path(u"vieux.mdb"_qs), old));
-            QCOMPARE(m_test->main().LBGauche.Caption(), count);
-            QCOMPARE(contentOf(path(u"vieux.mdb"_qs)), old);
-            press(kRestore, store::CheminAvantRestauration());
-            QCOMPARE(m_test->main().LTDroit.Caption(), u"Tarte"_qs);
+    void oldBookIsConverted() {
+        const QByteArray old = contentOf(kOldBooks + u"/vieux-livre.mdb");
+        if (old.isEmpty()) {
+            QSKIP("no books of old in " OLD_BOOKS);
         }
+        m_test->start();
+        press(kRestore, writeFile(path(u"vieux.mdb"_qs), old));
+        QCOMPARE(m_test->main().LBGauche.Caption(), u"300 Recette(s) ..."_qs);
+        QCOMPARE(contentOf(path(u"vieux.mdb"_qs)), old);
+        press(kRestore, store::CheminAvantRestauration());
+        QCOMPARE(m_test->main().LTDroit.Caption(), u"Tarte"_qs);
     }
 
     void oldBookInThePlaceOfOurs() {
