@@ -45,7 +45,7 @@ private:
     QString otherBook(const QString &name) const {
         const QString copy = path(name);
         QFile::copy(store::CheminBase(), copy);
-        store::OuvrirLivre(copy).Execute(u"UPDATE Cocktails SET Recette = 'Soupe'"_qs);
+        store::OuvrirLivre(copy).Execute(u"UPDATE Cocktails SET Recette = 'Soupe', preparation = 'Mixer'"_qs);
         return copy;
     }
 
@@ -103,7 +103,7 @@ private Q_SLOTS:
         m_test->start();
         // Where names in other case are other files, this is no restore of the book onto itself.
         press(kRestore, otherBook(u"DB.MDB"_qs));
-        QCOMPARE(m_test->main().LTDroit.Caption(), u"Soupe"_qs);
+        QCOMPARE(m_test->main().LTDroit.Caption() + m_test->main().Saisie(0).Text(), u"SoupeMixer"_qs);
         QCOMPARE(texts(m_test->main().Liste), u"Soupe"_qs);
         press(kRestore, store::CheminAvantRestauration());
         QCOMPARE(m_test->main().LTDroit.Caption(), u"Tarte"_qs);
