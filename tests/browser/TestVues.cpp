@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QSignalSpy>
 
+#include <array>
 #include <memory>
 
 using namespace browser;
@@ -62,17 +63,17 @@ private Q_SLOTS:
             QString row, header, count;
         };
 
-        const Case cases[]{
-            {0, u"Cocktails (Numero) VALUES (5)"_qs, u" Liste des Recettes "_qs, u"1 Recette(s) ..."_qs},
-            {1, u"Categorie VALUES (5, NULL)"_qs, u" Liste des Durées de Cuisson "_qs,
-             u"1 Durée(s)  de Cuisson ..."_qs},
-            {2, u"Verre (NVerre) VALUES (5)"_qs, u" Liste des Nombres de Personnes"_qs,
-             u"1 Nombre(s) de Personnes ..."_qs},
-            {5, u"Realisation VALUES (5, NULL)"_qs, u" Types de Plats"_qs, u"1"_qs},
-            {6, u"Ingredient VALUES (5, NULL), (6, 'Sel</B>')"_qs, u" Liste des Ingrédients"_qs,
-             u"2 Ingrédient(s) ..."_qs},
-            {7, u"DureeReal VALUES (5, NULL)"_qs, u" Durée de Réalisation"_qs,
-             u"1 Durée(s) de Réalisation ..."_qs}};
+        const auto cases = std::to_array<Case>(
+            {{0, u"Cocktails (Numero) VALUES (5)"_qs, u" Liste des Recettes "_qs, u"1 Recette(s) ..."_qs},
+             {1, u"Categorie VALUES (5, NULL)"_qs, u" Liste des Durées de Cuisson "_qs,
+              u"1 Durée(s)  de Cuisson ..."_qs},
+             {2, u"Verre (NVerre) VALUES (5)"_qs, u" Liste des Nombres de Personnes"_qs,
+              u"1 Nombre(s) de Personnes ..."_qs},
+             {5, u"Realisation VALUES (5, NULL)"_qs, u" Types de Plats"_qs, u"1"_qs},
+             {6, u"Ingredient VALUES (5, NULL), (6, 'Sel</B>')"_qs, u" Liste des Ingrédients"_qs,
+              u"2 Ingrédient(s) ..."_qs},
+             {7, u"DureeReal VALUES (5, NULL)"_qs, u" Durée de Réalisation"_qs,
+              u"1 Durée(s) de Réalisation ..."_qs}});
         for (const Case &table : cases) {
             LivreEssai::execute({u"INSERT INTO "_qs + table.row});
             const Frmmain &frm = opened(table.view);
@@ -190,10 +191,13 @@ private Q_SLOTS:
 
     void secondClickRenamesInTheTable() {
         fill();
-        const std::pair<int, QString> views[]{
-            {0, u"Cocktails where Numero = 2"_qs},       {1, u"Categorie where NCategorie = 2"_qs},
-            {2, u"Verre where NVerre = 1"_qs},           {5, u"Realisation where NRealisation = 2"_qs},
-            {6, u"Ingredient where NIngredient = 1"_qs}, {7, u"DureeReal where NDureeReal = 1"_qs}};
+        const auto views =
+            std::to_array<std::pair<int, QString>>({{0, u"Cocktails where Numero = 2"_qs},
+                                                    {1, u"Categorie where NCategorie = 2"_qs},
+                                                    {2, u"Verre where NVerre = 1"_qs},
+                                                    {5, u"Realisation where NRealisation = 2"_qs},
+                                                    {6, u"Ingredient where NIngredient = 1"_qs},
+                                                    {7, u"DureeReal where NDureeReal = 1"_qs}});
         for (const auto &[view, row] : views) {
             Frmmain &frm = opened(view);
             clickRow(frm.Liste, 1);

@@ -214,7 +214,7 @@ private Q_SLOTS:
         database.Execute(
             u"INSERT INTO Plat VALUES (1, 'sal', 'z', 1), (2, 'ton', 'a', 1), (3, 'tin', 'b', 1),"
             "(4, 'sel', 'c', 2), (5, NULL, 'd', 2), (6, '', 'e', 1.5)"_s);
-        const std::pair<QString, QString> orders[]{
+        const auto orders = std::to_array<std::pair<QString, QString>>({
             {u""_s, u"1 2 3 4 5 6"_s},
             {u"order by Nom asc"_s, u"5 6 1 4 2 3"_s}, // Null first
             {u"ORDER BY [nom] DESC"_s, u"3 2 4 1 6 5"_s},
@@ -225,7 +225,7 @@ private Q_SLOTS:
             {u"where N in (select N from Plat order by N limit 2) order by N desc"_s, u"2 1"_s},
             {u"where nom = 'sol'"_s, u"1 4"_s},
             {u"where Note = 'i'"_s, u""_s},
-        };
+        });
         for (const auto &[tail, order] : orders) {
             QCOMPARE(
                 QString(tail + u": " + texts(database.OpenRecordset(u"select * from PLAT "_s + tail), 0)),
@@ -318,7 +318,7 @@ private Q_SLOTS:
         Database database = filled();
         using Use = void (*)(Recordset &);
         const auto nothing = [](Recordset &) {};
-        const std::pair<QString, Use> misuses[]{
+        const auto misuses = std::to_array<std::pair<QString, Use>>({
             {u"SELECT * From Plat where N = 99"_s, [](Recordset &rows) { rows.Fields(0).Number(); }},
             {u"SELECT * From Plat where N = 99"_s, [](Recordset &rows) { rows.Edit(); }},
             {u"SELECT * From Plat where N = 99"_s, [](Recordset &rows) { rows.Delete(); }},
@@ -330,7 +330,7 @@ private Q_SLOTS:
             {u"SELECT * From Rien"_s, nothing},
             {u"SELECT * From Plat order by Rien"_s, nothing}, // which the engine takes for a text
             {u"SELECT max(N) From Plat; DELETE FROM Plat"_s, nothing},
-        };
+        });
         for (const auto &[sql, use] : misuses) {
             const auto misuse = [&, &sql = sql, &use = use] {
                 Recordset rows = database.OpenRecordset(sql);

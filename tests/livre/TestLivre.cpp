@@ -12,6 +12,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 using platform::database::Recordset;
 
@@ -27,12 +29,16 @@ struct Vocabulary {
     int position;
 };
 
-const Vocabulary kVocabularies[]{
-    {u"Categorie"_s, 30, 30, u"Cocktails"_s, 2}, {u"DureeReal"_s, 25, 25, u"Cocktails"_s, 11},
-    {u"Verre"_s, 12, 12, u"Cocktails"_s, 3},     {u"Realisation"_s, 25, 35, u"Cocktails"_s, 5},
-    {u"VIN"_s, 25, 25, u"Cocktails"_s, 10},      {u"Ingredient"_s, 401, 420, u"Ingre"_s, 1},
-    {u"Quantite"_s, 61, 61, u"Ingre"_s, 2},      {u"Mesure"_s, 41, 41, u"Ingre"_s, 3},
-};
+const auto kVocabularies = std::to_array<Vocabulary>({
+    {u"Categorie"_s, 30, 30, u"Cocktails"_s, 2},
+    {u"DureeReal"_s, 25, 25, u"Cocktails"_s, 11},
+    {u"Verre"_s, 12, 12, u"Cocktails"_s, 3},
+    {u"Realisation"_s, 25, 35, u"Cocktails"_s, 5},
+    {u"VIN"_s, 25, 25, u"Cocktails"_s, 10},
+    {u"Ingredient"_s, 401, 420, u"Ingre"_s, 1},
+    {u"Quantite"_s, 61, 61, u"Ingre"_s, 2},
+    {u"Mesure"_s, 41, 41, u"Ingre"_s, 3},
+});
 
 } // namespace
 

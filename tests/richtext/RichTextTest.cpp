@@ -7,6 +7,8 @@
 #include <QTextCursor>
 #include <QTextDocument>
 
+#include <array>
+
 using namespace platform::richtext;
 using namespace Qt::StringLiterals;
 
@@ -39,11 +41,11 @@ class RichTextTest : public QObject {
 private Q_SLOTS:
 
     void tellsRtfFromPlainText() {
-        const std::pair<QString, QString> texts[]{{u" \r\n{\\rtf1 a}"_s, u"a"_s},
-                                                  {u"{a} \\b b"_s, u"{a} \\b b"_s},
-                                                  {u"a\nb\rc\r\nd\n"_s, u"a|b|c|d|"_s},
-                                                  {u"a"_s + QChar(u'\0'), u"a"_s},
-                                                  {QString(), QString()}};
+        const auto texts = std::to_array<std::pair<QString, QString>>({{u" \r\n{\\rtf1 a}"_s, u"a"_s},
+                                                                       {u"{a} \\b b"_s, u"{a} \\b b"_s},
+                                                                       {u"a\nb\rc\r\nd\n"_s, u"a|b|c|d|"_s},
+                                                                       {u"a"_s + QChar(u'\0'), u"a"_s},
+                                                                       {QString(), QString()}});
         for (const auto &[stored, text] : texts) {
             QCOMPARE(described(stored), text);
             QCOMPARE(onOneLine(plainText(stored)), text);
@@ -224,14 +226,14 @@ private Q_SLOTS:
 
     void takesTimeInProportion_data() {
         QTest::addColumn<int>("times");
-        const std::pair<const char *, int> pieces[]{{"{", 1000000},
-                                                    {"{\\tx1\\tx2\\tx3", 200000},
-                                                    {"{\\*\\x{\\pict", 200000},
-                                                    {"\\pard", 500000},
-                                                    {"\\par", 30000},
-                                                    {"{\\pntext\\'b7}x\\par", 20000},
-                                                    {"{\\fonttbl\\f# N#;}\\f# x", 20000},
-                                                    {"\\pard\\tx# x\\par", 20000}};
+        const auto pieces = std::to_array<std::pair<const char *, int>>({{"{", 1000000},
+                                                                         {"{\\tx1\\tx2\\tx3", 200000},
+                                                                         {"{\\*\\x{\\pict", 200000},
+                                                                         {"\\pard", 500000},
+                                                                         {"\\par", 30000},
+                                                                         {"{\\pntext\\'b7}x\\par", 20000},
+                                                                         {"{\\fonttbl\\f# N#;}\\f# x", 20000},
+                                                                         {"\\pard\\tx# x\\par", 20000}});
         for (const auto &[piece, times] : pieces) {
             QTest::newRow(piece) << times;
         }

@@ -10,6 +10,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <array>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -88,9 +89,13 @@ private Q_SLOTS:
     }
 
     void numbersFromTexts() {
-        const std::pair<QString, int> integers[]{
-            {u" 7 "_qs, 7}, {u"-12"_qs, -12},       {u"3,5"_qs, 4}, // a tie goes to the even one
-            {u"2.5"_qs, 2}, {u"32767,4"_qs, 32767}, {u"-32768"_qs, -32768}};
+        const auto integers =
+            std::to_array<std::pair<QString, int>>({{u" 7 "_qs, 7},
+                                                    {u"-12"_qs, -12},
+                                                    {u"3,5"_qs, 4}, // a tie goes to the even one
+                                                    {u"2.5"_qs, 2},
+                                                    {u"32767,4"_qs, 32767},
+                                                    {u"-32768"_qs, -32768}});
         for (const auto &[text, number] : integers) {
             QCOMPARE(int(ToInteger(text)), number);
             QCOMPARE(ToLong(text), number);
@@ -119,12 +124,12 @@ private Q_SLOTS:
     }
 
     void wordsOfTruthByLanguage() {
-        const std::pair<QStringList, QByteArray> languages[]{
-            {{u"LC_ALL=fr_FR.UTF-8"_qs}, "Vrai Faux"},
-            {{u"LANG=fr_CA"_qs}, "Vrai Faux"},
-            {{u"LANG=fr_FR.UTF-8"_qs, u"LC_NUMERIC=en_US.UTF-8"_qs}, "Vrai Faux"},
-            {{u"LANG=de_DE.UTF-8"_qs}, "True False"},
-            {{u"LANG=C"_qs}, "True False"}};
+        const auto languages = std::to_array<std::pair<QStringList, QByteArray>>(
+            {{{u"LC_ALL=fr_FR.UTF-8"_qs}, "Vrai Faux"},
+             {{u"LANG=fr_CA"_qs}, "Vrai Faux"},
+             {{u"LANG=fr_FR.UTF-8"_qs, u"LC_NUMERIC=en_US.UTF-8"_qs}, "Vrai Faux"},
+             {{u"LANG=de_DE.UTF-8"_qs}, "True False"},
+             {{u"LANG=C"_qs}, "True False"}});
         for (const auto &[environment, words] : languages) {
             QProcess other; // the language is settled once for a process
             other.setEnvironment(environment);
