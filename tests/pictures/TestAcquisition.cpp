@@ -1,3 +1,4 @@
+#include "SmallFilesOnly.h"
 #include "TestBackend.h"
 
 #include "pictures/atelier/Acquisition.h"
@@ -17,10 +18,7 @@
 #include <QTest>
 #include <QTimer>
 
-#include <sys/resource.h>
-
 #include <array>
-#include <csignal>
 #include <functional>
 #include <optional>
 
@@ -43,27 +41,6 @@ QImage twoColours(int width, int height) {
     QPainter(&picture).fillRect(width / 2, 0, width, height, Qt::blue);
     return picture;
 }
-
-/// As long as it lives, no file grows beyond a few pages: what a full disk does to a writer.
-class SmallFilesOnly {
-public:
-    SmallFilesOnly() {
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit small{8192, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-        // Without this a write beyond the limit would end the process instead of failing.
-        m_handler = std::signal(SIGXFSZ, SIG_IGN);
-    }
-
-    ~SmallFilesOnly() {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-
-private:
-    rlimit m_before{};
-    void (*m_handler)(int);
-};
 
 /// Acts on each modal dialog as it comes, as long as it lives.
 class OnDialogs {
