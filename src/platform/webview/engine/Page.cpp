@@ -30,7 +30,6 @@ Page::Page(QWebEngineProfile *profile, const QString &folder)
 
 void Page::restrict() {
     constexpr QWebEngineSettings::WebAttribute kRefused[]{
-        QWebEngineSettings::LocalContentCanAccessRemoteUrls,
         QWebEngineSettings::LocalStorageEnabled,
         QWebEngineSettings::JavascriptCanOpenWindows,
         QWebEngineSettings::JavascriptCanAccessClipboard,
@@ -43,6 +42,8 @@ void Page::restrict() {
     for (const auto attribute : kRefused) {
         settings()->setAttribute(attribute, false);
     }
+    // Also tells whether one may go back to a page of the net that was reached from a file.
+    settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, true);
     settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
 }
 
