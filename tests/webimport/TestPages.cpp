@@ -93,16 +93,6 @@ private Q_SLOTS:
         QCOMPARE(resume(secondLayout ? debutFin(texte) : commentee(texte)), fichier(nom + ".txt"));
     }
 
-    void captionAndToolTips() {
-        const QString texte = fichier("commentee.html");
-        QStringList legendes;
-        const ChampsPage champs = ExtrairePageCommentee(
-            capture(texte), [&legendes](const QString &ligne) { legendes.append(ligne); });
-        QCOMPARE(legendes.join(u"\r\n"_qs) + u"\r\n"_qs, texte);
-        QCOMPARE(champs.Liste[ListeCout].infobulle, u"Moyen"_qs);
-        QVERIFY(!champs.TitreRecette.infobulle);
-    }
-
     void dishTypeOfACommentedPage() {
         const auto lire = [](const QString &section, const QString &adresse) {
             return type(commentee(u"<HTML>\r\n<!-- TYPE DE PLAT -->" + section + u"<!-- FIN TYPE DE PLAT -->",

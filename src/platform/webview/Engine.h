@@ -38,11 +38,9 @@ public:
     virtual void navigate(const QUrl &address) = 0;
     virtual void back() = 0;
     virtual void forward() = 0;
-    virtual void stop() = 0;
 
     /// The address of the page shown.
     virtual QUrl address() const = 0;
-    virtual QString title() const = 0;
 
     /// Runs a script beside those of the page, which can neither see nor change it.
     /// @param result gets the script's text, later; nothing when it gave none or the page has died. Never called where

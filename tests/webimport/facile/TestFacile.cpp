@@ -17,20 +17,15 @@ namespace {
 /// The pages of a browser that has none: each is the text that its script gives.
 class VueEssai : public View {
 public:
-    VueEssai(QWidget &parent, Events evenements)
-        : m_controle(std::make_unique<QWidget>(&parent)), m_evenements(std::move(evenements)) {}
+    VueEssai(QWidget &parent, Events evenements_)
+        : evenements(std::move(evenements_)), m_controle(std::make_unique<QWidget>(&parent)) {}
 
     /// Another page comes; its text stands when the browser is asked.
-    void charger(const std::optional<QString> &texte, const QString &adresse = u"http://site.example/r"_qs) {
-        m_evenements.began();
+    void charger(const std::optional<QString> &texte) {
+        evenements.began();
         m_texte = texte;
-        m_adresse = QUrl(adresse);
-        m_evenements.complete();
+        evenements.complete();
     }
-
-    void annoncer() { m_evenements.began(); }
-
-    void historique(bool precedente, bool suivante) { m_evenements.history(precedente, suivante); }
 
     QWidget &widget() override { return *m_controle; }
 
@@ -40,30 +35,24 @@ public:
 
     void forward() override { visites += u">"_qs; }
 
-    void stop() override {}
+    QUrl address() const override { return QUrl(u"http://site.example/r"_qs); }
 
-    QUrl address() const override { return m_adresse; }
-
-    QString title() const override { return {}; }
-
-    void runScript(const QString & /*source*/,
-                   std::function<void(const std::optional<QString> &)> resultat) override {
+    void runScript(const QString & /*source*/, Result resultat) override {
         if (retenir) {
-            enAttente.push_back([resultat, texte = m_texte] { resultat(texte); });
+            retenue = resultat;
         } else {
             resultat(m_texte);
         }
     }
 
+    Events evenements;
     QStringList visites;
-    bool retenir = false; ///< answers wait until they are called
-    std::vector<std::function<void()>> enAttente;
+    bool retenir = false; ///< the answer waits until it is called
+    Result retenue;
 
 private:
     std::unique_ptr<QWidget> m_controle;
-    Events m_evenements;
     std::optional<QString> m_texte;
-    QUrl m_adresse;
 };
 
 class MoteurEssai : public Engine {
@@ -76,15 +65,13 @@ public:
         return nouvelle;
     }
 
-    std::optional<QByteArray> openUrl(const QUrl &adresse, const QString & /*dossier*/) override {
-        demandes += adresse.toString();
+    std::optional<QByteArray> openUrl(const QUrl & /*adresse*/, const QString & /*dossier*/) override {
         pendant();
         return reponse;
     }
 
     VueEssai *vue = nullptr;
     std::optional<QByteArray> reponse;
-    QStringList demandes;
     std::function<void()> pendant = [] {};
 };
 
@@ -170,20 +157,20 @@ private Q_SLOTS:
         QVERIFY(!m_fenetre->Analyse.isVisible());
         m_moteur.vue->charger(PageEssai().texte());
         QVERIFY(m_fenetre->Analyse.isVisible());
-        m_moteur.vue->annoncer();
+        m_moteur.vue->evenements.began();
         QVERIFY(!m_fenetre->Analyse.isVisible());
         m_moteur.vue->charger(std::nullopt);
         QVERIFY(m_fenetre->Analyse.isVisible());
         // A late answer of the page before counts no more.
         m_moteur.vue->retenir = true;
         m_moteur.vue->charger(PageEssai().texte());
-        m_moteur.vue->annoncer();
-        m_moteur.vue->enAttente.front()();
+        m_moteur.vue->evenements.began();
+        m_moteur.vue->retenue(PageEssai().texte());
         QVERIFY(!m_fenetre->Analyse.isVisible());
     }
 
     void historyFollowsTheBrowser() {
-        m_moteur.vue->historique(true, false);
+        m_moteur.vue->evenements.history(true, false);
         QVERIFY(m_fenetre->Navi(0).isEnabled() && !m_fenetre->Navi(1).isEnabled());
         m_moteur.vue->charger(PageEssai().texte());
         m_fenetre->Navi(0).SetValue(true);

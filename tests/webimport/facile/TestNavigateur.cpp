@@ -56,43 +56,27 @@ private:
     std::function<QByteArray(const QByteArray &)> m_reponse;
 };
 
-/// What is read of a page of the demonstration site; the group of its address may be unknown.
+/// What is read of a page of the demonstration site: rows of ingredients; times, dish type, cost and difficulty. No group
+/// has the number 99.
 struct Recette {
-    QStringView page, groupe;
-    int lignes;
+    QStringView page;
+    int groupe = 0, lignes = 0;
     QStringView champs;
 };
 
 constexpr std::array kSite{
-    Recette{u"chevreuil-airelles.htm", u"16", 10,
-            u"Rôti de chevreuil aux airelles|pour un dimanche d'automne|40 min,la veille : 15 min|1 h. 10|8 "
-            u"personnes|"
-            "Gibiers|Très Cher|Très Difficile"},
-    Recette{
-        u"langoustines.htm", u"25", 8,
-        u"Langoustines grillées au beurre d'orange||25 min,plus 1 h de marinade|6 min.|4 personnes|Crustacés|"
-        "Très Cher|Moyen"},
-    Recette{u"magret-cerises.htm", u"99", 7,
-            u"Magret de canard aux cerises||20 min|15 min.,et 5 min. de repos|2 personnes|"
-            "Magret de canard aux cerises|Cher|Difficile"},
-    Recette{u"maquereaux.htm", u"9", 7,
-            u"Maquereaux au four à la moutarde||15 min|12 min.|4 personnes|Poissons|Peu Cher|Facile"},
-    Recette{u"pate-en-croute.htm", u"15", 12,
-            u"Pâté en croûte de la moisson|à préparer la veille|1 h 15|1 h. 30, four moyen, 180 degrés|10 "
-            u"personnes|"
-            "Viandes|Moyen|Difficile"},
-    Recette{
-        u"punch-jardin.htm", u"54", 8,
-        u"Punch du jardin|sans alcool pour les petits|15 min||12 personnes|Cocktails & Alcools|Moyen|Facile"},
-    Recette{u"risotto-petits-pois.htm", u"27", 9,
-            u"Risotto aux petits pois|le printemps dans une casserole|10 min,sans se presser|25 min.|4 à 5 "
-            u"personnes|"
-            "Céréales|Moyen|Moyen"},
-    Recette{u"vacherin-fraises.htm", u"99", 7,
-            u"Vacherin glacé aux fraises|un gros gâteau pour un grand jour|1 h 30,et une nuit au froid|"
-            "2 h., four très doux|8 personnes|Desserts|Cher|Très Difficile"},
-    Recette{u"veloute-potiron.htm", u"99", 9,
-            u"Velouté de potiron|aux noisettes grillées|20 min|35 min.|6 personnes|Entrée|Peu Cher|Facile"},
+    Recette{u"chevreuil-airelles.htm", 16, 10,
+            u"40 min,la veille : 15 min|1 h. 10|Gibiers|Très Cher|Très Difficile"},
+    Recette{u"langoustines.htm", 25, 8, u"25 min,plus 1 h de marinade|6 min.|Crustacés|Très Cher|Moyen"},
+    Recette{u"magret-cerises.htm", 99, 7,
+            u"20 min|15 min.,et 5 min. de repos|Magret de canard aux cerises|Cher|Difficile"},
+    Recette{u"maquereaux.htm", 9, 7, u"15 min|12 min.|Poissons|Peu Cher|Facile"},
+    Recette{u"pate-en-croute.htm", 15, 12, u"1 h 15|1 h. 30, four moyen, 180 degrés|Viandes|Moyen|Difficile"},
+    Recette{u"punch-jardin.htm", 54, 8, u"15 min||Cocktails & Alcools|Moyen|Facile"},
+    Recette{u"risotto-petits-pois.htm", 27, 9, u"10 min,sans se presser|25 min.|Céréales|Moyen|Moyen"},
+    Recette{u"vacherin-fraises.htm", 99, 7,
+            u"1 h 30,et une nuit au froid|2 h., four très doux|Desserts|Cher|Très Difficile"},
+    Recette{u"veloute-potiron.htm", 99, 9, u"20 min|35 min.|Entrée|Peu Cher|Facile"},
 };
 
 } // namespace
@@ -141,7 +125,7 @@ private:
         m_fenetre->Analyse.click();
         QStringList champs{m_fenetre->TitreRecette.Text(), m_fenetre->calorie.Caption(),
                            m_fenetre->DReal.Text()};
-        for (const int index : {3, 4, 5, 0, 1, 2}) {
+        for (const int index : {3, 5, 0, 1, 2, 4}) {
             champs += m_fenetre->Liste(index).Text();
         }
         for (int index = 0; index < m_fenetre->Ingre.Count(); ++index) {
@@ -194,7 +178,7 @@ private Q_SLOTS:
             QUrl fichier = locale(u"facile/"_qs + recette.page);
             fichier.setQuery(u"recette=1&groupid=%1"_qs.arg(recette.groupe));
             lues += importer(fichier);
-            QCOMPARE(lues.last().mid(0, 8).join(u'|'), recette.champs);
+            QCOMPARE(lues.last().mid(2, 5).join(u'|'), recette.champs);
             QCOMPARE(m_fenetre->Ingre.Count(), recette.lignes);
             QCOMPARE(creer(), u"Création réussie ! "_qs);
         }
@@ -204,7 +188,7 @@ private Q_SLOTS:
         auto livre = store::OuvrirLivre();
         auto recettes = livre.OpenRecordset(u"SELECT * From Cocktails order by Numero"_qs);
         for (std::size_t i = 0; i < kSite.size(); ++i, recettes.MoveNext()) {
-            const QString page = u"%1?recette=1&groupid=%2"_qs.arg(kSite[i].page, kSite[i].groupe);
+            const QString page = u"%1?recette=1&groupid=%2"_qs.arg(kSite[i].page).arg(kSite[i].groupe);
             QCOMPARE(importer(serveur.adresse(page)), lues[qsizetype(i)]);
             QCOMPARE(recettes.Fields(u"Recette").Text(), lues[qsizetype(i)].first());
             auto lignes = livre.OpenRecordset(u"SELECT * From Ingre where Numero = %1"_qs.arg(i + 1));

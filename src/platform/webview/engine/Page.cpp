@@ -5,6 +5,8 @@
 #include <QWebEngineNewWindowRequest>
 #include <QWebEngineSettings>
 
+#include <array>
+
 namespace platform::webview {
 
 // The browser lets pages from the net not near any file, but pages of files near all.
@@ -29,7 +31,7 @@ Page::Page(QWebEngineProfile *profile, const QString &folder)
 }
 
 void Page::restrict() {
-    constexpr QWebEngineSettings::WebAttribute kRefused[]{
+    constexpr std::array kRefused{
         QWebEngineSettings::LocalStorageEnabled,
         QWebEngineSettings::JavascriptCanOpenWindows,
         QWebEngineSettings::JavascriptCanAccessClipboard,

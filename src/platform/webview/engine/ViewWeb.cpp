@@ -73,16 +73,8 @@ void ViewWeb::forward() {
     leave([this] { m_page.triggerAction(QWebEnginePage::Forward); });
 }
 
-void ViewWeb::stop() {
-    m_page.triggerAction(QWebEnginePage::Stop);
-}
-
 QUrl ViewWeb::address() const {
     return m_page.url();
-}
-
-QString ViewWeb::title() const {
-    return m_page.title();
 }
 
 void ViewWeb::runScript(const QString &source, Result result) {

@@ -24,9 +24,7 @@ public:
     void navigate(const QUrl &address) override;
     void back() override;
     void forward() override;
-    void stop() override;
     QUrl address() const override;
-    QString title() const override;
     void runScript(const QString &source, Result result) override;
 
 private:
