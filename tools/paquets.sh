@@ -6,7 +6,7 @@ PAQUETS_CONSTRUCTION=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-b
     qt6-translations-l10n)
 PAQUETS_EXECUTION=(qt6-wayland libsane1 fonts-dejavu-core fonts-liberation fonts-comic-neue fonts-urw-base35)
 PAQUETS_ECRAN_VIRTUEL=(xvfb xauth x11-utils imagemagick)
-PAQUETS_TESTS=(qt6-declarative-dev sqlcipher poppler-utils)
+PAQUETS_TESTS=(sqlcipher poppler-utils)
 
 # installer_paquets NAME...: installs those that are missing, through sudo when not root.
 installer_paquets() {

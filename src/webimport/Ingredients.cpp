@@ -64,10 +64,9 @@ void TexteIngredients::Ajouter(QStringView texte) {
 
 void TexteIngredients::RemplacerPar(const QString &texte) {
     m_lignes = Lignes();
-    m_aDecouper = false;
+    m_aDecouper = 0;
     m_texte = texte;
     m_traite = 0;
-    m_legende = m_texte.size();
 }
 
 void TexteIngredients::Rogner() {
@@ -90,19 +89,12 @@ void TexteIngredients::Fermer(std::span<const Remplacement> remplacements) {
     m_texte.truncate(debut);
     m_texte += nouveau;
     m_traite = m_texte.size();
-    m_legende = m_texte.size();
-    m_aDecouper = true;
-}
-
-std::optional<QString> TexteIngredients::Legende() const {
-    return m_legende < 0 ? std::nullopt : std::optional(m_texte.left(m_legende));
+    m_aDecouper = m_texte.size();
 }
 
 std::vector<LigneIngredient> TexteIngredients::Lignes() const {
     std::vector<LigneIngredient> lignes = m_lignes;
-    if (m_aDecouper) {
-        RemplirLignes(QStringView(m_texte).left(m_legende), lignes);
-    }
+    RemplirLignes(QStringView(m_texte).left(m_aDecouper), lignes);
     return lignes;
 }
 

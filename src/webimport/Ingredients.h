@@ -6,7 +6,6 @@
 #include <QStringView>
 
 #include <array>
-#include <optional>
 #include <span>
 #include <vector>
 
@@ -79,25 +78,21 @@ void RemplirLignes(QStringView texte, std::vector<LigneIngredient> &lignes);
 class TexteIngredients {
 public:
     void Ajouter(QStringView texte);
-    /// Puts a text in the place of all that was collected, and shows it.
+    /// Puts a text in the place of all that was collected.
     void RemplacerPar(const QString &texte);
     /// Takes away the blanks around all that was collected.
     void Rogner();
-    /// Turns the tags into hyphens, shows the text and makes rows of it.
+    /// Turns the tags into hyphens, and makes rows of the text.
     void Fermer(std::span<const Remplacement> remplacements);
 
-    /// The text shown last, if any was.
-    std::optional<QString> Legende() const;
     std::vector<LigneIngredient> Lignes() const;
 
 private:
     QString m_texte;
     /// So much of the text has its tags replaced.
     qsizetype m_traite = 0;
-    /// So much of the text is shown; -1 none.
-    qsizetype m_legende = -1;
-    /// The shown text was closed, and its rows are not among m_lignes.
-    bool m_aDecouper = false;
+    /// So much of the text was closed, and its rows are not among m_lignes.
+    qsizetype m_aDecouper = 0;
     /// The rows of texts that were replaced.
     std::vector<LigneIngredient> m_lignes;
 };

@@ -51,7 +51,6 @@ struct ChampsPage {
     std::array<ChampPage, 6> Liste;
     std::array<ChampPage, 2> Saisie;
     QString NomPhoto;                    ///< address of the picture
-    std::optional<QString> Ingredients;  ///< not set: the label keeps what it shows
     std::vector<LigneIngredient> Lignes; ///< row n of Ingre, Qte and Qte2; with none, row 0 is empty
 };
 

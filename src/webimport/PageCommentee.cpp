@@ -92,7 +92,6 @@ public:
             lireMethode();
             lireAstuces();
         }
-        m_page.champs.Ingredients = m_page.ingredients.Legende();
         return m_page.Terminer();
     }
 

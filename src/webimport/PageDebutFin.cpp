@@ -92,7 +92,6 @@ public:
             lireMethode();
             lireAstuces();
         }
-        m_page.champs.Ingredients = m_page.ingredients.Legende().value_or(QString());
         if (m_methodeLue) {
             ChampPage &methode = m_page.champs.Saisie[SaisieMethode];
             methode.texte = m_page.etapes.Texte();

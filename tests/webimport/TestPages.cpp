@@ -14,8 +14,8 @@ using namespace webimport;
 
 namespace {
 
-QString fichier(const char *nom) {
-    QFile page(QStringLiteral(SAVOREL_PAGES "/") + QLatin1String(nom));
+QString fichier(const QByteArray &nom) {
+    QFile page(QStringLiteral(SAVOREL_PAGES "/") + QString::fromLatin1(nom));
     return page.open(QIODevice::ReadOnly) ? QString::fromUtf8(page.readAll()).replace(u"\n"_qs, u"\r\n"_qs)
                                           : QString();
 }
@@ -54,6 +54,19 @@ QString complements(const ChampsPage &champs) {
     return champs.Saisie[SaisieComplements].texte;
 }
 
+/// All fields, a line for each, and the rows.
+QString resume(const ChampsPage &champs) {
+    QStringList textes{champs.TitreRecette.texte, champs.calorie.texte, champs.NomPhoto, champs.DReal.texte};
+    for (const ChampPage &champ : champs.Liste) {
+        textes += champ.texte;
+    }
+    textes += lignes(champs);
+    for (const ChampPage &champ : champs.Saisie) {
+        textes += champ.texte;
+    }
+    return textes.join(u"\r\n"_qs) + u"\r\n"_qs;
+}
+
 constexpr qsizetype kGrande = 5 * 1024 * 1024;
 
 } // namespace
@@ -65,85 +78,34 @@ private Q_SLOTS:
 
     void initTestCase() { QLocale::setDefault(QLocale(QLocale::French, QLocale::France)); }
 
-    void commentedPage() {
-        const QString texte = fichier("commentee.html");
-        QVERIFY(EstPageDeRecette(texte) && !EstPageDebutFin(texte));
-        QStringList legendes;
-        const ChampsPage champs = ExtrairePageCommentee(
-            capture(texte), [&legendes](const QString &ligne) { legendes.append(ligne); });
-
-        QCOMPARE(champs.TitreRecette.texte, u"Gratin de poireaux"_qs);
-        QCOMPARE(champs.calorie.texte, u"au vieux comté"_qs);
-        QCOMPARE(champs.NomPhoto, u"http://www.margaux.example/photos/gratin-poireaux.jpg"_qs);
-        QCOMPARE(champs.DReal.texte, u"20 min,de repos"_qs);
-        QCOMPARE(champs.Liste[ListeCuisson].texte, u"35 min., au four"_qs);
-        QCOMPARE(champs.Liste[ListePersonnes].texte, u"4 personnes"_qs);
-        QCOMPARE(champs.Liste[ListeCout].texte, u"Moyen"_qs);
-        QCOMPARE(champs.Liste[ListeDifficulte].texte, u"Facile"_qs);
-        QCOMPARE(champs.Liste[ListeVin].texte, u"Un vin jaune\r\nou un savagnin"_qs);
-        QCOMPARE(type(champs), u"Plat"_qs);
-        // The last line of the list holds "UL" and is read for its end tag alone.
-        QCOMPARE(lignes(champs),
-                 (QStringList{u"6 ||poireaux"_qs, u"20 |cl. de |crème"_qs, u"150 |g de |vieux comté râpé"_qs,
-                              u"une pincée de ||muscade"_qs, u"||sel"_qs}));
-        QCOMPARE(methode(champs), u"- Lavez les poireaux,coupez-les en tronçons.\r\n\r\n"
-                                  "- Faites-les <B>fondre</B> au beurre.\r\n\r\n"
-                                  "- Couvrez de crème et de comté, puis enfournez."_qs);
-        QCOMPARE(complements(champs), u"Gardez un peu de vert :\r\nil donne sa couleur au gratin."_qs);
-
-        QCOMPARE(champs.Liste[ListeCout].infobulle, u"Moyen"_qs);
-        QVERIFY(!champs.TitreRecette.infobulle);
-        QCOMPARE(legendes.join(u"\r\n"_qs) + u"\r\n"_qs, texte);
+    void wholePages_data() {
+        QTest::addColumn<bool>("secondLayout");
+        QTest::newRow("commentee") << false;
+        QTest::newRow("debut-fin") << true;
     }
 
-    void pageByBeginningsAndEnds() {
-        const QString texte = fichier("debut-fin.html");
-        QVERIFY(EstPageDeRecette(texte) && EstPageDebutFin(texte));
-        const ChampsPage champs = debutFin(texte);
-
-        QCOMPARE(champs.TitreRecette.texte, u"Clafoutis aux quetsches"_qs);
-        QCOMPARE(champs.calorie.texte, u"une recette de septembre"_qs);
-        QCOMPARE(champs.NomPhoto, u"http://www.margaux.example/photos/clafoutis.gif"_qs);
-        QCOMPARE(champs.DReal.texte, u"15 min,environ"_qs);
-        QCOMPARE(champs.Liste[ListeCuisson].texte, u"40 min.,four moyen"_qs);
-        QCOMPARE(champs.Liste[ListePersonnes].texte, u"6 personnes"_qs);
-        QCOMPARE(champs.Liste[ListeCout].texte, u"Moyen"_qs);
-        QCOMPARE(champs.Liste[ListeDifficulte].texte, u"Difficile"_qs);
-        QCOMPARE(champs.Liste[ListeVin].texte, u"Cidre doux"_qs);
-        // No group in the address: the whole title cell.
-        QCOMPARE(type(champs), u"Clafoutis aux quetsches<BR> "
-                               "<FONT color=#ffcc00>une recette de septembre</FONT>"_qs);
-        QCOMPARE(lignes(champs), (QStringList{u"500 |gr. de |quetsches"_qs, u"3 ||oeufs"_qs,
-                                              u"2,5 |dl. de |lait(roux de préférence)"_qs, u"||sel"_qs}));
-        QCOMPARE(methode(champs), u"- <B>La pâte :</B>\r\nbattez les oeufs.\r\n\r\n- Versez le lait.\r\n\r\n"
-                                  "- Ajoutez les fruits.\r\n\r\n- Servez tiède."_qs);
-        QCOMPARE(complements(champs), u"Farinez les fruits :\r\nils restent en haut."_qs);
-    }
-
-    void dishTypeOfACommentedPage_data() {
-        QTest::addColumn<QString>("adresse");
-        QTest::addColumn<QString>("section");
-        QTest::addColumn<QString>("attendu");
-        QTest::newRow("section") << u"r.asp?id=1"_qs << u"type-2"_qs << u"Plat"_qs;
-        QTest::newRow("address first") << u"r.asp?id=1&groupid=9"_qs << u"type-2"_qs << u"Poissons"_qs;
-        QTest::newRow("leading zero, third digit") << u"r?&groupid=099"_qs << u"type-2"_qs << u"Poissons"_qs;
-        QTest::newRow("unknown group") << u"r?&groupid=99"_qs << u"type-03"_qs << u"Desserts"_qs;
-        QTest::newRow("unknown number") << u"r"_qs << u"type-07"_qs << u"type-07"_qs;
-        QTest::newRow("group that is no number") << u"r?&groupid=9&p=1"_qs << u"type-2"_qs << QString();
-        QTest::newRow("empty group") << u"r?&groupid="_qs << u"type-2"_qs << QString();
-        QTest::newRow("section that is no number") << u"r"_qs << u"type-2.gif"_qs << QString();
+    void wholePages() {
+        QFETCH(const bool, secondLayout);
+        const QByteArray nom = QTest::currentDataTag();
+        const QString texte = fichier(nom + ".html");
+        QVERIFY(EstPageDeRecette(texte));
+        QCOMPARE(EstPageDebutFin(texte), secondLayout);
+        QCOMPARE(resume(secondLayout ? debutFin(texte) : commentee(texte)), fichier(nom + ".txt"));
     }
 
     void dishTypeOfACommentedPage() {
-        QFETCH(const QString, adresse);
-        QFETCH(const QString, section);
-        QFETCH(const QString, attendu);
-        const QString texte = u"<HTML>\r\n<!-- TYPE DE PLAT -->" + section + u"<!-- FIN TYPE DE PLAT -->";
-        if (attendu.isEmpty()) {
-            QVERIFY_EXCEPTION_THROWN(commentee(texte, adresse), IncompatibiliteDeType);
-        } else {
-            QCOMPARE(type(commentee(texte, adresse)), attendu);
-        }
+        const auto lire = [](const QString &section, const QString &adresse) {
+            return type(commentee(u"<HTML>\r\n<!-- TYPE DE PLAT -->" + section + u"<!-- FIN TYPE DE PLAT -->",
+                                  adresse));
+        };
+        QCOMPARE(lire(u"type-2"_qs, u"r?id=1"_qs), u"Plat"_qs);
+        QCOMPARE(lire(u"type-2"_qs, u"r?id=1&groupid=9"_qs), u"Poissons"_qs); // the address first
+        QCOMPARE(lire(u"type-2"_qs, u"r?&groupid=099"_qs), u"Poissons"_qs);   // two digits of it
+        QCOMPARE(lire(u"type-03"_qs, u"r?&groupid=99"_qs), u"Desserts"_qs);
+        QCOMPARE(lire(u"type-07"_qs, u"r"_qs), u"type-07"_qs);
+        QVERIFY_EXCEPTION_THROWN(lire(u"type-2"_qs, u"r?&groupid=9&p=1"_qs), IncompatibiliteDeType);
+        QVERIFY_EXCEPTION_THROWN(lire(u"type-2"_qs, u"r?&groupid="_qs), IncompatibiliteDeType);
+        QVERIFY_EXCEPTION_THROWN(lire(u"type-2.gif"_qs, u"r"_qs), IncompatibiliteDeType);
     }
 
     void dishTypeOfTheSecondLayoutIsTheTitle() {
@@ -171,28 +133,21 @@ private Q_SLOTS:
         QVERIFY_EXCEPTION_THROWN(une(u"a</FONT><FONT color=#663300>de fête</FONT>"), ArgumentIncorrect);
     }
 
-    void picture_data() {
-        QTest::addColumn<QString>("section");
-        QTest::addColumn<QString>("attendu");
-        QTest::newRow("own host") << u"<IMG src=\"http://margaux.example/a.jpg\">"_qs
-                                  << u"http://margaux.example/a.jpg"_qs;
-        QTest::newRow("relative") << u"<IMG SRC=\"p/a.JPG\" width=2>"_qs
-                                  << u"http://www.margaux.example/p/a.JPG"_qs;
-        QTest::newRow("gif") << u"<IMG src=\"p/a.gif\">"_qs << u"http://www.margaux.example/p/a.gif"_qs;
-        QTest::newRow("other format")
-            << u"<IMG src=\"p/a.png\">"_qs << u"http://www.margaux.example/\"p/a.png\">"_qs;
-        QTest::newRow("no picture") << u"sans image"_qs << QString();
-    }
-
     void picture() {
-        QFETCH(const QString, section);
-        QFETCH(const QString, attendu);
-        QCOMPARE(commentee(u"<!-- IMAGES RECETTE -->" + section + u"<!-- FIN IMAGES RECETTE -->").NomPhoto,
-                 attendu);
-        QCOMPARE(
-            debutFin(u"<!--DEBUT IMAGE DE LA RECETTE -->" + section + u"<!-- FIN IMAGE DE LA RECETTE -->")
-                .NomPhoto,
-            attendu);
+        const auto lire = [](const QString &section) {
+            const QString photo =
+                commentee(u"<!-- IMAGES RECETTE -->" + section + u"<!-- FIN IMAGES RECETTE -->").NomPhoto;
+            const QString autre =
+                debutFin(u"<!--DEBUT IMAGE DE LA RECETTE -->" + section + u"<!-- FIN IMAGE DE LA RECETTE -->")
+                    .NomPhoto;
+            return photo == autre ? photo : u"the layouts differ"_qs;
+        };
+        const QString site = u"http://www.margaux.example/"_qs;
+        QCOMPARE(lire(u"<IMG src=\"http://margaux.example/a.jpg\">"_qs), u"http://margaux.example/a.jpg"_qs);
+        QCOMPARE(lire(u"<IMG SRC=\"p/a.JPG\" width=2>"_qs), site + u"p/a.JPG");
+        QCOMPARE(lire(u"<IMG src=\"p/a.gif\">"_qs), site + u"p/a.gif");
+        QCOMPARE(lire(u"<IMG src=\"p/a.png\">"_qs), site + u"\"p/a.png\">");
+        QCOMPARE(lire(u"sans image"_qs), QString());
     }
 
     void levels() {
@@ -217,41 +172,34 @@ private Q_SLOTS:
                  u"prix-05"_qs);
     }
 
-    void ingredientLines_data() {
-        QTest::addColumn<bool>("commentee");
-        QTest::addColumn<QString>("texte");
-        QTest::addColumn<QStringList>("attendu");
-        QTest::newRow("closing line collected whole and once more")
-            << true << u"<!-- debut ingredient -->\r\n<LI>2 pommes</LI><!-- fin ingredient -->"_qs
-            << QStringList{u"2 ||pommes</LI><!"_qs, u"||"_qs, u"||fin ingredient"_qs, u"||"_qs, u"||>"_qs,
-                           u"2 ||pommes"_qs};
-        QTest::newRow("blank before a line end stays")
-            << true
-            << u"<!-- debut ingredient -->\r\n <DT>sel \r\n<DT>DL\r\n<DT>poivre</DT></DL><!-- fin ingredient -->"_qs
-            << QStringList{u"||sel "_qs, u"||poivre"_qs};
-        QTest::newRow("never closed")
-            << true << u"<!-- debut ingredient -->\r\n<LI>2 pommes"_qs << QStringList{};
-        QTest::newRow("on the persons' line") << false
-                                              << u"<!-- DEBUT NOMBRE DE PERSONNE -->4<!-- FIN NOMBRE "
-                                                 u"PERSONNE --><!-- DEBUT INGREDIENTS  -->- 2 pommes, "
-                                                 "rouges<BR>sel<!-- FIN INGREDIENTS -->"_qs
-                                              << QStringList{u"2 ||pommes  rouges"_qs, u"||sel"_qs};
-        QTest::newRow("hyphen of the first not doubled")
-            << false
-            << u"<!-- DEBUT INGREDIENTS  --> - sel\r\n- poivre\r\nnoir\r\n<TD><!-- FIN INGREDIENTS -->"_qs
-            << QStringList{u"||sel"_qs, u"||poivre noir"_qs};
-        QTest::newRow("closed twice") << false
-                                      << u"<!-- DEBUT INGREDIENTS  -->sel\r\n<TD><!-- FIN INGREDIENT "
-                                         u"-->\r\n<TD><!-- FIN INGREDIENTS -->\r\n"
-                                         "<!-- DEBUT INGREDIENTS  -->ail\r\n<TD><!-- FIN INGREDIENT -->"_qs
-                                      << QStringList{u"||sel"_qs, u"||ail"_qs};
+    void ingredientsOfACommentedPage() {
+        const auto lire = [](const QString &liste) {
+            return lignes(commentee(u"<!-- debut ingredient -->\r\n" + liste)).join(u'/');
+        };
+        // The closing line is collected whole, and what stands before its end tag once more.
+        QCOMPARE(lire(u"<LI>2 pommes</LI><!-- fin ingredient -->"_qs),
+                 u"2 ||pommes</LI><!/||/||fin ingredient/||/||>/2 ||pommes"_qs);
+        // The blank before a line end stays, and "DL" drops its line wherever it stands.
+        QCOMPARE(lire(u" <DT>sel \r\n<DT>DL\r\n<DT>poivre</DT></DL><!-- fin ingredient -->"_qs),
+                 u"||sel /||poivre"_qs);
+        QCOMPARE(lire(u"<LI>2 pommes"_qs), QString());
     }
 
-    void ingredientLines() {
-        QFETCH(const bool, commentee);
-        QFETCH(const QString, texte);
-        QFETCH(const QStringList, attendu);
-        QCOMPARE(lignes(commentee ? ::commentee(texte) : debutFin(texte)), attendu);
+    void ingredientsOfTheSecondLayout() {
+        const auto lire = [](const QString &liste) {
+            return lignes(debutFin(u"<!-- DEBUT INGREDIENTS  -->" + liste)).join(u'/');
+        };
+        QCOMPARE(lire(u" - sel\r\n- poivre\r\nnoir\r\n<TD><!-- FIN INGREDIENTS -->"_qs),
+                 u"||sel/||poivre noir"_qs);
+        // Closed twice, and opened once more.
+        QCOMPARE(lire(u"sel\r\n<TD><!-- FIN INGREDIENT -->\r\n<TD><!-- FIN INGREDIENTS -->\r\n"
+                      "<!-- DEBUT INGREDIENTS  -->ail\r\n<TD><!-- FIN INGREDIENT -->"_qs),
+                 u"||sel/||ail"_qs);
+        const QString personnes = u"<!-- DEBUT NOMBRE DE PERSONNE -->4<!-- FIN NOMBRE PERSONNE -->"_qs;
+        QCOMPARE(lignes(debutFin(personnes + u"<!-- DEBUT INGREDIENTS  -->- 2 pommes, rouges<BR>sel"
+                                             "<!-- FIN INGREDIENTS -->"))
+                     .join(u'/'),
+                 u"2 ||pommes  rouges/||sel"_qs);
     }
 
     void methodWithoutPictures() {

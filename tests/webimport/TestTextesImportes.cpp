@@ -6,7 +6,6 @@
 #include "webimport/Marquage.h"
 #include "webimport/Nombres.h"
 #include "webimport/Positions.h"
-#include "webimport/PreparationSauvegarde.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -44,35 +43,22 @@ private Q_SLOTS:
 
     void init() { QLocale::setDefault(QLocale(QLocale::French, QLocale::France)); }
 
-    void sections_data() {
-        QTest::addColumn<QString>("ligne");
-        QTest::addColumn<QString>("debut");
-        QTest::addColumn<QString>("fin");
-        QTest::addColumn<QString>("attendu");
-        QTest::newRow("case of letters with accents")
-            << u"<!-- PRÉP --> 2 h <!-- Fin Prép -->x"_qs << u"<!-- Prép -->"_qs << u"<!-- FIN PRÉP -->"_qs
-            << u"2 h"_qs;
-        QTest::newRow("letter that grows in upper case")
-            << u"Straße <B> miel</b>"_qs << u"<b>"_qs << u"</B>"_qs << u"miel"_qs;
-        QTest::newRow("table cell") << u"<B>miel</td></TR>"_qs << u"<B>"_qs << u"</B>"_qs << u"miel"_qs;
-        QTest::newRow("end of the line") << u"<B>miel \t "_qs << u"<B>"_qs << u"</B>"_qs << u"miel \t"_qs;
-        QTest::newRow("same marker twice") << u"<B>miel<B>sel"_qs << u"<B>"_qs << u"<B>"_qs << u"miel"_qs;
-        QTest::newRow("empty opening marker") << u" miel</B>sel"_qs << QString() << u"</B>"_qs << u"miel"_qs;
-        QTest::newRow("end at the first character is missed")
-            << u"</B>sel"_qs << QString() << u"</B>"_qs << u"</B>sel"_qs;
-        QTest::newRow("no opening marker") << u"miel</B>"_qs << u"<B>"_qs << u"</B>"_qs << QString();
-    }
-
     void sections() {
-        QFETCH(const QString, ligne);
-        QFETCH(const QString, debut);
-        QFETCH(const QString, fin);
-        QString champ;
-        LireSection(ligne, debut, fin, champ);
-        QTEST(champ, "attendu");
-        champ = u"plein"_qs;
-        LireSection(ligne, debut, fin, champ);
-        QCOMPARE(champ, u"plein"_qs);
+        const auto lire = [](QStringView ligne, QStringView debut, QStringView fin, QString champ = {}) {
+            LireSection(ligne, debut, fin, champ);
+            return champ;
+        };
+        QCOMPARE(lire(u"<!-- PRÉP --> 2 h <!-- Fin Prép -->x", u"<!-- Prép -->", u"<!-- FIN PRÉP -->"),
+                 u"2 h"_qs);
+        QCOMPARE(lire(u"Straße <B> miel</b>", u"<b>", u"</B>"),
+                 u"miel"_qs); // a letter that grows in upper case
+        QCOMPARE(lire(u"<B>miel</td></TR>", u"<B>", u"</B>"), u"miel"_qs);
+        QCOMPARE(lire(u"<B>miel \t ", u"<B>", u"</B>"), u"miel \t"_qs);
+        QCOMPARE(lire(u"<B>miel<B>sel", u"<B>", u"<B>"), u"miel"_qs);
+        QCOMPARE(lire(u" miel</B>sel", u"", u"</B>"), u"miel"_qs);
+        QCOMPARE(lire(u"</B>sel", u"", u"</B>"), u"</B>sel"_qs); // an end at the first character is missed
+        QCOMPARE(lire(u"miel</B>", u"<B>", u"</B>"), QString());
+        QCOMPARE(lire(u"<B>miel</B>", u"<B>", u"</B>", u"plein"_qs), u"plein"_qs);
     }
 
     void linesOfAPage() {
@@ -137,31 +123,16 @@ private Q_SLOTS:
         QVERIFY(EstNumerique(u"1,234.5", QLocale(QLocale::English)));
     }
 
-    void marks_data() {
-        QTest::addColumn<QString>("texte");
-        QTest::addColumn<QString>("attendu");
-        QTest::newRow("last character stays plain")
-            << u"a <B>titre</B> b"_qs << u"[a ]*#0000ff[titr][e b]/"_qs;
-        QTest::newRow("several, over lines") << u"<B>un</B>\r\n<B>deux\r\ntrois</B>"_qs
-                                             << u"*#0000ff[u][n]/*#0000ff[deux]/*#0000ff[troi][s]/"_qs;
-        QTest::newRow("not closed") << u"<B>un</B> <B>deux"_qs << u"*#0000ff[u][n deux]/"_qs;
-        QTest::newRow("closing tag alone") << u"un</B>"_qs << u"[un</B>]/"_qs;
-        QTest::newRow("closed before opened") << u"</B>un<B>"_qs << u"[un]/"_qs;
-        QTest::newRow("small letters") << u"<b>un</b>"_qs << u"[<b>un</b>]/"_qs;
-        // The opening tag is bold but for its bracket, and so is no text of its own.
-        QTest::newRow("nothing between") << u"<B></B>"_qs << u"*#0000ff[<B][>]/"_qs;
-    }
-
     void marks() {
-        QFETCH(const QString, texte);
-        QTEST(marque(texte), "attendu");
-    }
-
-    void manyMarks() {
-        QTextDocument document;
-        document.setPlainText(u"<B>mot</B> "_qs.repeated(10'000));
-        MarquerTexte(document, CouleursMethode);
-        QCOMPARE(document.toPlainText().size(), 40'000);
+        QCOMPARE(marque(u"a <B>titre</B> b"_qs), u"[a ]*#0000ff[titr][e b]/"_qs);
+        QCOMPARE(marque(u"<B>un</B>\r\n<B>deux\r\ntrois</B>"_qs),
+                 u"*#0000ff[u][n]/*#0000ff[deux]/*#0000ff[troi][s]/"_qs);
+        QCOMPARE(marque(u"<B>un</B> <B>deux"_qs), u"*#0000ff[u][n deux]/"_qs);
+        QCOMPARE(marque(u"un</B>"_qs), u"[un</B>]/"_qs);
+        QCOMPARE(marque(u"</B>un<B>"_qs), u"[un]/"_qs);
+        QCOMPARE(marque(u"<b>un</b>"_qs), u"[<b>un</b>]/"_qs);
+        // The opening tag is bold but for its bracket, and so is no text of its own.
+        QCOMPARE(marque(u"<B></B>"_qs), u"*#0000ff[<B][>]/"_qs);
     }
 
     void temporaryFile() {
@@ -176,11 +147,6 @@ private Q_SLOTS:
         QCOMPARE(LireTexte(chemin).sliced(4), u"pageenne page"_qs);
         QVERIFY_EXCEPTION_THROWN(LireTexte(dossier.filePath(u"absent"_qs)), ErreurExecution);
         QVERIFY_EXCEPTION_THROWN(EcrireTexte(dossier.path(), QString()), ErreurExecution);
-    }
-
-    void textsToStore() {
-        QCOMPARE(TitreAStocker(u"Pommes/poires \\ coings"_qs), u"Pommes poires   coings"_qs);
-        QCOMPARE(VinAStocker(u"Vin d'Alsace"_qs), u"Vin dAlsace"_qs);
     }
 };
 

@@ -1,19 +1,24 @@
 // captures PROGRAM-FOLDER PICTURES: saves pictures of the windows, for the documents: the eight sort
 // views as vue-0.png to vue-7.png, three recipes as recette-1.png to recette-3.png, and the tool windows. It works
-// on a copy of the folder and with settings of its own.
+// on a copy of the folder, to which it adds the browser of the import, and with settings of its own.
 #include "browser/Frmmain.h"
 #include "browser/Vues.h"
 #include "platform/desktop/SingleInstance.h"
+#include "platform/webview/Engine.h"
 #include "shell/Demarrage.h"
 #include "shell/Fenetres.h"
 #include "store/Programme.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QScrollBar>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QUrl>
+
 #include <array>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -115,10 +120,42 @@ void captureTools(shell::Fenetres &fenetres, const QString &pictures) {
     }
 }
 
+/// Lets the program run until something holds, and a moment longer, in which the browser paints.
+template <class Condition>
+void waitFor(Condition holds) {
+    constexpr std::chrono::seconds kPatience{30};
+    constexpr std::chrono::milliseconds kMoment{1500};
+    QElapsedTimer elapsed;
+    for (elapsed.start(); !holds(); QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100)) {
+        if (elapsed.hasExpired(std::chrono::milliseconds(kPatience).count())) {
+            throw std::runtime_error("The page of the import does not come.");
+        }
+    }
+    for (elapsed.start(); !elapsed.hasExpired(kMoment.count());) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 100);
+    }
+}
+
+/// The import on a page of the demonstration site, and with the recipe that it has read there.
+void captureImport(shell::Fenetres &fenetres, const QString &pictures) {
+    webimport::facile::Facile &facile = fenetres.Import();
+    facile.show();
+    facile.Navigateur->navigate(
+        QUrl::fromLocalFile(store::DossierProgramme() + QStringLiteral("/facile/langoustines.htm")));
+    waitFor([&facile] { return facile.Analyse.isVisible(); });
+    save(facile, pictures + QStringLiteral("/import-page.png"));
+    facile.Analyse.SetValue(true);
+    // Without the folder of this run, in which nobody will find anything.
+    facile.NomPhoto.SetText(facile.NomPhoto.Text().section(u'/', -3));
+    save(facile, pictures + QStringLiteral("/import-recette.png"));
+    facile.hide();
+}
+
 void capture(const QTemporaryDir &scratch, const QString &programFolder, const QString &pictures) {
     const QString folder = scratch.filePath(QStringLiteral("programme"));
     std::filesystem::copy(programFolder.toStdString(), folder.toStdString(),
                           std::filesystem::copy_options::recursive);
+    std::filesystem::copy(SAVOREL_MOTEUR, folder.toStdString());
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, scratch.path());
     store::DefinirDossierProgramme(folder);
     shell::PreparerApplication();
@@ -130,6 +167,7 @@ void capture(const QTemporaryDir &scratch, const QString &programFolder, const Q
     captureViews(frm, pictures);
     captureRecipes(frm, pictures);
     captureTools(fenetres, pictures);
+    captureImport(fenetres, pictures);
 }
 
 } // namespace

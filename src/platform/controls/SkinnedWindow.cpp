@@ -97,8 +97,9 @@ void SkinnedWindow::paintEvent(QPaintEvent * /*event*/) {
     }
     painter.setPen(colours.title);
     painter.setFont(interfaceFont(Face::Verdana, 13, true));
+    // What the window is; its title on the task bar may tell what it is doing.
     painter.drawText(band.adjusted(kTitleLeft.pixels(), 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft,
-                     windowTitle());
+                     accessibleName());
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(colours.edge, 2));
     painter.drawRoundedRect(whole.adjusted(1, 1, -1, -1), kCorner.pixels(), kCorner.pixels());

@@ -25,6 +25,8 @@ struct Events {
 /// and opens what asks for a window of its own in itself.
 class View {
 public:
+    using Result = std::function<void(const std::optional<QString> &)>;
+
     View() = default;
     View(const View &) = delete;
     View &operator=(const View &) = delete;
@@ -36,16 +38,14 @@ public:
     virtual void navigate(const QUrl &address) = 0;
     virtual void back() = 0;
     virtual void forward() = 0;
-    virtual void stop() = 0;
 
     /// The address of the page shown.
     virtual QUrl address() const = 0;
-    virtual QString title() const = 0;
 
     /// Runs a script beside those of the page, which can neither see nor change it.
-    /// @param result gets the script's text, later; nothing when it gave none
-    virtual void runScript(const QString &source,
-                           std::function<void(const std::optional<QString> &)> result) = 0;
+    /// @param result gets the script's text, later; nothing when it gave none or the page has died. Never called where
+    /// the page keeps itself busy for ever
+    virtual void runScript(const QString &source, Result result) = 0;
 };
 
 /// The part of the program that goes to the web. It lies in a library of its own, which is loaded when it is first

@@ -6,6 +6,7 @@
 #include "SansSaisie.h"
 
 #include "platform/controls/WaitPointer.h"
+#include "platform/dialogs/MessageBox.h"
 #include "platform/webview/Engine.h"
 #include "store/Configuration.h"
 #include "store/Programme.h"
@@ -98,41 +99,52 @@ void Montrer(Facile &fenetre, const ChampsPage &champs) {
 }
 
 /// The page as it comes back from the temporary file, in whose characters the site is written.
-PageCapturee PasserParLeFichier(Facile &fenetre) {
-    EcrireTexte(CheminTemporaire(), LirePage(*fenetre.Navigateur));
+PageCapturee PasserParLeFichier(const Facile &fenetre, const QString &texte) {
+    EcrireTexte(CheminTemporaire(), texte);
     return {.texte = LireTexte(CheminTemporaire()),
             .adresse = fenetre.Navigateur->address().toString(QUrl::FullyEncoded),
             .site = {.accueil = store::AdresseComplete(store::PartnerSiteHome),
                      .hote = store::PartnerSiteHost.toString()}};
 }
 
-ChampsPage Extraire(Facile &fenetre, const PageCapturee &page) {
-    if (EstPageDebutFin(page.texte)) {
+ChampsPage Extraire(Facile &fenetre, const QString &texte) {
+    const PageCapturee page = PasserParLeFichier(fenetre, texte);
+    fenetre.Pb.SetFloodPercent(55);
+    if (EstPageDebutFin(texte)) {
         return ExtrairePageDebutFin(page, fenetre.Memoire);
     }
     return ExtrairePageCommentee(
         page, [&fenetre](const QString &ligne) { fenetre.setWindowTitle(ligne.left(kTitreLePlusLong)); });
 }
 
-void CapturerPage(Facile &fenetre) {
+void CapturerPage(Facile &fenetre, const QString &texte) {
     ViderChamps(fenetre);
     for (const double part : {5.0, 50.0}) {
         fenetre.Pb.SetFloodPercent(part);
     }
-    const PageCapturee page = PasserParLeFichier(fenetre);
-    fenetre.Pb.SetFloodPercent(55);
-    Montrer(fenetre, Extraire(fenetre, page));
+    Montrer(fenetre, Extraire(fenetre, texte));
     ChargerPhoto(fenetre);
     fenetre.Pb.SetFloodPercent(100);
     fenetre.Pb.hide();
     fenetre.setWindowTitle(QStringLiteral("terminé ..."));
 }
 
-void AnalyserPage(Facile &fenetre) {
+void AnalyserPage(Facile &fenetre, const QString &texte) {
     fenetre.MontrerPhoto({});
     fenetre.TitreRecette.SetText({});
     fenetre.NomPhoto.SetText({});
-    CapturerPage(fenetre);
+    CapturerPage(fenetre, texte);
+}
+
+/// Without the user. False when the page does not let itself be read, which changes nothing.
+bool ReprendrePage(Facile &fenetre) {
+    const SansSaisie sansSaisie;
+    const WaitPointer sablier;
+    const std::optional<QString> texte = LirePage(*fenetre.Navigateur);
+    if (texte) {
+        AnalyserPage(fenetre, *texte);
+    }
+    return texte.has_value();
 }
 
 } // namespace
@@ -149,11 +161,16 @@ void ViderChamps(Facile &fenetre) {
 }
 
 void PresserAnalyse(Facile &fenetre) {
-    const SansSaisie sansSaisie;
-    const WaitPointer sablier;
     fenetre.MontrerNavigation(false);
-    AnalyserPage(fenetre);
+    const bool lue = ReprendrePage(fenetre);
     fenetre.Analyse.SetValue(false);
+    if (!lue) {
+        fenetre.MontrerNavigation(true);
+        platform::dialogs::Message(&fenetre, store::TitreProgramme.toString(),
+                                   QStringLiteral("La page affichée ne répond pas."),
+                                   platform::dialogs::Icon::Exclamation);
+        return;
+    }
     fenetre.MontrerFiche();
     fenetre.MontrerAnalyse(false);
     QFile::remove(CheminPhotoRecue());

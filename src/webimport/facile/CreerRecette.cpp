@@ -8,7 +8,6 @@
 #include "store/CreationRecette.h"
 #include "store/Programme.h"
 #include "store/Textes.h"
-#include "webimport/PreparationSauvegarde.h"
 
 namespace webimport::facile {
 
@@ -29,6 +28,11 @@ bool EstRempli(Facile &fenetre, TextBox &champ, const QString &reproche) {
     Annoncer(fenetre, reproche, dialogs::Icon::Exclamation);
     champ.setFocus();
     return false;
+}
+
+/// The title also names the picture's file, to which these characters would mean folders.
+QString SansBarres(QString titre) {
+    return titre.replace(u'/', u' ').replace(u'\\', u' ');
 }
 
 store::RecetteSaisie LireChamps(Facile &fenetre) {
@@ -65,7 +69,7 @@ void CreerRecette(Facile &fenetre) {
     }
     const WaitPointer sablier;
     fenetre.RecetteCreee = true;
-    fenetre.TitreRecette.SetText(TitreAStocker(fenetre.TitreRecette.Text()));
+    fenetre.TitreRecette.SetText(SansBarres(fenetre.TitreRecette.Text()));
     store::RecetteSaisie saisie = LireChamps(fenetre);
     const store::TextesNouveaux nouveaux = store::EnregistrerRecette(
         saisie, store::kImport, [&fenetre](const QString &nom) { EnregistrerPhoto(fenetre, nom); });

@@ -220,26 +220,27 @@ void Facile::PeindreFiche() {
 }
 
 void Facile::OuvrirNavigateur() {
-    Navigateur = Moteur.makeView(*this, store::DossierProgramme(),
-                                 {.began =
-                                      [this] {
-                                          ++m_page;
-                                          MontrerAnalyse(false);
-                                          DireStatut(QStringLiteral("Chargement de la page ..."));
-                                      },
-                                  .complete =
-                                      [this] {
-                                          DireStatut(QStringLiteral("Terminé"));
-                                          ReconnaitrePage();
-                                      },
-                                  .history =
-                                      [this](bool precedente, bool suivante) {
-                                          Navi(0).setEnabled(precedente);
-                                          LBtn(0).setEnabled(precedente);
-                                          Navi(1).setEnabled(suivante);
-                                          LBtn(1).setEnabled(suivante);
-                                      },
-                                  .hovered = [this](const QString &adresse) { DireStatut(adresse); }});
+    Navigateur = Moteur.makeView(
+        *this, store::DossierProgramme(),
+        {.began =
+             [this] {
+                 ++m_page;
+                 MontrerAnalyse(false);
+                 DireEtat(QStringLiteral("Chargement de la page ..."));
+             },
+         .complete =
+             [this] {
+                 DireEtat(QStringLiteral("Terminé"));
+                 ReconnaitrePage();
+             },
+         .history =
+             [this](bool precedente, bool suivante) {
+                 Navi(0).setEnabled(precedente);
+                 LBtn(0).setEnabled(precedente);
+                 Navi(1).setEnabled(suivante);
+                 LBtn(1).setEnabled(suivante);
+             },
+         .hovered = [this](const QString &adresse) { DireStatut(adresse.isEmpty() ? m_etat : adresse); }});
     QWidget &page = Navigateur->widget();
     applyRow(page, rowNamed(kControles, "WebBrowser1"));
     page.setGeometry(rowNamed(kControles, "WebBrowser1").place().pixels());
@@ -279,6 +280,11 @@ void Facile::ReconnaitrePage() {
                                   MontrerAnalyse(!texte || EstPageDeRecette(*texte));
                               }
                           });
+}
+
+void Facile::DireEtat(const QString &etat) {
+    m_etat = etat;
+    DireStatut(etat);
 }
 
 void Facile::DireStatut(const QString &texte) {

@@ -109,10 +109,12 @@ private:
     void OuvrirNavigateur();
     void Brancher();
     void ReconnaitrePage();
+    void DireEtat(const QString &etat);
     void DireStatut(const QString &texte);
     void PresserRevenir();
     void Quitter();
 
+    QString m_etat; ///< of the page, which the link under the pointer hides meanwhile
     int m_page = 0; ///< counts the pages, so that a late answer is not taken for the next one's
 
 public:

@@ -1,7 +1,6 @@
 #include "LirePage.h"
 
 #include "platform/webview/Engine.h"
-#include "webimport/ErreurExecution.h"
 #include "webimport/PageAncienne.h"
 
 #include <QEventLoop>
@@ -25,7 +24,7 @@ struct Lecture {
 
 } // namespace
 
-QString LirePage(platform::webview::View &navigateur) {
+std::optional<QString> LirePage(platform::webview::View &navigateur) {
     const auto lecture = std::make_shared<Lecture>();
     navigateur.runScript(ScriptPageAncienne() + QStringLiteral("(document.documentElement)"),
                          [lecture](const std::optional<QString> &texte) {
@@ -37,10 +36,7 @@ QString LirePage(platform::webview::View &navigateur) {
         QTimer::singleShot(kPatience, &lecture->attente, &QEventLoop::quit);
         lecture->attente.exec();
     }
-    if (!lecture->texte) {
-        throw ErreurExecution("La page affichée ne peut pas être lue.");
-    }
-    return *lecture->texte;
+    return lecture->texte;
 }
 
 } // namespace webimport::facile

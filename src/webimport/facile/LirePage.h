@@ -2,14 +2,16 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace platform::webview {
 class View;
 }
 
 namespace webimport::facile {
 
-/// The page shown, in its legacy form. Other events of the program run meanwhile.
-/// @throws ErreurExecution when the browser does not give it
-QString LirePage(platform::webview::View &navigateur);
+/// The page shown, in its legacy form; nothing when it does not answer within 30 seconds, or dies. Other events of the
+/// program run meanwhile.
+std::optional<QString> LirePage(platform::webview::View &navigateur);
 
 } // namespace webimport::facile

@@ -17,20 +17,15 @@ namespace {
 /// The pages of a browser that has none: each is the text that its script gives.
 class VueEssai : public View {
 public:
-    VueEssai(QWidget &parent, Events evenements)
-        : m_controle(std::make_unique<QWidget>(&parent)), m_evenements(std::move(evenements)) {}
+    VueEssai(QWidget &parent, Events evenements_)
+        : evenements(std::move(evenements_)), m_controle(std::make_unique<QWidget>(&parent)) {}
 
     /// Another page comes; its text stands when the browser is asked.
-    void charger(const std::optional<QString> &texte, const QString &adresse = u"http://site.example/r"_qs) {
-        m_evenements.began();
+    void charger(const std::optional<QString> &texte) {
+        evenements.began();
         m_texte = texte;
-        m_adresse = QUrl(adresse);
-        m_evenements.complete();
+        evenements.complete();
     }
-
-    void annoncer() { m_evenements.began(); }
-
-    void historique(bool precedente, bool suivante) { m_evenements.history(precedente, suivante); }
 
     QWidget &widget() override { return *m_controle; }
 
@@ -40,30 +35,24 @@ public:
 
     void forward() override { visites += u">"_qs; }
 
-    void stop() override {}
+    QUrl address() const override { return QUrl(u"http://site.example/r"_qs); }
 
-    QUrl address() const override { return m_adresse; }
-
-    QString title() const override { return {}; }
-
-    void runScript(const QString & /*source*/,
-                   std::function<void(const std::optional<QString> &)> resultat) override {
+    void runScript(const QString & /*source*/, Result resultat) override {
         if (retenir) {
-            enAttente.push_back([resultat, texte = m_texte] { resultat(texte); });
+            retenue = resultat;
         } else {
             resultat(m_texte);
         }
     }
 
+    Events evenements;
     QStringList visites;
-    bool retenir = false; ///< answers wait until they are called
-    std::vector<std::function<void()>> enAttente;
+    bool retenir = false; ///< the answer waits until it is called
+    Result retenue;
 
 private:
     std::unique_ptr<QWidget> m_controle;
-    Events m_evenements;
     std::optional<QString> m_texte;
-    QUrl m_adresse;
 };
 
 class MoteurEssai : public Engine {
@@ -76,15 +65,13 @@ public:
         return nouvelle;
     }
 
-    std::optional<QByteArray> openUrl(const QUrl &adresse, const QString & /*dossier*/) override {
-        demandes += adresse.toString();
+    std::optional<QByteArray> openUrl(const QUrl & /*adresse*/, const QString & /*dossier*/) override {
         pendant();
         return reponse;
     }
 
     VueEssai *vue = nullptr;
     std::optional<QByteArray> reponse;
-    QStringList demandes;
     std::function<void()> pendant = [] {};
 };
 
@@ -97,33 +84,21 @@ QByteArray photo(int largeur) {
     return octets;
 }
 
-/// A page of the commented layout; a section that is empty is left out.
+/// A page of the commented layout.
 struct PageEssai {
     QString titre = u"Tarte"_qs, cuisson = u"30 min"_qs, vin = {}, photo = {};
-    QStringList ingredients = {u"250 g de farine"_qs, u"3 oeufs"_qs, u"sel"_qs};
+    QString ingredients = u"250 g de farine\r\n <LI>3 oeufs\r\n <LI>sel"_qs;
     QString preparation = u"1 h"_qs;
 
     QString texte() const {
-        QString lignes = section(u"TITRE RECETTE"_qs, titre, u"</TD>"_qs);
-        if (!photo.isEmpty()) {
-            lignes += section(u"IMAGES RECETTE"_qs, u"<IMG src=\"%1\">"_qs.arg(photo),
-                              u"<!-- FIN IMAGES RECETTE -->"_qs);
-        }
-        if (!preparation.isEmpty()) {
-            lignes += section(u"Préparation"_qs, preparation, u"<!-- fin durée préparation -->"_qs);
-        }
-        if (!cuisson.isEmpty()) {
-            lignes += u"<!--Cuisson -->"_qs + cuisson + u"<!-- fin Cuisson -->\r\n"_qs;
-        }
-        lignes += section(u"CONSEIL VIN"_qs, vin, u"<!-- FIN CONSEIL VIN -->"_qs);
-        lignes += u"<!-- debut ingredient -->\r\n<UL>\r\n<LI>"_qs + ingredients.join(u"\r\n <LI>"_qs) +
-                  u"</LI></UL><!-- fin ingredient -->\r\n"_qs;
-        return lignes + u"<IMG src=\"puce.gif\">Cuire <B>bien</B> fort.<BR><!-- FIN RECETTE -->\r\n"_qs;
-    }
-
-private:
-    static QString section(const QString &nom, const QString &contenu, const QString &fin) {
-        return u"<!-- "_qs + nom + u" -->"_qs + contenu + fin + u"\r\n"_qs;
+        return u"<!-- TITRE RECETTE -->"_qs + titre + u"</TD>\r\n<!-- IMAGES RECETTE -->" +
+               (photo.isEmpty() ? QString() : u"<IMG src=\"%1\">"_qs.arg(photo)) +
+               u"<!-- FIN IMAGES RECETTE -->\r\n<!-- Préparation -->" + preparation +
+               u"<!-- fin durée préparation -->\r\n<!--Cuisson -->" + cuisson +
+               u"<!-- fin Cuisson -->\r\n<!-- CONSEIL VIN -->" + vin +
+               u"<!-- FIN CONSEIL VIN -->\r\n<!-- debut ingredient -->\r\n<UL>\r\n<LI>" + ingredients +
+               u"</LI></UL><!-- fin ingredient -->\r\n<IMG src=\"puce.gif\">Cuire <B>bien</B> fort.<BR>"
+               "<!-- FIN RECETTE -->\r\n";
     }
 };
 
@@ -182,23 +157,25 @@ private Q_SLOTS:
         QVERIFY(!m_fenetre->Analyse.isVisible());
         m_moteur.vue->charger(PageEssai().texte());
         QVERIFY(m_fenetre->Analyse.isVisible());
-        m_moteur.vue->annoncer();
+        m_moteur.vue->evenements.began();
         QVERIFY(!m_fenetre->Analyse.isVisible());
         m_moteur.vue->charger(std::nullopt);
         QVERIFY(m_fenetre->Analyse.isVisible());
-        m_moteur.vue->historique(true, false);
+        // A late answer of the page before counts no more.
+        m_moteur.vue->retenir = true;
+        m_moteur.vue->charger(PageEssai().texte());
+        m_moteur.vue->evenements.began();
+        m_moteur.vue->retenue(PageEssai().texte());
+        QVERIFY(!m_fenetre->Analyse.isVisible());
+    }
+
+    void historyFollowsTheBrowser() {
+        m_moteur.vue->evenements.history(true, false);
         QVERIFY(m_fenetre->Navi(0).isEnabled() && !m_fenetre->Navi(1).isEnabled());
+        m_moteur.vue->charger(PageEssai().texte());
         m_fenetre->Navi(0).SetValue(true);
         QVERIFY(!m_fenetre->Analyse.isVisible() && !m_fenetre->Navi(0).Value());
         QCOMPARE(m_moteur.vue->visites.last(), u"<"_qs);
-    }
-
-    void lateAnswerOfTheLastPageCountsNoMore() {
-        m_moteur.vue->retenir = true;
-        m_moteur.vue->charger(PageEssai().texte());
-        m_moteur.vue->annoncer();
-        m_moteur.vue->enAttente.front()();
-        QVERIFY(!m_fenetre->Analyse.isVisible());
     }
 
     void pageBecomesARecipe() {
@@ -243,6 +220,19 @@ private Q_SLOTS:
         QCOMPARE(recettes(), 1);
     }
 
+    void pageThatDoesNotAnswerChangesNothing() {
+        lire({});
+        m_fenetre->MontrerNavigateur();
+        m_moteur.vue->charger(std::nullopt);
+        Reponse reponse(u"OK"_qs);
+        m_fenetre->Analyse.SetValue(true);
+        QCOMPARE(reponse.question(), u"La page affichée ne répond pas."_qs);
+        QVERIFY(!m_fenetre->Fond.isVisible() && m_fenetre->Analyse.isVisible() &&
+                m_fenetre->GotO1.isVisible());
+        QVERIFY(!m_fenetre->Analyse.Value());
+        QCOMPARE(m_fenetre->TitreRecette.Text(), u"Tarte"_qs);
+    }
+
     void whatStaysFromPageToPage() {
         m_moteur.reponse = photo(40);
         lire({.photo = u"p.jpg"_qs});
@@ -254,7 +244,7 @@ private Q_SLOTS:
         QVERIFY(m_fenetre->Analyse.isVisible() && m_fenetre->Status.isVisible());
 
         m_moteur.reponse = std::nullopt;
-        lire({.titre = u"Soupe"_qs, .ingredients = {u"sel"_qs}, .preparation = {}});
+        lire({.titre = u"Soupe"_qs, .ingredients = u"sel"_qs, .preparation = {}});
         QCOMPARE(lignes(), QStringList{u"||sel"_qs});
         QCOMPARE(m_fenetre->DReal.Text(), QString());
         QVERIFY(m_fenetre->NomPhoto.Text().isEmpty());
@@ -266,9 +256,7 @@ private Q_SLOTS:
     }
 
     void rowsScrollWhereTheyDoNotFit() {
-        PageEssai page;
-        page.ingredients.fill(u"sel"_qs, 20);
-        lire(page);
+        lire({.ingredients = u"sel\r\n <LI>"_qs.repeated(19) + u"sel"});
         QCOMPARE(m_fenetre->Ingre.Count(), 20);
         QCOMPARE(m_fenetre->Qte(19).Top(), m_fenetre->Ingre(19).Top());
         QCOMPARE(m_fenetre->Ingre(19).Top(), m_fenetre->Ingre(18).Bottom() + platform::controls::Twips(50));

@@ -1,15 +1,18 @@
-// The import through the real browser: pages of the program's folder, and what pages may not do.
+// The import through the real browser: pages of the program's folder and of the net, and what pages may not do.
 #include "LivreEssai.h"
 #include "Reponse.h"
 
 #include "platform/webview/Engine.h"
 #include "platform/webview/LoadEngine.h"
+#include "webimport/PageAncienne.h"
 #include "webimport/facile/Facile.h"
 
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QUrl>
 
+#include <array>
+#include <filesystem>
 #include <optional>
 
 using webimport::facile::Facile;
@@ -18,6 +21,15 @@ using namespace platform::webview;
 namespace {
 
 constexpr int kPatience = 30000; // ms
+
+QByteArray lire(const QString &chemin) {
+    QFile fichier(chemin);
+    return fichier.open(QIODevice::ReadOnly) ? fichier.readAll() : QByteArray();
+}
+
+QByteArray page(const QByteArray &texte) {
+    return "HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(texte.size()) + "\r\n\r\n" + texte;
+}
 
 /// A server that answers each request with what a function makes of its path.
 class Serveur : public QTcpServer {
@@ -44,32 +56,91 @@ private:
     std::function<QByteArray(const QByteArray &)> m_reponse;
 };
 
+/// What is read of a page of the demonstration site: rows of ingredients; times, dish type, cost and difficulty. No group
+/// has the number 99.
+struct Recette {
+    QStringView page;
+    int groupe = 0, lignes = 0;
+    QStringView champs;
+};
+
+constexpr std::array kSite{
+    Recette{u"chevreuil-airelles.htm", 16, 10,
+            u"40 min,la veille : 15 min|1 h. 10|Gibiers|Très Cher|Très Difficile"},
+    Recette{u"langoustines.htm", 25, 8, u"25 min,plus 1 h de marinade|6 min.|Crustacés|Très Cher|Moyen"},
+    Recette{u"magret-cerises.htm", 99, 7,
+            u"20 min|15 min.,et 5 min. de repos|Magret de canard aux cerises|Cher|Difficile"},
+    Recette{u"maquereaux.htm", 9, 7, u"15 min|12 min.|Poissons|Peu Cher|Facile"},
+    Recette{u"pate-en-croute.htm", 15, 12, u"1 h 15|1 h. 30, four moyen, 180 degrés|Viandes|Moyen|Difficile"},
+    Recette{u"punch-jardin.htm", 54, 8, u"15 min||Cocktails & Alcools|Moyen|Facile"},
+    Recette{u"risotto-petits-pois.htm", 27, 9, u"10 min,sans se presser|25 min.|Céréales|Moyen|Moyen"},
+    Recette{u"vacherin-fraises.htm", 99, 7,
+            u"1 h 30,et une nuit au froid|2 h., four très doux|Desserts|Cher|Très Difficile"},
+    Recette{u"veloute-potiron.htm", 99, 9, u"20 min|35 min.|Entrée|Peu Cher|Facile"},
+};
+
 } // namespace
 
 class TestNavigateur : public QObject {
     Q_OBJECT
 
 private:
-    void ecrire(const QString &nom, const QByteArray &texte) {
-        QFile fichier(m_livre->path(nom));
-        QVERIFY(fichier.open(QIODevice::WriteOnly));
-        fichier.write(texte);
+    bool attendre(const QString &fin) {
+        return QTest::qWaitFor(
+            [&] { return m_fenetre->Status.Caption() == u"Terminé"_qs && adresse().endsWith(fin); },
+            kPatience);
     }
 
-    bool attendre(const QString &page) {
-        return QTest::qWaitFor(
-            [&] { return m_fenetre->Status.Caption() == u"Terminé"_qs && adresse().endsWith(page); },
-            kPatience);
+    /// Whether an action leads to a page.
+    template <class Action>
+    bool mene(Action action, const QString &fin) {
+        m_fenetre->Status.SetCaption({});
+        action();
+        return attendre(fin);
+    }
+
+    bool aller(const QUrl &adresse) {
+        return mene([&] { m_fenetre->Navigateur->navigate(adresse); }, adresse.toString().section(u'/', -1));
     }
 
     QString adresse() const { return m_fenetre->Navigateur->address().toString(); }
 
-    void aller(const QString &page) {
-        m_fenetre->Navigateur->navigate(QUrl::fromLocalFile(m_livre->path(page)));
+    QUrl locale(const QString &nom) const { return QUrl::fromLocalFile(m_livre->path(nom)); }
+
+    /// The text that a script gives.
+    QString executer(const QString &script) {
+        std::optional<QString> texte;
+        m_fenetre->Navigateur->runScript(script, [&texte](const std::optional<QString> &resultat) {
+            texte = resultat.value_or(QString());
+        });
+        return QTest::qWaitFor([&texte] { return texte.has_value(); }, kPatience) ? *texte : QString();
     }
 
-    void executer(const QString &script) {
-        m_fenetre->Navigateur->runScript(script, [](const std::optional<QString> &) {});
+    /// Reads a recipe, and gives its fields with a bar between two.
+    QStringList importer(const QUrl &recette) {
+        if (!aller(recette) ||
+            !QTest::qWaitFor([this] { return m_fenetre->Analyse.isVisible(); }, kPatience)) {
+            return {};
+        }
+        m_fenetre->Analyse.click();
+        QStringList champs{m_fenetre->TitreRecette.Text(), m_fenetre->calorie.Caption(),
+                           m_fenetre->DReal.Text()};
+        for (const int index : {3, 5, 0, 1, 2, 4}) {
+            champs += m_fenetre->Liste(index).Text();
+        }
+        for (int index = 0; index < m_fenetre->Ingre.Count(); ++index) {
+            champs +=
+                m_fenetre->Qte(index).Text() + m_fenetre->Qte2(index).Text() + m_fenetre->Ingre(index).Text();
+        }
+        return champs << m_fenetre->Saisie(0).Text() << m_fenetre->Saisie(1).Text();
+    }
+
+    /// Presses Creer, with the cooking time that one of the pages lacks, and gives what it says.
+    QString creer() {
+        m_fenetre->Liste(3).SetText(u"30 min"_qs);
+        Reponse reponse(u"OK"_qs);
+        m_fenetre->Creer.click();
+        return reponse.question();
     }
 
     Engine *m_moteur = nullptr;
@@ -90,9 +161,8 @@ private Q_SLOTS:
 
     void init() {
         m_livre = std::make_unique<LivreEssai>();
-        QVERIFY(QDir(m_livre->path({})).mkpath(u"facile/photos"_qs));
-        ecrire(u"facile/facile.htm"_qs, "<a id=l target=_blank href=autre.htm>x</a>");
-        ecrire(u"facile/autre.htm"_qs, "<p>autre</p>");
+        std::filesystem::copy(SAVOREL_SITE, m_livre->path(u"facile"_qs).toStdString(),
+                              std::filesystem::copy_options::recursive);
         m_principale = std::make_unique<browser::Frmmain>();
         m_fenetre = std::make_unique<Facile>(*m_principale, *m_moteur);
         m_fenetre->show();
@@ -101,61 +171,86 @@ private Q_SLOTS:
 
     void cleanup() { m_fenetre.reset(); }
 
-    void pageGoesThroughTheBrowserIntoTheBook() {
-        QImage image(60, 40, QImage::Format_RGB32);
-        image.fill(Qt::darkRed);
-        QVERIFY(image.save(m_livre->path(u"facile/photos/gratin-poireaux.jpg"_qs)));
-        QFile page(QStringLiteral(SAVOREL_PAGES "/commentee.html"));
-        QVERIFY(page.open(QIODevice::ReadOnly));
-        ecrire(u"facile/gratin.htm"_qs, QString::fromUtf8(page.readAll()).toLatin1());
-        QVERIFY(!m_fenetre->Analyse.isVisible());
-        aller(u"facile/gratin.htm"_qs);
-        QVERIFY(QTest::qWaitFor([this] { return m_fenetre->Analyse.isVisible(); }, kPatience));
-
-        m_fenetre->Analyse.click();
-        QVERIFY(m_fenetre->Fond.isVisible());
-        QCOMPARE(m_fenetre->TitreRecette.Text(), u"Gratin de poireaux"_qs);
-        QCOMPARE(m_fenetre->calorie.Caption(), u"au vieux comté"_qs);
-        QCOMPARE(m_fenetre->Liste(1).Text(), u"Facile"_qs);
-        QCOMPARE(m_fenetre->Qte2(2).Text() + m_fenetre->Ingre(2).Text(), u"g de vieux comté râpé"_qs);
-        QCOMPARE(m_fenetre->Photo.Picture().size(), QSize(60, 40));
-
-        Reponse reponse(u"OK"_qs);
-        m_fenetre->Creer.click();
-        QCOMPARE(reponse.question(), u"Création réussie ! "_qs);
-        QCOMPARE(LivreEssai::text(u"SELECT Numero, Recette From Cocktails"_qs), u"Gratin de poireaux"_qs);
+    /// From the program's folder into the book, and the same from the net.
+    void demonstrationSite() {
+        QList<QStringList> lues;
+        for (const Recette &recette : kSite) {
+            QUrl fichier = locale(u"facile/"_qs + recette.page);
+            fichier.setQuery(u"recette=1&groupid=%1"_qs.arg(recette.groupe));
+            lues += importer(fichier);
+            QCOMPARE(lues.last().mid(2, 5).join(u'|'), recette.champs);
+            QCOMPARE(m_fenetre->Ingre.Count(), recette.lignes);
+            QCOMPARE(creer(), u"Création réussie ! "_qs);
+        }
+        const Serveur serveur([this](const QByteArray &chemin) {
+            return page(lire(m_livre->path(u"facile"_qs + QString::fromLatin1(chemin).section(u'?', 0, 0))));
+        });
         auto livre = store::OuvrirLivre();
-        QCOMPARE(livre.OpenRecordset(u"SELECT * From Ingre"_qs).RecordCount(), m_fenetre->Ingre.Count());
-        QVERIFY(QFile::exists(m_livre->path(u"photos/Gratin de poireaux.jpg"_qs)));
+        auto recettes = livre.OpenRecordset(u"SELECT * From Cocktails order by Numero"_qs);
+        for (std::size_t i = 0; i < kSite.size(); ++i, recettes.MoveNext()) {
+            const QString page = u"%1?recette=1&groupid=%2"_qs.arg(kSite[i].page).arg(kSite[i].groupe);
+            QCOMPARE(importer(serveur.adresse(page)), lues[qsizetype(i)]);
+            QCOMPARE(recettes.Fields(u"Recette").Text(), lues[qsizetype(i)].first());
+            auto lignes = livre.OpenRecordset(u"SELECT * From Ingre where Numero = %1"_qs.arg(i + 1));
+            QCOMPARE(lignes.RecordCount(), kSite[i].lignes);
+        }
+    }
+
+    void rulesOfTheLegacyForm() {
+        QVERIFY(QFile::copy(QStringLiteral(SAVOREL_PAGES "/regles.html"),
+                            m_livre->path(u"facile/regles.htm"_qs)));
+        QVERIFY(aller(locale(u"facile/regles.htm"_qs)));
+        const QString script = webimport::ScriptPageAncienne();
+        QCOMPARE(executer(script + u"(document.documentElement)"),
+                 QString::fromUtf8(lire(QStringLiteral(SAVOREL_PAGES "/regles.txt")))
+                     .replace(u"\n"_qs, u"\r\n"_qs));
+        const QString profonde = u"(() => { let n = document.createElement('I');"
+                                 "for (let i = 0; i < 50000; ++i) { const p = document.createElement('I');"
+                                 "p.appendChild(n); n = p; } return n; })()"_qs;
+        QCOMPARE(executer(script + u'(' + profonde + u')').size(), 50'000 * 7);
     }
 
     void pagesStayInTheViewAndInTheFolder() {
-        QTest::mouseClick(m_fenetre->Navigateur->widget().focusProxy(), Qt::LeftButton, {}, QPoint(12, 16));
-        QVERIFY2(attendre(u"autre.htm"_qs), qPrintable(adresse()));
-        QTRY_VERIFY(m_fenetre->Navi(0).isEnabled());
-        aller(u"../../../../../../etc/hostname"_qs);
+        executer(u"document.body.innerHTML = "
+                 "'<a target=_blank href=index.htm style=\"position: fixed; inset: 0\">x</a>'"_qs);
+        QTest::qWait(200); // for its layout
+        QWidget *page = m_fenetre->Navigateur->widget().focusProxy();
+        QVERIFY2(mene([page] { QTest::mouseClick(page, Qt::LeftButton); }, u"index.htm"_qs),
+                 qPrintable(adresse()));
+        m_fenetre->Navigateur->navigate(locale(u"../../../../../../etc/hostname"_qs));
         executer(u"location.href = 'file:///etc/hostname'"_qs);
         executer(u"window.open('facile.htm')"_qs); // nobody clicked
         QTest::qWait(500);
-        QVERIFY2(adresse().endsWith(u"autre.htm"_qs), qPrintable(adresse()));
-        m_fenetre->Navi(0).click();
-        QVERIFY(attendre(u"facile.htm"_qs));
+        QVERIFY2(adresse().endsWith(u"index.htm"_qs), qPrintable(adresse()));
+        QVERIFY(mene([this] { m_fenetre->Navi(0).click(); }, u"facile.htm"_qs));
         QTRY_VERIFY(m_fenetre->Navi(1).isEnabled());
+    }
+
+    /// Also to a page of the net that was reached from a file.
+    void busyPageLetsTheUserGo() {
+        const Serveur serveur([](const QByteArray &chemin) {
+            return page(chemin == "/occupee"
+                            ? "<script>onload = () => setTimeout(() => { for (;;); }, 100)</script>"
+                            : "<p>calme</p>");
+        });
+        const QString calme = u"location.href = '%1'"_qs.arg(serveur.adresse(u"calme"_qs).toString());
+        QVERIFY(mene([&] { executer(calme); }, u"calme"_qs));
+        QVERIFY(aller(serveur.adresse(u"occupee"_qs)));
+        QTest::qWait(500);
+        QVERIFY2(mene([this] { m_fenetre->Navi(0).click(); }, u"calme"_qs), qPrintable(adresse()));
+        QCOMPARE(executer(u"document.body.textContent"_qs), u"calme"_qs);
     }
 
     void pictureIsFetchedWithinLimits() {
         const QByteArray trop(33 * 1024 * 1024, 'x');
-        Serveur serveur([&trop](const QByteArray &chemin) -> QByteArray {
+        const Serveur serveur([&trop](const QByteArray &chemin) -> QByteArray {
             if (chemin == "/ici") {
                 return "HTTP/1.1 302 Found\r\nLocation: /la\r\nContent-Length: 0\r\n\r\n";
-            }
-            if (chemin == "/la") {
-                return "HTTP/1.1 200 OK\r\nContent-Length: 4\r\n\r\nvoir";
             }
             if (chemin == "/trop") {
                 return "HTTP/1.1 200 OK\r\n\r\n" + trop;
             }
-            return "HTTP/1.1 404 Non\r\nContent-Length: 4\r\n\r\nrien";
+            return chemin == "/la" ? page("voir") : "HTTP/1.1 404 Non\r\nContent-Length: 4\r\n\r\nrien";
         });
         const auto chercher = [this](const QUrl &adresse) {
             return m_moteur->openUrl(adresse, m_livre->path({}));
@@ -163,7 +258,7 @@ private Q_SLOTS:
         QCOMPARE(chercher(serveur.adresse(u"ici"_qs)), std::optional(QByteArrayLiteral("voir")));
         QCOMPARE(chercher(serveur.adresse(u"trop"_qs)), std::nullopt);
         QCOMPARE(chercher(serveur.adresse(u"rien"_qs)), std::nullopt);
-        QVERIFY(chercher(QUrl::fromLocalFile(m_livre->path(u"facile/autre.htm"_qs))));
+        QVERIFY(chercher(locale(u"facile/facile.htm"_qs)));
         QVERIFY(!chercher(QUrl(u"file:///etc/hostname"_qs)));
         QVERIFY(!chercher(QUrl()));
     }

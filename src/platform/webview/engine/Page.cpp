@@ -5,6 +5,8 @@
 #include <QWebEngineNewWindowRequest>
 #include <QWebEngineSettings>
 
+#include <array>
+
 namespace platform::webview {
 
 // The browser lets pages from the net not near any file, but pages of files near all.
@@ -29,8 +31,7 @@ Page::Page(QWebEngineProfile *profile, const QString &folder)
 }
 
 void Page::restrict() {
-    constexpr QWebEngineSettings::WebAttribute kRefused[]{
-        QWebEngineSettings::LocalContentCanAccessRemoteUrls,
+    constexpr std::array kRefused{
         QWebEngineSettings::LocalStorageEnabled,
         QWebEngineSettings::JavascriptCanOpenWindows,
         QWebEngineSettings::JavascriptCanAccessClipboard,
@@ -43,6 +44,8 @@ void Page::restrict() {
     for (const auto attribute : kRefused) {
         settings()->setAttribute(attribute, false);
     }
+    // Also tells whether one may go back to a page of the net that was reached from a file.
+    settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, true);
     settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
 }
 

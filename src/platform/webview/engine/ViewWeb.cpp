@@ -1,11 +1,23 @@
 #include "ViewWeb.h"
 
 #include <QAction>
+#include <QTimer>
 #include <QWebEngineDownloadRequest>
 #include <QWebEngineScript>
 #include <QWebEngineView>
 
+#include <csignal>
+
+#include <chrono>
+#include <utility>
+
 namespace platform::webview {
+
+namespace {
+
+constexpr std::chrono::seconds kPatience{5};
+
+} // namespace
 
 // Without a name of its own a profile keeps everything in memory.
 ViewWeb::ViewWeb(QWidget &parent, const QString &folder, Events events)
@@ -26,8 +38,15 @@ ViewWeb::~ViewWeb() {
 void ViewWeb::connectEvents() {
     connect(&m_profile, &QWebEngineProfile::downloadRequested, this,
             [](QWebEngineDownloadRequest *request) { request->cancel(); });
-    connect(&m_page, &QWebEnginePage::loadStarted, this, [this] { m_events.began(); });
-    connect(&m_page, &QWebEnginePage::loadFinished, this, [this] { m_events.complete(); });
+    connect(&m_page, &QWebEnginePage::loadStarted, this, [this] {
+        m_dead = false;
+        m_events.began();
+    });
+    connect(&m_page, &QWebEnginePage::loadFinished, this, [this] {
+        answerAll();
+        m_events.complete();
+    });
+    connect(&m_page, &QWebEnginePage::renderProcessTerminated, this, &ViewWeb::bury);
     connect(&m_page, &QWebEnginePage::linkHovered, this,
             [this](const QString &url) { m_events.hovered(url); });
     QAction *back = m_page.action(QWebEnginePage::Back);
@@ -43,34 +62,69 @@ QWidget &ViewWeb::widget() {
 }
 
 void ViewWeb::navigate(const QUrl &address) {
-    m_page.setUrl(address);
+    leave([this, address] { m_page.setUrl(address); });
 }
 
 void ViewWeb::back() {
-    m_page.triggerAction(QWebEnginePage::Back);
+    leave([this] { m_page.triggerAction(QWebEnginePage::Back); });
 }
 
 void ViewWeb::forward() {
-    m_page.triggerAction(QWebEnginePage::Forward);
-}
-
-void ViewWeb::stop() {
-    m_page.triggerAction(QWebEnginePage::Stop);
+    leave([this] { m_page.triggerAction(QWebEnginePage::Forward); });
 }
 
 QUrl ViewWeb::address() const {
     return m_page.url();
 }
 
-QString ViewWeb::title() const {
-    return m_page.title();
+void ViewWeb::runScript(const QString &source, Result result) {
+    const int script = m_scripts++;
+    m_waiting.emplace(script, std::move(result));
+    if (m_dead) {
+        answer(script, {});
+        return;
+    }
+    m_page.runJavaScript(source, QWebEngineScript::ApplicationWorld, [this, script](const QVariant &value) {
+        answer(script, value.typeId() == QMetaType::QString ? std::optional(value.toString()) : std::nullopt);
+    });
 }
 
-void ViewWeb::runScript(const QString &source, std::function<void(const std::optional<QString> &)> result) {
-    m_page.runJavaScript(
-        source, QWebEngineScript::ApplicationWorld, [result = std::move(result)](const QVariant &value) {
-            result(value.typeId() == QMetaType::QString ? std::optional(value.toString()) : std::nullopt);
-        });
+void ViewWeb::answer(int script, const std::optional<QString> &text) {
+    const auto waiting = m_waiting.extract(script);
+    if (waiting) {
+        waiting.mapped()(text);
+    }
+}
+
+/// The browser drops the scripts of a page that dies or makes room for another.
+void ViewWeb::answerAll() {
+    while (!m_waiting.empty()) {
+        answer(m_waiting.begin()->first, {});
+    }
+}
+
+/// Goes to another page. A page that keeps itself busy would let the browser go nowhere else on its site: where it gives
+/// no sign of life, its process is ended first.
+void ViewWeb::leave(const std::function<void()> &go) {
+    const int sign = m_scripts;
+    const qint64 process = m_page.renderProcessPid();
+    runScript(QStringLiteral("''"), [](const std::optional<QString> & /*text*/) {});
+    go();
+    QTimer::singleShot(kPatience, this, [this, sign, process, go] {
+        if (process > 0 && process == m_page.renderProcessPid() && m_waiting.count(sign) > 0) {
+            m_leaving = go;
+            kill(pid_t(process), SIGKILL);
+        }
+    });
+}
+
+void ViewWeb::bury() {
+    m_dead = true;
+    answerAll();
+    m_events.complete();
+    if (const auto go = std::exchange(m_leaving, nullptr)) {
+        go();
+    }
 }
 
 } // namespace platform::webview

@@ -6,6 +6,8 @@
 #include <QPointer>
 #include <QWebEngineProfile>
 
+#include <map>
+
 class QWebEngineView;
 
 namespace platform::webview {
@@ -22,16 +24,21 @@ public:
     void navigate(const QUrl &address) override;
     void back() override;
     void forward() override;
-    void stop() override;
     QUrl address() const override;
-    QString title() const override;
-    void runScript(const QString &source,
-                   std::function<void(const std::optional<QString> &)> result) override;
+    void runScript(const QString &source, Result result) override;
 
 private:
     void connectEvents();
+    void answer(int script, const std::optional<QString> &text);
+    void answerAll();
+    void leave(const std::function<void()> &go);
+    void bury();
 
     Events m_events;
+    std::map<int, Result> m_waiting; ///< by number of the script
+    int m_scripts = 0;
+    bool m_dead = false;             ///< the process of the page has ended, and no other page is on its way
+    std::function<void()> m_leaving; ///< what a page was ended for
     // The page must go before its profile, and the control before the page.
     QWebEngineProfile m_profile;
     Page m_page;
