@@ -24,7 +24,6 @@
 #include <QScreen>
 #include <algorithm>
 #include <cstdlib>
-#include <memory>
 #include <stdexcept>
 
 namespace shell {
@@ -193,7 +192,8 @@ void PreparerApplication() {
     store::PreparerLivre();
     QApplication::setApplicationName(Titre());
     QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setStyle(std::make_unique<Style>(QStringLiteral("Fusion")).release());
+    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns it
+    QApplication::setStyle(new Style(QStringLiteral("Fusion")));
     QApplication::setWindowIcon(resourcePicture(QStringLiteral(":/icones/savorel.argb")));
     substituteFonts();
     QApplication::setFont(interfaceFont(Face::Verdana, 8.25));
