@@ -392,9 +392,10 @@ void Frmmain::BrancherFiche() {
         connect(panneau, &ScrollPanel::Clicked, this, [this] { CacherListeModif(*this); });
     }
     connect(&CadrePhoto, &Panel::Clicked, this, [this] { ClicCadrePhoto(*this); });
+    auto *depot = new FileDrop(CadrePhoto);
     connect(
-        new FileDrop(CadrePhoto), &FileDrop::Dropped, this,
-        [this](const QString &fichier) { DeposerPhoto(*this, fichier); }, Qt::QueuedConnection);
+        depot, &FileDrop::Dropped, this, [this](const QString &fichier) { DeposerPhoto(*this, fichier); },
+        Qt::QueuedConnection);
 }
 
 } // namespace browser

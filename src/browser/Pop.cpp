@@ -34,8 +34,7 @@ Pop::Pop(Frmmain &frm)
       Supprimer(QStringLiteral("&Supprimer")),
       ModifPhoto(QStringLiteral("&Modifier la photo")),
       SuppPhoto(QStringLiteral("&Supprimer la photo")) {
-    setWindowTitle(store::TitreProgramme.toString());
-    setAccessibleName(windowTitle());
+    SetHeading(store::TitreProgramme.toString());
     Invitation.SetForeColor(Qt::white);
     Invitation.setAlignment(Qt::AlignCenter);
     Composer();

@@ -110,8 +110,7 @@ Manuelle::Manuelle(browser::Frmmain &frm)
       LIngre(Scroll.Content(), rowNamed(kControles, "LIngre")),
       Rappel(this, rowNamed(kControles, "Rappel")),
       Creer(this, rowNamed(kControles, "Creer")) {
-    setWindowTitle(QStringLiteral("Création manuelle"));
-    setAccessibleName(windowTitle());
+    SetHeading(QStringLiteral("Création manuelle"));
     ChargerLignes();
     Peindre();
     ChargerLesListesCombo(*this);

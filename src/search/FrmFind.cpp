@@ -69,8 +69,7 @@ FrmFind::FrmFind(browser::Frmmain &frm)
       Liste(this, rowNamed(kControles, "Liste")),
       LNombre(this, rowNamed(kControles, "LNombre")),
       LSuite(this, rowNamed(kControles, "LSuite")) {
-    setWindowTitle(QStringLiteral("Recherche multicritères"));
-    setAccessibleName(windowTitle());
+    SetHeading(QStringLiteral("Recherche multicritères"));
     Opt_Liste.ForEach([this](OptionButton &option) { m_tables.addButton(&option); });
     Choix.ForEach([this](OptionButton &option) { m_facons.addButton(&option); });
     setTabOrder(&Chk(0), &LChk(0));

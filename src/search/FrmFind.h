@@ -42,8 +42,10 @@ public:
     Array<List> LChk;
     Ribbon Creer;
     List Liste;
-    /// How many rows were found, and what to do with them or what was done last.
-    Label LNombre, LSuite;
+    /// How many rows were found.
+    Label LNombre;
+    /// What to do with them, or what was done last.
+    Label LSuite;
 
     /// The table searched.
     QString TableRecherche;

@@ -110,8 +110,7 @@ FicheAlbum::FicheAlbum(browser::Frmmain &frm)
       Prepa(Scroll(0).Content(), rowNamed(kControles, "Prepa")),
       Deco(Scroll(0).Content(), rowNamed(kControles, "Deco")),
       m_frm(frm) {
-    setWindowTitle(QStringLiteral("Fiche Recette"));
-    setAccessibleName(windowTitle());
+    SetHeading(QStringLiteral("Fiche Recette"));
     Quit.setToolTip(QStringLiteral("Revenir au menu principal"));
     Peindre();
     Brancher();

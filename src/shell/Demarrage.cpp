@@ -202,8 +202,7 @@ void PreparerApplication() {
 
 void ChargerFrmmain(Fenetres &fenetres, const platform::desktop::SingleInstance &instance) {
     browser::Frmmain &frm = fenetres.Principale;
-    frm.setWindowTitle(Titre());
-    frm.setAccessibleName(Titre());
+    frm.SetHeading(Titre());
     Brancher(fenetres);
     // The opening screen stands over the window that is to come.
     Centrer(frm);

@@ -36,8 +36,7 @@ Patch::Patch(browser::Frmmain &frm)
       c(this, kControles, "c"),
       OK(this, rowNamed(kControles, "OK")),
       Quit(this, rowNamed(kControles, "Quit")) {
-    setWindowTitle(QStringLiteral("Affichage"));
-    setAccessibleName(windowTitle());
+    SetHeading(QStringLiteral("Affichage"));
     SetMode(frm.Mode());
     Peindre(frm);
     c(ModeAffichage()).SetValue(true);

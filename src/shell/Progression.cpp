@@ -30,8 +30,7 @@ Progression::Progression(const QWidget &sur, const QString &travail)
       Icone(this, rowNamed(kControles, "Icone")),
       Label1(this, rowNamed(kControles, "Label1")),
       Pb(this, rowNamed(kControles, "Pb")) {
-    setWindowTitle(store::TitreProgramme.toString());
-    setAccessibleName(windowTitle());
+    SetHeading(store::TitreProgramme.toString());
     SetMode(ModeAffichage());
     Icone.SetPicture(resourcePicture(QStringLiteral(":/icones/savorel.argb")).toImage());
     Label1.SetCaption(travail);

@@ -41,8 +41,7 @@ Splash::Splash()
       MesSofts(this, kControles, "MesSofts"),
       Orvane(this, rowNamed(kControles, "Orvane")),
       SphashAuto(this, rowNamed(kControles, "SphashAuto")) {
-    setWindowTitle(store::TitreProgramme.toString());
-    setAccessibleName(windowTitle());
+    SetHeading(store::TitreProgramme.toString());
     Peindre();
     SphashAuto.SetValue(platform::settings::ToBoolean(Lire(kReglages, kSplashAuto, QStringLiteral("True"))));
     Brancher();

@@ -71,8 +71,7 @@ Acquisition::Acquisition(platform::scandialogs::ImageSource &scanner)
       Pb(this, rowNamed(kControles, "Pb")),
       Btn_ScanS(this, kControles, "Btn_ScanS"),
       Scanner(scanner) {
-    setWindowTitle(QStringLiteral("Acquisition des images"));
-    setAccessibleName(windowTitle());
+    SetHeading(QStringLiteral("Acquisition des images"));
     Quit.setToolTip(QStringLiteral("Revenir au menu principal"));
     Peindre();
     Brancher();
@@ -117,8 +116,9 @@ void Acquisition::Brancher() {
             [this] { CollerImage(*this); });
     // Dragging the picture must no more move the window than dragging its frame does.
     PhotoScan.setAttribute(Qt::WA_TransparentForMouseEvents);
+    auto *depot = new FileDrop(*this);
     connect(
-        new FileDrop(*this), &FileDrop::Dropped, this,
+        depot, &FileDrop::Dropped, this,
         [this](const QString &fichier) {
             OuvrirFichier(*this, fichier);
             PermettreOperations();

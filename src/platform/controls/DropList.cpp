@@ -135,10 +135,8 @@ void DropBox::AddItems(const QStringList &texts) {
 
 void DropBox::paintEvent(QPaintEvent *event) {
     QComboBox::paintEvent(event);
-    if (hasFocus()) {
-        QPainter painter(this);
-        paintFocusRing(painter, rect(), skinAround(*this));
-    }
+    QPainter painter(this);
+    paintFocusRing(painter, *this);
 }
 
 bool DropBox::isProposing() const {

@@ -76,9 +76,7 @@ void CaptionPanel::paintEvent(QPaintEvent * /*event*/) {
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, foregroundRole()));
     painter.setOpacity(isEnabled() ? 1.0 : 0.45);
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, m_caption);
-    if (hasFocus()) {
-        paintFocusRing(painter, rect(), skinAround(*this));
-    }
+    paintFocusRing(painter, *this);
 }
 
 void CaptionPanel::mousePressEvent(QMouseEvent *event) {

@@ -123,7 +123,9 @@ void PictureBox::paintEvent(QPaintEvent * /*event*/) {
 }
 
 void PictureBox::mousePressEvent(QMouseEvent *event) {
-    Q_EMIT Pressed();
+    if (event->button() == Qt::LeftButton) {
+        Q_EMIT Pressed();
+    }
     event->ignore();
 }
 

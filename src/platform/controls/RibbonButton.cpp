@@ -132,9 +132,7 @@ void RibbonButton::paintEvent(QPaintEvent * /*event*/) {
     paintGround(painter);
     paintPicture(painter);
     paintCaption(painter);
-    if (hasFocus()) {
-        paintFocusRing(painter, rect(), skinAround(*this));
-    }
+    paintFocusRing(painter, *this);
 }
 
 void RibbonButton::paintGround(QPainter &painter) const {
@@ -230,6 +228,9 @@ void RibbonButton::paintCaption(QPainter &painter) const {
     }
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, foregroundRole()));
     painter.setFont(font());
+    if (!isEnabled() && (m_look == Look::Command || m_look == Look::Tile)) {
+        painter.setOpacity(kDisabledCaption);
+    }
     QRect area = rect();
     if (m_look == Look::Sort) {
         area.setTop(pictureArea().toRect().bottom());
@@ -240,16 +241,12 @@ void RibbonButton::paintCaption(QPainter &painter) const {
         if (!m_picture.isNull()) {
             area.setLeft(pictureArea().toRect().right());
         }
-        painter.setOpacity(isEnabled() ? 1.0 : kDisabledCaption);
         // Blanks at the ends of a caption only keep room for the picture.
         painter.drawText(area, Qt::AlignCenter, m_picture.isNull() ? text() : text().trimmed());
-        painter.setOpacity(1.0);
         return;
     }
     if (m_look == Look::Tile) {
-        painter.setOpacity(isEnabled() ? 1.0 : kDisabledCaption);
         paintTileCaption(painter);
-        painter.setOpacity(1.0);
         return;
     }
     area.adjust(kTextMargin.pixels(), 0, 0, 0);

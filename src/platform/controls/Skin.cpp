@@ -68,10 +68,12 @@ void paintBlock(QPainter &painter, const QRectF &block, double radius, const QCo
     painter.drawRoundedRect(block.adjusted(inset, inset, -inset, -inset), radius, radius);
 }
 
-void paintFocusRing(QPainter &painter, const QRectF &control, const Skin &skin) {
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(skin.accent, 2));
-    painter.drawRoundedRect(control.adjusted(1, 1, -1, -1), 4, 4);
+void paintFocusRing(QPainter &painter, const QWidget &control) {
+    if (control.hasFocus()) {
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(skinAround(control).accent, 2));
+        painter.drawRoundedRect(QRectF(control.rect()).adjusted(1, 1, -1, -1), 4, 4);
+    }
 }
 
 void paintFocusFrame(QAbstractScrollArea &area, bool focused) {

@@ -5,6 +5,7 @@
 class QAbstractScrollArea;
 class QPainter;
 class QRectF;
+class QWidget;
 
 namespace platform::controls {
 
@@ -31,8 +32,8 @@ inline constexpr QRgb kListGround = qRgb(148, 173, 214);
 void paintBlock(QPainter &painter, const QRectF &block, double radius, const QColor &top,
                 const QColor &bottom, const QColor &edge);
 
-/// A ring inside a control that has the focus.
-void paintFocusRing(QPainter &painter, const QRectF &control, const Skin &skin);
+/// A ring inside a control, if that has the focus, in the colours of its window.
+void paintFocusRing(QPainter &painter, const QWidget &control);
 
 /// A frame of two pixels around an area, in the colour of its ground; while the area has the focus, in the accent of
 /// its window's skin.

@@ -28,6 +28,12 @@ SkinnedWindow::SkinnedWindow(const QString &name, Extent size)
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
+void SkinnedWindow::SetHeading(const QString &heading) {
+    setWindowTitle(heading);
+    setAccessibleName(heading);
+    update();
+}
+
 void SkinnedWindow::SetMode(int mode) {
     m_mode = mode;
     update();
@@ -97,7 +103,6 @@ void SkinnedWindow::paintEvent(QPaintEvent * /*event*/) {
     }
     painter.setPen(colours.title);
     painter.setFont(interfaceFont(Face::Verdana, 13, true));
-    // What the window is; its title on the task bar may tell what it is doing.
     painter.drawText(band.adjusted(kTitleLeft.pixels(), 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft,
                      accessibleName());
     painter.setBrush(Qt::NoBrush);

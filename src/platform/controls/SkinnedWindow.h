@@ -20,6 +20,10 @@ class SkinnedWindow : public QWidget {
 public:
     SkinnedWindow(const QString &name, Extent size);
 
+    /// Names the window: in its band, on the task bar and to screen readers. The title of the task bar alone may then be
+    /// changed by setWindowTitle().
+    void SetHeading(const QString &heading);
+
     /// Display mode 0, 1 or 2.
     int Mode() const { return m_mode; }
 

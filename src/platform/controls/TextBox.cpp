@@ -27,10 +27,8 @@ LineBox::LineBox(QWidget *parent) : QLineEdit(parent) {
 
 void LineBox::paintEvent(QPaintEvent *event) {
     QLineEdit::paintEvent(event);
-    if (hasFocus()) {
-        QPainter painter(this);
-        paintFocusRing(painter, rect(), skinAround(*this));
-    }
+    QPainter painter(this);
+    paintFocusRing(painter, *this);
 }
 
 void LineBox::focusInEvent(QFocusEvent *event) {

@@ -15,6 +15,7 @@ class Cursor {
 public:
     Cursor(const std::shared_ptr<Connection> &connection, const QString &sql);
 
+    /// These read the rows where that has waited.
     qsizetype count();
     bool atEnd();
 

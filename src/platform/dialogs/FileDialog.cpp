@@ -19,10 +19,11 @@ QStringList nameFilters(const QString &filter) {
     return filters;
 }
 
-/// A date at the end of a name is no ending: "livre 12.03.2026".
+/// What stands behind the last dot of a name may be none: "livre 12.03.2026", "livre v. finale".
 bool hasEnding(const QString &name) {
+    constexpr int kLongest = 4;
     const QString ending = QFileInfo(name).suffix();
-    return !ending.isEmpty() && ending.front().isLetter();
+    return !ending.isEmpty() && ending.size() <= kLongest && ending.front().isLetter();
 }
 
 class SaveDialog : public QFileDialog {
@@ -34,7 +35,8 @@ public:
     void accept() override {
         const QString chosen = selectedFiles().value(0);
         if (!QFileInfo(chosen).isDir() && !hasEnding(chosen)) {
-            findChild<QLineEdit *>()->setText(chosen + QLatin1Char('.') + defaultSuffix());
+            findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))
+                ->setText(chosen + QLatin1Char('.') + defaultSuffix());
         }
         QFileDialog::accept();
     }

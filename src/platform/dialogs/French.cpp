@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QTranslator>
+
 #include <array>
 #include <memory>
 #include <utility>

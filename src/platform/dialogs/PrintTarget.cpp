@@ -65,7 +65,8 @@ struct Destination {
     }
 };
 
-/// The print dialog, which only notes a choice: nothing is printed yet.
+/// The print dialog, which only notes a choice: nothing is printed yet. Its parts are found by the names that the
+/// toolkit gives them.
 class SetupDialog : public QPrintDialog {
 public:
     SetupDialog(QPrinter &printer, const Destination &chosen, const QString &file, QWidget *parent)
@@ -107,7 +108,7 @@ QPrinter &PrintTarget::printer() {
 
 void PrintTarget::ShowPrinter(QWidget *parent, const QString &title) {
     const Destination before(printer());
-    SetupDialog dialog(printer(), before, proposedFile(title), parent);
+    SetupDialog dialog(printer(), before, m_file.isEmpty() ? proposedFile(title) : m_file, parent);
     if (dialog.exec() == QDialog::Accepted) {
         m_file = printer().outputFormat() == QPrinter::PdfFormat ? printer().outputFileName() : QString();
     } else {

@@ -25,6 +25,7 @@ struct Events {
 /// and opens what asks for a window of its own in itself.
 class View {
 public:
+    /// Takes the text that a script gives, or nothing.
     using Result = std::function<void(const std::optional<QString> &)>;
 
     View() = default;
@@ -43,8 +44,8 @@ public:
     virtual QUrl address() const = 0;
 
     /// Runs a script beside those of the page, which can neither see nor change it.
-    /// @param result gets the script's text, later; nothing when it gave none or the page has died. Never called where
-    /// the page keeps itself busy for ever
+    /// @param result gets the script's text, later, or at once where the page has died; nothing when it gave none. Never
+    /// called where the page keeps itself busy for ever
     virtual void runScript(const QString &source, Result result) = 0;
 };
 

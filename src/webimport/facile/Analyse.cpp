@@ -5,8 +5,8 @@
 #include "LirePage.h"
 #include "SansSaisie.h"
 
+#include "entry/ChampsDeCreation.h"
 #include "platform/controls/WaitPointer.h"
-#include "platform/dialogs/MessageBox.h"
 #include "platform/webview/Engine.h"
 #include "store/Configuration.h"
 #include "store/Programme.h"
@@ -107,9 +107,8 @@ PageCapturee PasserParLeFichier(const Facile &fenetre, const QString &texte) {
                      .hote = store::PartnerSiteHost.toString()}};
 }
 
-ChampsPage Extraire(Facile &fenetre, const QString &texte) {
-    const PageCapturee page = PasserParLeFichier(fenetre, texte);
-    fenetre.Pb.SetFloodPercent(55);
+/// @param texte the page before it went through the file, by which its layout is told
+ChampsPage Extraire(Facile &fenetre, const PageCapturee &page, const QString &texte) {
     if (EstPageDebutFin(texte)) {
         return ExtrairePageDebutFin(page, fenetre.Memoire);
     }
@@ -122,7 +121,9 @@ void CapturerPage(Facile &fenetre, const QString &texte) {
     for (const double part : {5.0, 50.0}) {
         fenetre.Pb.SetFloodPercent(part);
     }
-    Montrer(fenetre, Extraire(fenetre, texte));
+    const PageCapturee page = PasserParLeFichier(fenetre, texte);
+    fenetre.Pb.SetFloodPercent(55);
+    Montrer(fenetre, Extraire(fenetre, page, texte));
     ChargerPhoto(fenetre);
     fenetre.Pb.SetFloodPercent(100);
     fenetre.Pb.hide();
@@ -136,8 +137,8 @@ void AnalyserPage(Facile &fenetre, const QString &texte) {
     CapturerPage(fenetre, texte);
 }
 
-/// Without the user. False when the page does not let itself be read, which changes nothing.
-bool ReprendrePage(Facile &fenetre) {
+/// Reads the page while the user's input is shut out. False when it does not answer; nothing is changed then.
+bool LireEtAnalyser(Facile &fenetre) {
     const SansSaisie sansSaisie;
     const WaitPointer sablier;
     const std::optional<QString> texte = LirePage(*fenetre.Navigateur);
@@ -162,13 +163,12 @@ void ViderChamps(Facile &fenetre) {
 
 void PresserAnalyse(Facile &fenetre) {
     fenetre.MontrerNavigation(false);
-    const bool lue = ReprendrePage(fenetre);
+    const bool lue = LireEtAnalyser(fenetre);
     fenetre.Analyse.SetValue(false);
     if (!lue) {
         fenetre.MontrerNavigation(true);
-        platform::dialogs::Message(&fenetre, store::TitreProgramme.toString(),
-                                   QStringLiteral("La page affichée ne répond pas."),
-                                   platform::dialogs::Icon::Exclamation);
+        entry::Annoncer(fenetre, QStringLiteral("La page affichée ne répond pas."),
+                        platform::dialogs::Icon::Exclamation);
         return;
     }
     fenetre.MontrerFiche();

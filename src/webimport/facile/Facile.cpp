@@ -159,8 +159,7 @@ Facile::Facile(browser::Frmmain &frm, platform::webview::Engine &moteur)
       LQte(&Fond, rowNamed(kControles, "LQte")),
       LQte2(&Fond, rowNamed(kControles, "LQte2")),
       LIngre(&Fond, rowNamed(kControles, "LIngre")) {
-    setWindowTitle(QStringLiteral("Création facile"));
-    setAccessibleName(windowTitle());
+    SetHeading(QStringLiteral("Création facile"));
     Peindre();
     PeindreFiche();
     Brancher();
@@ -226,11 +225,11 @@ void Facile::OuvrirNavigateur() {
              [this] {
                  ++m_page;
                  MontrerAnalyse(false);
-                 DireEtat(QStringLiteral("Chargement de la page ..."));
+                 DireEtatDeLaPage(QStringLiteral("Chargement de la page ..."));
              },
          .complete =
              [this] {
-                 DireEtat(QStringLiteral("Terminé"));
+                 DireEtatDeLaPage(QStringLiteral("Terminé"));
                  ReconnaitrePage();
              },
          .history =
@@ -240,7 +239,7 @@ void Facile::OuvrirNavigateur() {
                  Navi(1).setEnabled(suivante);
                  LBtn(1).setEnabled(suivante);
              },
-         .hovered = [this](const QString &adresse) { DireStatut(adresse.isEmpty() ? m_etat : adresse); }});
+         .hovered = [this](const QString &adresse) { EcrireStatut(adresse.isEmpty() ? m_etat : adresse); }});
     QWidget &page = Navigateur->widget();
     applyRow(page, rowNamed(kControles, "WebBrowser1"));
     page.setGeometry(rowNamed(kControles, "WebBrowser1").place().pixels());
@@ -282,12 +281,12 @@ void Facile::ReconnaitrePage() {
                           });
 }
 
-void Facile::DireEtat(const QString &etat) {
+void Facile::DireEtatDeLaPage(const QString &etat) {
     m_etat = etat;
-    DireStatut(etat);
+    EcrireStatut(etat);
 }
 
-void Facile::DireStatut(const QString &texte) {
+void Facile::EcrireStatut(const QString &texte) {
     constexpr Twips kMarges{300};
     const int place = (Status.Width() - kMarges).pixels();
     Status.SetCaption(Status.fontMetrics().elidedText(texte, Qt::ElideMiddle, place));

@@ -109,8 +109,8 @@ private:
     void OuvrirNavigateur();
     void Brancher();
     void ReconnaitrePage();
-    void DireEtat(const QString &etat);
-    void DireStatut(const QString &texte);
+    void DireEtatDeLaPage(const QString &etat);
+    void EcrireStatut(const QString &texte);
     void PresserRevenir();
     void Quitter();
 

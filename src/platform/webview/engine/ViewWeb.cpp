@@ -6,15 +6,15 @@
 #include <QWebEngineScript>
 #include <QWebEngineView>
 
-#include <csignal>
-
 #include <chrono>
+#include <csignal>
 #include <utility>
 
 namespace platform::webview {
 
 namespace {
 
+/// How long a page that is left may give no sign of life.
 constexpr std::chrono::seconds kPatience{5};
 
 } // namespace
@@ -46,7 +46,7 @@ void ViewWeb::connectEvents() {
         answerAll();
         m_events.complete();
     });
-    connect(&m_page, &QWebEnginePage::renderProcessTerminated, this, &ViewWeb::bury);
+    connect(&m_page, &QWebEnginePage::renderProcessTerminated, this, &ViewWeb::processEnded);
     connect(&m_page, &QWebEnginePage::linkHovered, this,
             [this](const QString &url) { m_events.hovered(url); });
     QAction *back = m_page.action(QWebEnginePage::Back);
@@ -118,12 +118,14 @@ void ViewWeb::leave(const std::function<void()> &go) {
     });
 }
 
-void ViewWeb::bury() {
+/// The page stays on the screen as it was, unless it was ended because another is wanted.
+void ViewWeb::processEnded() {
     m_dead = true;
     answerAll();
-    m_events.complete();
     if (const auto go = std::exchange(m_leaving, nullptr)) {
         go();
+    } else {
+        m_events.complete();
     }
 }
 

@@ -32,7 +32,7 @@ private:
     void answer(int script, const std::optional<QString> &text);
     void answerAll();
     void leave(const std::function<void()> &go);
-    void bury();
+    void processEnded();
 
     Events m_events;
     std::map<int, Result> m_waiting; ///< by number of the script
