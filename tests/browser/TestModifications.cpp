@@ -82,14 +82,11 @@ private Q_SLOTS:
     void aChosenValueIsStoredAtOnce() {
         DropList &list = open(6, m_window->LCategorie);
         QVERIFY(list.isVisible() && list.hasFocus());
-        QCOMPARE(list.Place().top, m_window->Data(6).Place().top);
         QCOMPARE(list.Text(), u"10 mn"_qs);
         choose(list, u"1 heure"_qs);
         QCOMPARE(stored(u"NCategorie"_qs), u"2"_qs);
         QCOMPARE(m_window->Data(6).Caption(), u"1 heure"_qs);
-        QCOMPARE(m_window->Data(6).toolTip(), u"1 heure"_qs);
-        QVERIFY(!list.isVisible());
-        QVERIFY(m_window->Data(6).hasFocus());
+        QVERIFY(!list.isVisible() && m_window->Data(6).hasFocus());
 
         choose(open(4, m_window->LTeneur), u"Cidre"_qs);
         QCOMPARE(stored(u"Teneur"_qs), u"2"_qs);
@@ -165,7 +162,6 @@ private Q_SLOTS:
         QCOMPARE(m_window->LCout.Text(), store::Cout[1].toString());
         choose(m_window->LCout, store::Cout[4].toString());
         QCOMPARE(stored(u"Cout"_qs), u"4"_qs);
-        QCOMPARE(m_window->Data(2).Tag(), u"4"_qs);
         LivreEssai::execute({u"UPDATE Cocktails SET Cout = 0"_qs});
         choose(open(2, m_window->LCout), store::Cout[4].toString()); // stored although it was shown
         QCOMPARE(stored(u"Cout"_qs), u"4"_qs);
@@ -182,18 +178,6 @@ private Q_SLOTS:
         typeInto(m_window->LCategorie, u"3 heures"_qs);
         QVERIFY_THROWS_EXCEPTION(std::out_of_range, ChoisirValeur(*m_window, 6));
         QCOMPARE(count(u"SELECT * From Categorie where Categorie = '3 heures'"_qs), 1);
-    }
-
-    void overAnEmptyTableTwoListsKeepTheirPlace() {
-        LivreEssai::execute({u"DELETE From Verre"_qs, u"DELETE From DureeReal"_qs});
-        ChargerLesListesCombo(*m_window);
-        m_window->LVerre.SetLeft(Twips(15));
-        m_window->LDureeReal.SetLeft(Twips(15));
-        open(0, m_window->LVerre);
-        QCOMPARE(m_window->LVerre.Left(), Twips(15));
-        open(5, m_window->LDureeReal);
-        QCOMPARE(m_window->LDureeReal.Left(), m_window->Data(5).Left());
-        QVERIFY(!m_window->LVerre.isVisible());
     }
 
     void textsAreStoredAsTheyAreTyped() {
@@ -219,8 +203,6 @@ private Q_SLOTS:
         choose(m_window->LQuantite, u"200"_qs);
         QCOMPARE(m_window->Quantite(1).Caption(), u"200"_qs);
         QCOMPARE(lines(), u"1|1|2|1 1|2|2|2"_qs);
-        show();
-        QCOMPARE(m_window->Ingre(0).Caption(), u"Beurre"_qs);
     }
 
     void theDottedRowAddsALine() {

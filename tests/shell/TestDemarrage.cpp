@@ -32,7 +32,6 @@ private Q_SLOTS:
         QCOMPARE(m_window->Mode(), 0);
         QCOMPARE(LivreEssai::setting(u"Tris"_qs), u"0"_qs);
         QCOMPARE(m_window->LTDroit.Caption(), u"Tarte"_qs);
-        QCOMPARE(m_window->LCout.Count() + m_window->LDiff.Count(), 11);
         const QPoint off =
             m_window->geometry().center() - QGuiApplication::primaryScreen()->geometry().center();
         QVERIFY(off.manhattanLength() <= 2);
@@ -103,12 +102,7 @@ private Q_SLOTS:
         for (const bool present : {true, false}) {
             QCOMPARE(QFile::exists(scratch), present);
             const Reponse yes(u"Oui"_qs);
-            try {
-                m_window->Btn_Quit.SetValue(true);
-                QFAIL("the program goes on");
-            } catch (const shell::FinDuProgramme &end) {
-                QCOMPARE(end.code, 0);
-            }
+            QVERIFY_THROWS_EXCEPTION(shell::FinDuProgramme, m_window->Btn_Quit.SetValue(true));
             m_window->Btn_Quit.SetValue(false);
         }
         QVERIFY(!QFile::exists(scratch));

@@ -9,6 +9,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <array>
 #include <memory>
 
 using namespace store;
@@ -114,39 +115,31 @@ private Q_SLOTS:
         QVERIFY_EXCEPTION_THROWN(ModifierSiRenseigne(valeur, u"Categorie"_qs, 3, 1), DatabaseError);
     }
 
-    void replacedLineComesFirst_data() {
-        QTest::addColumn<LigneIngre>("ancienne");
-        QTest::addColumn<LigneIngre>("nouvelle");
-        QTest::addColumn<QString>("attendu");
-        const auto row = [](const char *name, const LigneIngre &ancienne, const LigneIngre &nouvelle,
-                            const QString &attendu) {
-            QTest::newRow(name) << ancienne << nouvelle << attendu;
-        };
-        row("another quantity", {1, 1, 10}, {5, 1, 10}, u"7|10|5|1 7|30|3|3 7|20|2|2 7|20|2|2"_qs);
-        row("the same line moves up", {1, 1, 10}, {1, 1, 10}, u"7|10|1|1 7|30|3|3 7|20|2|2 7|20|2|2"_qs);
-        row("one of two equal lines goes, the other is enough", {2, 2, 20}, {2, 2, 20},
-            u"7|30|3|3 7|20|2|2 7|10|1|1"_qs);
-        row("merged into another line", {1, 1, 10}, {3, 3, 30}, u"7|30|3|3 7|20|2|2 7|20|2|2"_qs);
-        row("no such line: only added", {9, 9, 90}, {4, 4, 40},
-            u"7|40|4|4 7|30|3|3 7|20|2|2 7|20|2|2 7|10|1|1"_qs);
-    }
-
     void replacedLineComesFirst() {
-        QFETCH(const LigneIngre, ancienne);
-        QFETCH(const LigneIngre, nouvelle);
-        executer(
-            u"INSERT INTO Ingre VALUES (7, 10, 1, 1), (7, 20, 2, 2), (8, 10, 1, 1), (7, 20, 2, 2), (7, 30, 3, 3)"_qs);
-        RemplacerLigneIngre(7, ancienne, nouvelle);
-        QTEST(rowsOf(u"SELECT * From Ingre where Numero = 7 order by Numero desc"_qs, 4).join(u' '),
-              "attendu");
-        QCOMPARE(rowsOf(u"SELECT * From Ingre where Numero = 8"_qs, 4), QStringList{u"8|10|1|1"_qs});
-    }
+        struct Cas {
+            LigneIngre ancienne, nouvelle;
+            QString attendu;
+        };
 
-    void deletesEveryRowOfAValue() {
-        executer(u"INSERT INTO Ingre VALUES (7, 10, 1, 1), (7, 20, 2, 2), (8, 10, 1, 1)"_qs);
-        SupprimerFiches(u"Ingre"_qs, 9, u"Numero"_qs);
-        SupprimerFiches(u"Ingre"_qs, 7, u"Numero"_qs);
-        QCOMPARE(rowsOf(u"SELECT * From Ingre"_qs, 4), QStringList{u"8|10|1|1"_qs});
+        const auto cas = std::to_array<Cas>({
+            {{1, 1, 10}, {5, 1, 10}, u"7|10|5|1 7|30|3|3 7|20|2|2 7|20|2|2"_qs},
+            {{1, 1, 10}, {1, 1, 10}, u"7|10|1|1 7|30|3|3 7|20|2|2 7|20|2|2"_qs}, // moves up
+            // One of two equal lines goes, the other is enough.
+            {{2, 2, 20}, {2, 2, 20}, u"7|30|3|3 7|20|2|2 7|10|1|1"_qs},
+            {{1, 1, 10}, {3, 3, 30}, u"7|30|3|3 7|20|2|2 7|20|2|2"_qs}, // merged into another
+            // No such line: only added.
+            {{9, 9, 90}, {4, 4, 40}, u"7|40|4|4 7|30|3|3 7|20|2|2 7|20|2|2 7|10|1|1"_qs},
+        });
+
+        for (const auto &[ancienne, nouvelle, attendu] : cas) {
+            SupprimerFiches(u"Ingre"_qs, 7, u"Numero"_qs);
+            executer(
+                u"INSERT INTO Ingre VALUES (7, 10, 1, 1), (7, 20, 2, 2), (7, 20, 2, 2), (7, 30, 3, 3), (8, 1, 1, 1)"_qs);
+            RemplacerLigneIngre(7, ancienne, nouvelle);
+            QCOMPARE(rowsOf(u"SELECT * From Ingre where Numero = 7 order by Numero desc"_qs, 4).join(u' '),
+                     attendu);
+        }
+        QCOMPARE(rowsOf(u"SELECT * From Ingre where Numero = 8"_qs, 1).size(), 5);
     }
 
     void addedRowsTakeTheNextNumber() {
@@ -164,28 +157,32 @@ private Q_SLOTS:
         QCOMPARE(rowsOf(u"SELECT * From Verre"_qs, 5), (QStringList{u"1|2| | | "_qs, u"2|4|-|-|-"_qs}));
     }
 
-    void numberIsFoundOrMade_data() {
-        QTest::addColumn<QString>("texte");
-        QTest::addColumn<int>("numero");
-        QTest::addColumn<QString>("ajoutee");
-        QTest::newRow("whatever the case") << u"ÉPICE D'ÉTÉ"_qs << 2 << QString();
-        QTest::newRow("of equal texts the oldest") << u"sel"_qs << 1 << QString();
-        QTest::newRow("another accent is another text") << u"epice d'été"_qs << 10 << u"10|epice d'été"_qs;
-        QTest::newRow("a trailing blank too") << u"sel "_qs << 10 << u"10|sel "_qs;
-        QTest::newRow("quotes stored single") << u"l'\"ail\"; --"_qs << 10 << u"10|l'\"ail\"; --"_qs;
-        QTest::newRow("dots never found") << LignePointillee.toString() << 10 << u"10| "_qs;
-        QTest::newRow("a blank is found") << u" "_qs << 9 << QString();
-        QTest::newRow("empty changes nothing") << QString() << -5 << QString();
-    }
-
     void numberIsFoundOrMade() {
-        QFETCH(const QString, texte);
-        QFETCH(const int, numero);
+        struct Cas {
+            QString texte;
+            qint64 numero;
+            QString ajoutee;
+        };
+
+        const auto cas = std::to_array<Cas>({
+            {u"ÉPICE D'ÉTÉ"_qs, 2, {}},
+            {u"sel"_qs, 1, {}}, // of equal texts the oldest
+            {u"epice d'été"_qs, 10, u"10|epice d'été"_qs},
+            {u"sel "_qs, 10, u"10|sel "_qs},
+            {u"l'\"ail\"; --"_qs, 10, u"10|l'\"ail\"; --"_qs},
+            {LignePointillee.toString(), 10, u"10| "_qs},
+            {u" "_qs, 9, {}},
+            {{}, -5, {}}, // changes nothing
+        });
+
         executer(u"INSERT INTO Ingredient VALUES (1, 'Sel'), (2, 'épice d''été'), (5, 'SEL'), (9, ' ')"_qs);
-        qint64 trouve = -5;
-        RechercherNumero(texte, trouve, u"Ingredient"_qs, u"NIngredient"_qs);
-        QCOMPARE(trouve, numero);
-        QTEST(rowsOf(u"SELECT * From Ingredient"_qs, 2).mid(4).join(u' '), "ajoutee");
+        for (const auto &[texte, numero, ajoutee] : cas) {
+            qint64 trouve = -5;
+            RechercherNumero(texte, trouve, u"Ingredient"_qs, u"NIngredient"_qs);
+            QCOMPARE(trouve, numero);
+            QCOMPARE(rowsOf(u"SELECT * From Ingredient"_qs, 2).mid(4).join(u' '), ajoutee);
+            SupprimerFiches(u"Ingredient"_qs, 10, u"NIngredient"_qs);
+        }
     }
 
     /// Lists and searches over many recipes must not read the pages of the long texts.

@@ -19,28 +19,19 @@ using namespace store;
 
 namespace {
 
-/// The administrator, whom nothing is forbidden, is somebody else for as long as the object lives.
-class PlainUser {
-public:
-    PlainUser() : m_administrator(geteuid() == 0) {
-        constexpr uid_t kNobody = 65534;
-        if (m_administrator && setresuid(kNobody, kNobody, 0) != 0) {
-            qFatal("cannot become another user");
-        }
+/// Does something as a user to whom things can be forbidden, which the administrator is not.
+template <class Act>
+void asPlainUser(Act act) {
+    constexpr uid_t kNobody = 65534;
+    const bool administrator = geteuid() == 0;
+    if (administrator && setresuid(kNobody, kNobody, 0) != 0) {
+        qFatal("cannot become another user");
     }
-
-    PlainUser(const PlainUser &) = delete;
-    PlainUser &operator=(const PlainUser &) = delete;
-
-    ~PlainUser() {
-        if (m_administrator && setresuid(0, 0, 0) != 0) {
-            qFatal("cannot become the administrator again");
-        }
+    act();
+    if (administrator && setresuid(0, 0, 0) != 0) {
+        qFatal("cannot become the administrator again");
     }
-
-private:
-    bool m_administrator;
-};
+}
 
 void makeBook(const QString &path, const QString &recipe) {
     CreerLivre(path);
@@ -121,16 +112,12 @@ private Q_SLOTS:
         CopierFichier(path(u"copie.mdb"_qs), CheminNouveauLivre());
         QVERIFY(QFile::setPermissions(CheminBase(), QFile::ReadOwner | QFile::ReadOther));
         QVERIFY(QFile::setPermissions(m_folder->path(), QFile::Permissions(0x7777)));
-        {
-            const PlainUser user;
-            QVERIFY_THROWS_EXCEPTION(CopieError, RemplacerLivre(CheminAvantRestauration()));
-        }
+        asPlainUser([] { QVERIFY_THROWS_EXCEPTION(CopieError, RemplacerLivre(CheminAvantRestauration())); });
         QVERIFY(QFile::setPermissions(m_folder->path(), QFile::Permissions(0x5555)));
-        {
-            const PlainUser user;
+        asPlainUser([this] {
             QVERIFY_THROWS_EXCEPTION(CopieError, CopierFichier(path(u"copie.mdb"_qs), CheminNouveauLivre()));
             QVERIFY_THROWS_EXCEPTION(CopieError, CopierFichier(path(u"absente.mdb"_qs), path(u"x"_qs)));
-        }
+        });
         QCOMPARE(contentOf(CheminBase()), before);
         QVERIFY(QFile::setPermissions(m_folder->path(), QFile::Permissions(0x7777)));
         QCOMPARE(files(), QStringList({u"copie.mdb"_qs, u"db.mdb"_qs}));

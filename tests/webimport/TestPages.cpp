@@ -78,19 +78,14 @@ private Q_SLOTS:
 
     void initTestCase() { QLocale::setDefault(QLocale(QLocale::French, QLocale::France)); }
 
-    void wholePages_data() {
-        QTest::addColumn<bool>("secondLayout");
-        QTest::newRow("commentee") << false;
-        QTest::newRow("debut-fin") << true;
-    }
-
     void wholePages() {
-        QFETCH(const bool, secondLayout);
-        const QByteArray nom = QTest::currentDataTag();
-        const QString texte = fichier(nom + ".html");
-        QVERIFY(EstPageDeRecette(texte));
-        QCOMPARE(EstPageDebutFin(texte), secondLayout);
-        QCOMPARE(resume(secondLayout ? debutFin(texte) : commentee(texte)), fichier(nom + ".txt"));
+        for (const QByteArray &nom : {QByteArray("commentee"), QByteArray("debut-fin")}) {
+            const QString texte = fichier(nom + ".html");
+            const bool secondLayout = nom == "debut-fin";
+            QVERIFY(EstPageDeRecette(texte));
+            QCOMPARE(EstPageDebutFin(texte), secondLayout);
+            QCOMPARE(resume(secondLayout ? debutFin(texte) : commentee(texte)), fichier(nom + ".txt"));
+        }
     }
 
     void dishTypeOfACommentedPage() {
@@ -273,16 +268,6 @@ private Q_SLOTS:
         debutFin(texte);
         // Some seconds with the sanitizers; a step that looks at the whole page for each line takes hours.
         QVERIFY2(duree.elapsed() < 60'000, qPrintable(QString::number(duree.elapsed())));
-    }
-
-    void tenThousandIngredients() {
-        const QString liste = u"<LI>100 g de sucre\r\n"_qs.repeated(10'000);
-        QCOMPARE(commentee(u"<!-- debut ingredient -->\r\n" + liste + u"<UL><!-- fin ingredient -->")
-                     .Lignes.size(),
-                 10'000U);
-        QCOMPARE(debutFin(u"<!-- DEBUT INGREDIENTS  -->\r\n" + liste + u"<UL><!-- FIN INGREDIENTS -->")
-                     .Lignes.size(),
-                 10'001U);
     }
 };
 

@@ -1,0 +1,129 @@
+#include "EssaiCoque.h"
+
+#include "browser/Operations.h"
+
+#include <functional>
+
+using shell::Fenetres;
+
+/// How the windows that take the place of the main window are opened, minimised, brought back and closed.
+class TestOutils : public QObject {
+    Q_OBJECT
+
+private:
+    std::function<void()> tool(int number) const {
+        return [this, number] { m_program->main().Outils(number).SetValue(true); };
+    }
+
+    /// Opens a window, does something with it and closes it.
+    template <class Window, class Act>
+    void use(const std::function<void()> &open, Window &(Fenetres::*window)(), Act act) {
+        const browser::Frmmain &frm = m_program->main();
+        bool seen = false;
+        QTimer::singleShot(0, this, [&] {
+            Window &opened = (m_program->windows.get()->*window)();
+            seen = opened.isVisible() && !frm.isVisible();
+            act(opened);
+            opened.Quit.SetValue(true);
+        });
+        open();
+        QVERIFY(seen && frm.isVisible());
+        QVERIFY(!frm.Outils(0).Value() && !frm.Outils(2).Value() && !frm.Outils(3).Value());
+    }
+
+    /// Minimises a window, and brings it back as the task bar does.
+    void minimise(platform::controls::ToolWindow &window) const {
+        browser::Pop &pop = m_program->windows->Pop;
+        QTest::mouseClick(&window.Mini, Qt::LeftButton);
+        QVERIFY(!window.isVisible() && !m_program->main().isVisible());
+        QTRY_VERIFY(pop.isVisible());
+        pop.setWindowState(Qt::WindowNoState);
+        QTRY_VERIFY(window.isVisible());
+        QVERIFY(!pop.isVisible());
+    }
+
+    std::unique_ptr<EssaiCoque> m_program;
+
+private Q_SLOTS:
+
+    void init() {
+        m_program = std::make_unique<EssaiCoque>();
+        LivreEssai::execute({
+            u"INSERT INTO Ingre VALUES (1, 1, 1, 1), (1, 2, 1, 1)"_qs,
+            u"INSERT INTO Cocktails (Numero, Recette, Cout, difficulte) VALUES (2, 'Aïoli', 0, 0)"_qs,
+        });
+        platform::settings::SaveSetting(u"Savorel"_qs, u"Patch"_qs, u"Mode"_qs, u"1"_qs);
+        m_program->start();
+    }
+
+    void cleanup() { m_program.reset(); }
+
+    void creationAndWorkshopAreMadeAnewEachTime() {
+        for (int turn = 0; turn < 2; ++turn) {
+            LivreEssai::execute({u"INSERT INTO Quantite VALUES (%1, 'q')"_qs.arg(turn + 1)});
+            use(tool(0), &Fenetres::Creation, [&](entry::Manuelle &window) {
+                QCOMPARE(window.Mode(), 0); // and not the one of the main window
+                QCOMPARE(window.LQte.Count(), turn + 1);
+                QCOMPARE(window.TitreRecette.Text(), QString());
+                window.TitreRecette.SetText(u"Riz"_qs);
+            });
+            use(tool(3), &Fenetres::Atelier, [](pictures::atelier::Acquisition &window) {
+                QVERIFY(window.PhotoScan.Picture().isNull() && window.Btn_ScanS(0).isEnabled());
+                window.PhotoScan.SetPicture(QImage(4, 4, QImage::Format_RGB32));
+                window.AttendreUneImage();
+            });
+            QVERIFY(m_program->windows->Outils().empty());
+        }
+    }
+
+    void theSheetShowsTheRecipeOfTheList() {
+        for (const auto &[row, title, lines] :
+             {std::tuple(1, u"Aïoli"_qs, 1), std::tuple(2, u"Tarte"_qs, 3)}) {
+            clickRow(m_program->main().Liste, row);
+            use(tool(2), &Fenetres::Fiches, [&, &title = title, &lines = lines](sheets::FicheAlbum &window) {
+                QCOMPARE(window.Recette.Caption(), title);
+                QCOMPARE(window.Qte.Count(), lines);
+            });
+        }
+    }
+
+    void theMenuOpensTheCreationWhereRowsAreRecipes() {
+        browser::Frmmain &frm = m_program->main();
+        browser::Pop &pop = m_program->windows->Pop;
+        clickRow(frm.Liste, 1, Qt::RightButton);
+        QTRY_VERIFY(pop.Menu1.isVisible());
+        pop.Menu1.close();
+        QVERIFY(pop.Ajouter.isEnabled());
+        use([&] { pop.Ajouter.trigger(); }, &Fenetres::Creation, [](const entry::Manuelle & /*window*/) {});
+
+        frm.Outils(2).SetTag(browser::kBas);
+        browser::EnregistrerVue(5);
+        QVERIFY(browser::PeutAjouter(frm));
+        frm.Outils(2).SetTag({});
+        QVERIFY(!browser::PeutAjouter(frm));
+    }
+
+    void aMinimisedWindowComesBackAsItWas() {
+        const std::function<void()> byMenu = [this] { Q_EMIT m_program->main().CreationDemandee(); };
+        for (const auto &open : {tool(0), byMenu}) {
+            m_program->windows->Pop.FenetreOuverte = browser::Pop::kSeule;
+            use(open, &Fenetres::Creation, [this](entry::Manuelle &window) {
+                window.TitreRecette.SetText(u"Riz"_qs);
+                window.Ingre(10).SetText(u"Sel"_qs);
+                window.Saisie(1).setFocus();
+                minimise(window);
+                QCOMPARE(window.TitreRecette.Text() + window.Ingre(10).Text(), u"RizSel"_qs);
+                QCOMPARE(window.focusWidget(), &window.Saisie(1));
+            });
+        }
+        use(tool(2), &Fenetres::Fiches, [this](sheets::FicheAlbum &window) { minimise(window); });
+        use(tool(3), &Fenetres::Atelier, [this](pictures::atelier::Acquisition &window) {
+            window.PhotoScan.SetPicture(QImage(4, 4, QImage::Format_RGB32));
+            minimise(window);
+            QCOMPARE(window.PhotoScan.Picture().width(), 4);
+        });
+    }
+};
+
+QTEST_MAIN(TestOutils)
+#include "TestOutils.moc"
