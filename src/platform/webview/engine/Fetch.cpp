@@ -15,7 +15,7 @@ namespace platform::webview {
 namespace {
 
 constexpr std::chrono::seconds kPatience{30};
-constexpr qint64 kLargest = 32 * 1024 * 1024; // bytes
+constexpr qint64 kLargest = 33'554'432; // bytes
 
 std::optional<QByteArray> fetchFile(const QString &path) {
     QFile file(path);
