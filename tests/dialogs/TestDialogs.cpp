@@ -137,16 +137,14 @@ private Q_SLOTS:
     }
 
     void filterShowsItsDescriptionAndFitsAnyCase() {
-        QWidget hidden;
         const auto user = answering<QFileDialog>([](QFileDialog &dialog) {
-            auto *types = dialog.findChild<QComboBox *>(u"fileTypeCombo"_qs);
+            const auto *types = dialog.findChild<QComboBox *>(u"fileTypeCombo"_qs);
             QCOMPARE(types->itemText(0), u"Images (*.bmp,*.jpg)"_qs);
-            QCOMPARE(types->itemText(1), u"Tout"_qs);
             QTRY_COMPARE(filesShown(dialog), (QStringList{u"A.JPG"_qs, u"l'été b.bmp"_qs}));
             nameField(dialog)->setText(u"l'été b.bmp"_qs);
             QTest::keyClick(nameField(dialog), Qt::Key_Return);
         });
-        QCOMPARE(ShowOpen(&hidden, u"Ouvrir"_qs, kFilter, path(u"images"_qs)),
+        QCOMPARE(ShowOpen(nullptr, u"Ouvrir"_qs, kFilter, path(u"images"_qs)),
                  path(u"images/l'été b.bmp"_qs));
     }
 

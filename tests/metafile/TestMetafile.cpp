@@ -1,8 +1,9 @@
+#include "Files.h"
+
 #include "platform/controls/Picture.h"
 #include "platform/metafile/Metafile.h"
 
 #include <QElapsedTimer>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QtEndian>
@@ -59,12 +60,8 @@ class TestMetafile : public QObject {
 private:
     QTemporaryDir m_folder;
 
-    QString file(const QString &name, const QByteArray &content) {
-        QFile file(m_folder.filePath(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {
-            qFatal("the file cannot be written");
-        }
-        return file.fileName();
+    QString file(const QString &name, const QByteArray &content) const {
+        return writeFile(m_folder.filePath(name), content);
     }
 
 private Q_SLOTS:

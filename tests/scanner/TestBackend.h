@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QDir>
-#include <QFile>
+#include "Files.h"
+
 #include <QTemporaryDir>
 
 /// SANE confined to its simulated devices "test:0" and so on, by a configuration folder of the test's own.
@@ -28,10 +28,7 @@ public:
 
 private:
     void write(const QString &name, const QByteArray &content) {
-        QFile file(m_folder.filePath(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {
-            qFatal("the configuration cannot be written");
-        }
+        writeFile(m_folder.filePath(name), content);
     }
 
     QTemporaryDir m_folder;
