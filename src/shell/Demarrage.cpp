@@ -192,8 +192,7 @@ void PreparerApplication() {
     store::PreparerLivre();
     QApplication::setApplicationName(Titre());
     QApplication::setQuitOnLastWindowClosed(false);
-    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns it
-    QApplication::setStyle(new Style(QStringLiteral("Fusion")));
+    QApplication::setStyle(new Style(QStringLiteral("Fusion"))); // the application owns it
     QApplication::setWindowIcon(resourcePicture(QStringLiteral(":/icones/savorel.argb")));
     substituteFonts();
     QApplication::setFont(interfaceFont(Face::Verdana, 8.25));
