@@ -269,6 +269,16 @@ private Q_SLOTS:
         // Some seconds with the sanitizers; a step that looks at the whole page for each line takes hours.
         QVERIFY2(duree.elapsed() < 60'000, qPrintable(QString::number(duree.elapsed())));
     }
+
+    void tenThousandIngredients() {
+        const QString liste = u"<LI>100 g de sucre\r\n"_qs.repeated(10'000);
+        QCOMPARE(commentee(u"<!-- debut ingredient -->\r\n" + liste + u"<UL><!-- fin ingredient -->")
+                     .Lignes.size(),
+                 10'000U);
+        QCOMPARE(debutFin(u"<!-- DEBUT INGREDIENTS  -->\r\n" + liste + u"<UL><!-- FIN INGREDIENTS -->")
+                     .Lignes.size(),
+                 10'001U);
+    }
 };
 
 QTEST_GUILESS_MAIN(TestPages)
