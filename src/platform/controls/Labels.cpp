@@ -6,7 +6,15 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace platform::controls {
+
+namespace {
+
+constexpr int kFloodInset = 2; // pixels from the edge of a panel to its flood
+
+} // namespace
 
 TextLabel::TextLabel(QWidget *parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
@@ -58,9 +66,18 @@ void CaptionPanel::SetReachable() {
 void CaptionPanel::SetFloodPercent(double percent) {
     const int whole = qBound(0, static_cast<int>(percent), 100);
     if (whole != m_flood) {
+        const QRect before = flooded();
         m_flood = whole;
-        repaint();
+        // The part that changes is painted at once, and alone: the user waits for the records, not for the panel.
+        const QRect after = flooded();
+        repaint(before.united(after).adjusted(std::min(before.width(), after.width()), 0, 0, 0));
     }
+}
+
+/// The part of the panel that is flooded.
+QRect CaptionPanel::flooded() const {
+    return {kFloodInset, kFloodInset, (width() - 2 * kFloodInset) * m_flood / 100,
+            height() - 2 * kFloodInset};
 }
 
 void CaptionPanel::paintEvent(QPaintEvent * /*event*/) {
@@ -69,9 +86,8 @@ void CaptionPanel::paintEvent(QPaintEvent * /*event*/) {
         paintBlock(painter, rect(), m_radius, m_ground, m_ground.darker(106), skinAround(*this).edge);
     }
     if (m_flood > 0) {
-        const QRectF filled(2, 2, (width() - 4) * m_flood / 100.0, height() - 4.0);
         const QColor accent = skinAround(*this).accent;
-        paintBlock(painter, filled, 3, accent.lighter(120), accent, QColor());
+        paintBlock(painter, flooded(), 0, accent.lighter(120), accent, QColor());
     }
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, foregroundRole()));
     painter.setOpacity(isEnabled() ? 1.0 : 0.45);

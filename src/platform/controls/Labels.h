@@ -69,6 +69,8 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
 
 private:
+    QRect flooded() const;
+
     QString m_caption;
     QColor m_ground = Qt::transparent;
     double m_radius = 4;
