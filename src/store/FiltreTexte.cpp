@@ -9,53 +9,79 @@ namespace {
 
 constexpr std::size_t kLettres = 0x180; // the Latin letters of Western languages
 
-/// The upper case of each of the first characters; 0 for those that become two letters, as ß does.
-std::array<char16_t, kLettres> calculerMajuscules() {
-    std::array<char16_t, kLettres> majuscules{};
-    for (std::size_t lettre = 0; lettre < kLettres; ++lettre) {
-        const QString majuscule = QString(QChar(static_cast<char16_t>(lettre))).toUpper();
-        majuscules.at(lettre) = majuscule.size() == 1 ? majuscule.front().unicode() : u'\0';
+/// A character of two bytes in UTF-8.
+using Paire = std::array<char, 2>;
+
+/// The upper case of each of the first characters beyond ASCII; zeros for those whose upper case has not two bytes, as
+/// that of ß.
+std::array<Paire, kLettres> calculerMajuscules() {
+    std::array<Paire, kLettres> majuscules{};
+    for (std::size_t lettre = 0x80; lettre < kLettres; ++lettre) {
+        const QByteArray majuscule = QString(QChar(static_cast<char16_t>(lettre))).toUpper().toUtf8();
+        if (majuscule.size() == 2) {
+            majuscules.at(lettre) = {majuscule[0], majuscule[1]};
+        }
     }
     return majuscules;
+}
+
+constexpr bool horsAscii(char octet) {
+    return (static_cast<unsigned char>(octet) & 0x80U) != 0;
+}
+
+/// Copies a text with the letters of ASCII in upper case; true if it has others besides. Without a branch, so that the
+/// compiler can take many letters at a time.
+bool mettreAsciiEnMajuscules(QByteArrayView texte, std::string &majuscules) {
+    const auto taille = static_cast<std::size_t>(texte.size());
+    majuscules.resize(taille);
+    const char *source = texte.data();
+    char *cible = majuscules.data();
+    unsigned char tous = 0;
+    for (std::size_t i = 0; i < taille; ++i) {
+        const auto octet = static_cast<unsigned char>(source[i]);
+        const bool minuscule = octet >= 'a' && octet <= 'z';
+        cible[i] = static_cast<char>(octet - (minuscule ? 'a' - 'A' : 0));
+        tous |= octet;
+    }
+    return horsAscii(static_cast<char>(tous));
+}
+
+/// Puts the letters of two bytes into upper case; false if there is one that the table does not tell.
+bool mettreAccentsEnMajuscules(std::string &texte) {
+    static const std::array<Paire, kLettres> majuscules = calculerMajuscules();
+    for (std::size_t i = 0; i < texte.size(); ++i) {
+        if (!horsAscii(texte[i])) {
+            continue;
+        }
+        const auto premier = static_cast<unsigned char>(texte[i]);
+        if (premier >> 5 != 0b110 || i + 1 == texte.size()) {
+            return false;
+        }
+        const std::size_t numero =
+            std::size_t{premier & 0x1FU} << 6 | (static_cast<unsigned char>(texte[i + 1]) & 0x3FU);
+        const Paire majuscule = numero < kLettres ? majuscules[numero] : Paire{};
+        if (majuscule == Paire{}) {
+            return false;
+        }
+        texte[i] = majuscule[0];
+        texte[++i] = majuscule[1];
+    }
+    return true;
 }
 
 } // namespace
 
 FiltreTexte::FiltreTexte(bool enTete, const QString &filtre)
-    : m_enTete(enTete), m_cherche(filtre.toUpper().toStdU16String()) {}
+    : m_enTete(enTete), m_cherche(filtre.toUpper().toStdString()) {}
 
 bool FiltreTexte::Garde(QByteArrayView texte) {
     if (m_cherche.empty()) {
         return m_enTete;
     }
-    if (!MettreEnMajuscules(texte)) {
-        m_majuscules = QString::fromUtf8(texte).toUpper().toStdU16String();
+    if (mettreAsciiEnMajuscules(texte, m_majuscules) && !mettreAccentsEnMajuscules(m_majuscules)) {
+        m_majuscules = QString::fromUtf8(texte).toUpper().toStdString();
     }
-    return m_enTete ? m_majuscules.starts_with(m_cherche)
-                    : m_majuscules.find(m_cherche) != std::u16string::npos;
-}
-
-/// Puts the text into m_majuscules, if each of its letters is one of the common ones: these have one byte, or two of
-/// which the first begins with the bits 110.
-bool FiltreTexte::MettreEnMajuscules(QByteArrayView texte) {
-    static const std::array<char16_t, kLettres> majuscules = calculerMajuscules();
-    m_majuscules.clear();
-    for (auto place = texte.begin(); place != texte.end(); ++place) {
-        const auto lettre = static_cast<unsigned char>(*place);
-        std::size_t numero = lettre;
-        if (lettre >= 0x80) {
-            if (lettre >> 5 != 0b110 || ++place == texte.end()) {
-                return false;
-            }
-            numero = std::size_t{lettre & 0x1FU} << 6 | (static_cast<unsigned char>(*place) & 0x3FU);
-        }
-        const char16_t majuscule = numero < kLettres ? majuscules[numero] : u'\0';
-        if (majuscule == u'\0') {
-            return false;
-        }
-        m_majuscules.push_back(majuscule);
-    }
-    return true;
+    return m_enTete ? m_majuscules.starts_with(m_cherche) : m_majuscules.find(m_cherche) != std::string::npos;
 }
 
 } // namespace store

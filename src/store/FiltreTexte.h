@@ -18,11 +18,9 @@ public:
     bool Garde(QByteArrayView texte);
 
 private:
-    bool MettreEnMajuscules(QByteArrayView texte);
-
     bool m_enTete;
-    std::u16string m_cherche;
-    std::u16string
+    std::string m_cherche; // in UTF-8, as all texts here
+    std::string
         m_majuscules; // of the text looked at; kept, so that thousands of texts need no memory of their own
 };
 
