@@ -1,6 +1,5 @@
 #include "Textes.h"
 
-#include <array>
 #include <charconv>
 
 namespace store {
@@ -19,11 +18,12 @@ QString SansBlancs(QStringView texte) {
     return texte.toString();
 }
 
+CleEcrite::CleEcrite(qint64 numero)
+    : m_taille(std::to_chars(m_lettres.data() + 2, m_lettres.data() + m_lettres.size(), numero).ptr -
+               m_lettres.data()) {}
+
 QString CleDeListe(qint64 numero) {
-    // Made for each row of a list of thousands, so without any text in between.
-    std::array<char, 24> cle{'N', ' '};
-    const auto fin = std::to_chars(cle.data() + 2, cle.data() + cle.size(), numero).ptr;
-    return QString::fromLatin1(cle.data(), fin - cle.data());
+    return CleEcrite(numero).Texte().toString();
 }
 
 qint64 NumeroDeCle(QStringView cle) {

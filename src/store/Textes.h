@@ -2,6 +2,9 @@
 
 #include <QString>
 #include <QStringView>
+#include <QUtf8StringView>
+
+#include <array>
 
 namespace store {
 
@@ -13,6 +16,18 @@ QString SansBlancs(QStringView texte);
 
 /// The key of a row in a list: "N 12" for 12.
 QString CleDeListe(qint64 numero);
+
+/// The same in a memory of its own, for lists of thousands of rows.
+class CleEcrite {
+public:
+    explicit CleEcrite(qint64 numero);
+
+    QUtf8StringView Texte() const { return {m_lettres.data(), m_taille}; }
+
+private:
+    std::array<char, 24> m_lettres{'N', ' '};
+    qsizetype m_taille;
+};
 
 /// The number in the key of a row: all from the second character on, trimmed. 0 for a key without a number.
 qint64 NumeroDeCle(QStringView cle);

@@ -3,6 +3,8 @@
 #include <QFont>
 
 #include <algorithm>
+#include <limits>
+#include <type_traits>
 
 namespace platform::controls {
 
@@ -17,28 +19,37 @@ void ListModel::endLoading() {
     endResetModel();
 }
 
-void ListModel::append(const QString &key, const QString &text, int picture) {
+void ListModel::append(QAnyStringView key, QAnyStringView text, int picture) {
     requireNew(key);
     appendDistinct(key, text, picture);
 }
 
-void ListModel::requireNew(const QString &key) {
+void ListModel::requireNew(QAnyStringView key) {
     for (auto row = static_cast<int>(m_keys.size()); row < rowCount(); ++row) {
         m_keys.insert(this->key(row));
     }
-    if (m_keys.contains(key)) {
-        throw DuplicateKeyError("La clé « " + key.toStdString() + " » n'est pas unique dans la liste.");
+    if (const QString wanted = key.toString(); m_keys.contains(wanted)) {
+        throw DuplicateKeyError("La clé « " + wanted.toStdString() + " » n'est pas unique dans la liste.");
     }
 }
 
-void ListModel::appendDistinct(const QString &key, const QString &text, int picture) {
+void ListModel::appendDistinct(QAnyStringView key, QAnyStringView text, int picture) {
     m_rows.append({keep(key), keep(text), picture});
 }
 
-ListModel::Words ListModel::keep(QStringView words) {
-    const Words place{m_words.size(), static_cast<int>(words.size())};
-    m_words.append(words);
-    return place;
+ListModel::Words ListModel::keep(QAnyStringView words) {
+    const auto begin = static_cast<int>(m_words.size());
+    words.visit([this](auto view) {
+        if constexpr (std::is_same_v<decltype(view), QUtf8StringView>) {
+            m_words.append(view.data(), view.size());
+        } else {
+            m_words.append(view.toString().toUtf8());
+        }
+    });
+    if (m_words.size() > std::numeric_limits<int>::max()) {
+        throw std::length_error("La liste est trop longue.");
+    }
+    return {begin, static_cast<int>(m_words.size()) - begin};
 }
 
 void ListModel::remove(int row) {
@@ -60,9 +71,9 @@ void ListModel::setHighlight(int row, bool highlighted) {
 
 int ListModel::find(QStringView key) const {
     // A glance at each key costs less than an index, which would be looked into once or twice for each load.
-    const QStringView all(m_words);
-    const auto row = std::find_if(m_rows.cbegin(), m_rows.cend(), [all, key](const Row &candidate) {
-        return all.sliced(candidate.key.begin, candidate.key.size) == key;
+    const QByteArray wanted = key.toUtf8();
+    const auto row = std::find_if(m_rows.cbegin(), m_rows.cend(), [this, &wanted](const Row &candidate) {
+        return words(candidate.key) == wanted;
     });
     return row == m_rows.cend() ? -1 : static_cast<int>(row - m_rows.cbegin());
 }
@@ -79,9 +90,9 @@ QVariant ListModel::data(const QModelIndex &index, int role) const {
     switch (role) {
     case Qt::DisplayRole:
     case Qt::EditRole:
-        return words(row.text);
+        return text(index.row());
     case Qt::UserRole:
-        return words(row.key);
+        return key(index.row());
     case Qt::DecorationRole: {
         const auto number = static_cast<std::size_t>(row.picture);
         return number >= 1 && number <= m_pictures.size() ? QVariant(m_pictures[number - 1]) : QVariant();

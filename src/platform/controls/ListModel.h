@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QAbstractListModel>
+#include <QAnyStringView>
+#include <QByteArray>
 #include <QColor>
 #include <QIcon>
 #include <QList>
@@ -17,7 +19,8 @@ public:
 };
 
 /// The rows of a list view: text, key (Qt::UserRole), number of a picture, highlight. Rows count from 0 here.
-/// Their words lie together in one buffer, since lists have thousands of rows of which few are seen.
+/// Their words lie together in one buffer, since lists have thousands of rows of which few are seen; in UTF-8, as they
+/// come from a database, and because memory that is touched for the first time costs more than filling it.
 class ListModel : public QAbstractListModel {
     Q_OBJECT
 
@@ -28,17 +31,17 @@ public:
     void beginLoading();
     void endLoading();
     /// Throws DuplicateKeyError for a key that is present. Only while loading.
-    void append(const QString &key, const QString &text, int picture);
+    void append(QAnyStringView key, QAnyStringView text, int picture);
     /// As append, for a key of which the caller knows that it is not present: a key column of a table.
-    void appendDistinct(const QString &key, const QString &text, int picture);
+    void appendDistinct(QAnyStringView key, QAnyStringView text, int picture);
 
     void remove(int row);
     void setText(int row, const QString &text);
     void setHighlight(int row, bool highlighted);
 
-    QString key(int row) const { return words(m_rows.at(row).key); }
+    QString key(int row) const { return QString::fromUtf8(words(m_rows.at(row).key)); }
 
-    QString text(int row) const { return words(m_rows.at(row).text); }
+    QString text(int row) const { return QString::fromUtf8(words(m_rows.at(row).text)); }
 
     int picture(int row) const { return m_rows.at(row).picture; }
 
@@ -63,7 +66,7 @@ Q_SIGNALS:
 
 private:
     struct Words {
-        qsizetype begin = 0;
+        int begin = 0;
         int size = 0;
     };
 
@@ -73,15 +76,17 @@ private:
         bool highlighted = false;
     };
 
-    Words keep(QStringView words);
+    Words keep(QAnyStringView words);
 
-    QString words(Words place) const { return m_words.mid(place.begin, place.size); }
+    QByteArrayView words(Words place) const {
+        return QByteArrayView(m_words).sliced(place.begin, place.size);
+    }
 
-    void requireNew(const QString &key);
+    void requireNew(QAnyStringView key);
 
     // These grow in place, which a std::vector would not.
     QList<Row> m_rows;
-    QString m_words;
+    QByteArray m_words;
     // The keys of the first rows, for the test of new ones; it adds the rows that have come since.
     QSet<QString> m_keys;
     std::vector<QIcon> m_pictures; // number 1 is the first

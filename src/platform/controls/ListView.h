@@ -27,12 +27,12 @@ public:
         Loading &operator=(const Loading &) = delete;
 
         /// Throws DuplicateKeyError for a key that is present.
-        void Add(const QString &key, const QString &text, int picture) {
+        void Add(QAnyStringView key, QAnyStringView text, int picture) {
             m_list.m_model.append(key, text, picture);
         }
 
         /// As Add, for a key of which the caller knows that it is not present.
-        void AddDistinct(const QString &key, const QString &text, int picture) {
+        void AddDistinct(QAnyStringView key, QAnyStringView text, int picture) {
             m_list.m_model.appendDistinct(key, text, picture);
         }
 
