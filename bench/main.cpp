@@ -5,6 +5,8 @@
 #include "Start.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <cstdio>
@@ -13,10 +15,16 @@
 
 namespace {
 
-/// Settings and locks of the measured windows go to a folder of their own, and no display is needed.
-void isolate(const QTemporaryDir &folder) {
-    qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());
-    qputenv("XDG_RUNTIME_DIR", folder.path().toUtf8());
+/// A folder in memory where the system has one, as the folder of a user's session is.
+QString folderTemplate() {
+    const QString memory = QStringLiteral("/dev/shm");
+    return (QFileInfo(memory).isWritable() ? memory : QDir::tempPath()) + QStringLiteral("/bench-XXXXXX");
+}
+
+/// Settings and locks of the measured windows go to folders of their own, and no display is needed.
+void isolate(const QTemporaryDir &settings, const QTemporaryDir &session) {
+    qputenv("XDG_CONFIG_HOME", settings.path().toUtf8());
+    qputenv("XDG_RUNTIME_DIR", session.path().toUtf8());
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("LC_ALL", "C.UTF-8");
     // Offscreen has no window masks, and says so for every window.
@@ -54,8 +62,9 @@ int main(int argc, char *argv[]) {
     if (argc == 4 && qstrcmp(argv[1], bench::kStartCommand) == 0) {
         return bench::start(argc, argv, QString::fromUtf8(argv[2]), QString::fromUtf8(argv[3]));
     }
-    const QTemporaryDir folder;
-    isolate(folder);
+    const QTemporaryDir settings;
+    const QTemporaryDir session(folderTemplate());
+    isolate(settings, session);
     QApplication::setStyle(QStringLiteral("Fusion"));
     const QApplication application(argc, argv);
     try {

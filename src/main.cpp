@@ -9,6 +9,8 @@
 #include "store/Programme.h"
 
 #include <QApplication>
+#include <QFile>
+#include <QFileInfo>
 #include <cstdlib>
 #include <exception>
 
@@ -29,6 +31,13 @@ auto guarded(Action action) {
     }
 }
 
+/// The folder of a program that was started by its path, empty for one that was found by its name. The application object,
+/// which knows it in any case, is not there yet.
+QString folderOf(const char *program) {
+    const QString path = QFile::decodeName(program);
+    return path.contains(u'/') ? QFileInfo(QFileInfo(path).canonicalFilePath()).path() : QString();
+}
+
 class Application : public QApplication {
 public:
     using QApplication::QApplication;
@@ -41,10 +50,11 @@ public:
 } // namespace
 
 int main(int argc, char *argv[]) {
+    const platform::desktop::SingleInstance instance(store::TitreProgramme.toString());
+    shell::LireDAvance(instance, folderOf(argv[0]));
     Application application(argc, argv);
     shell::PreparerApplication();
-    return guarded([] {
-        const platform::desktop::SingleInstance instance(store::TitreProgramme.toString());
+    return guarded([&instance] {
         shell::Fenetres fenetres;
         shell::ChargerFrmmain(fenetres, instance);
         return QApplication::exec();

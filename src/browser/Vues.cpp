@@ -27,6 +27,8 @@ QString ChampTexte(int vue, const QString &table) {
     return vue == 0 ? QStringLiteral("Recette") : table;
 }
 
+constexpr QStringView kIngredients = u"Ingredient";
+
 constexpr Twips kHauteurSeule{8300};
 constexpr Twips kHauteurHaute{3920};
 constexpr Twips kHauteurBasse{4000};
@@ -66,17 +68,16 @@ void AjouterVocabulaire(Frmmain &frm, int vue) {
 qsizetype AjouterTable(Frmmain &frm, const Rubrique &rubrique, int vue) {
     List::Loading lignes(frm.Liste);
     auto base = store::OuvrirLivre();
-    auto fiches = base.OpenRecordset(QStringLiteral("SELECT * From ") + rubrique.table +
-                                     QStringLiteral(" order by ") + rubrique.champ + QStringLiteral(" asc"));
+    auto fiches = base.OpenRecordset(store::RequeteListe(rubrique.table, rubrique.champ));
     const qsizetype nombre = fiches.RecordCount();
     for (qsizetype lues = 1; lues <= nombre; ++lues, fiches.MoveNext()) {
         const auto titre = fiches.Fields(1);
-        const QString texte = titre.Text();
+        const QByteArrayView texte = titre.Utf8();
         // Ingredients that an import left with markup stay in the table but are not offered.
-        const bool montrer =
-            !titre.IsNull() && (vue != kVueIngredients || !texte.contains(QStringLiteral("</")));
+        const bool montrer = !titre.IsNull() && (vue != kVueIngredients || !texte.contains("</"));
         if (montrer) {
-            lignes.AddDistinct(store::CleDeListe(fiches.Fields(0).Number()), texte, vue + 1);
+            lignes.AddDistinct(store::CleEcrite(fiches.Fields(0).Number()).Texte(), QUtf8StringView(texte),
+                               vue + 1);
         }
         frm.Pb.SetFloodPercent(100.0 * static_cast<double>(lues) / static_cast<double>(nombre));
     }
@@ -140,6 +141,19 @@ int VueCourante() {
 
 void EnregistrerVue(int vue) {
     settings::SaveSetting(store::TitreProgramme.toString(), kSection, kTris, QString::number(vue));
+}
+
+QStringList RequetesDeVue(int vue) {
+    const Vue *choisie = VueNumero(vue);
+    if (choisie == nullptr || choisie->table.isEmpty()) {
+        return {};
+    }
+    const QString table = choisie->table.toString();
+    QStringList requetes{store::RequeteListe(table, ChampTexte(vue, table))};
+    if (vue == 0) { // its first recipe is shown at once, with the lists to choose from
+        requetes.append(store::RequeteListe(kIngredients, kIngredients));
+    }
+    return requetes;
 }
 
 void PresserBouton(Frmmain &frm, int vue) {

@@ -188,8 +188,14 @@ public:
 
 } // namespace
 
+void LireDAvance(const platform::desktop::SingleInstance &instance, const QString &dossier) {
+    if (!dossier.isEmpty() && !instance.IsRunningElsewhere()) {
+        store::LireDAvance(store::CheminBase(dossier),
+                           [] { return browser::RequetesDeVue(browser::VueCourante()); });
+    }
+}
+
 void PreparerApplication() {
-    store::PreparerLivre();
     QApplication::setApplicationName(Titre());
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setStyle(new Style(QStringLiteral("Fusion"))); // the application owns it

@@ -56,9 +56,13 @@ void ecrireFiche(const QString &table, qint64 cle, const QString &colonneCle, in
 
 } // namespace
 
+QString RequeteListe(QStringView table, QStringView ordre) {
+    return u"SELECT * From " + table + u" order by " + ordre + u" asc";
+}
+
 Choix LireChoix(const QString &table, const QString &ordre) {
     Database base = OuvrirLivre();
-    Recordset fiches = base.OpenRecordset(u"SELECT * From " + table + u" order by " + ordre + u" asc");
+    Recordset fiches = base.OpenRecordset(RequeteListe(table, ordre));
     Choix choix{{}, fiches.RecordCount() == 0};
     for (qsizetype compteur = 0; compteur < fiches.RecordCount(); ++compteur, fiches.MoveNext()) {
         const QString texte = SansBlancs(fiches.Fields(1).Text());

@@ -31,6 +31,9 @@ concept ListeDeResultats = requires(L &liste, const QString &texte, const Icone 
     liste.AddItem(texte, texte, icone);
 };
 
+/// The query of all rows of a table in the order of a column.
+QString RequeteListe(QStringView table, QStringView ordre);
+
 /// The texts of a table in the order of a column: trimmed, without empty ones and without those that hold one
 /// of the tags <B>, </B>, <I>, </I>. `vide` tells whether the table has no row at all.
 struct Choix {

@@ -3,6 +3,9 @@
 #include "platform/database/Database.h"
 
 #include <QString>
+#include <QStringList>
+
+#include <functional>
 
 namespace store {
 
@@ -16,8 +19,10 @@ platform::database::Database OuvrirLivre();
 /// @throws platform::database::DatabaseError
 platform::database::Database OuvrirLivre(const QString &chemin);
 
-/// Starts the derivation of the book's key beside the start of the program. Never fails.
-void PreparerLivre();
+/// Starts reading a book beside the start of the program: what the queries give is ready, or soon will be, when it is
+/// first asked for. Never fails.
+/// @param requetes is called on another thread
+void LireDAvance(const QString &chemin, std::function<QStringList()> requetes);
 
 /// Makes an empty book: the ten tables without rows.
 /// @throws platform::database::DatabaseError when the file exists

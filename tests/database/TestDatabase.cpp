@@ -42,6 +42,8 @@ constexpr Collation kVowelBlind{
     [](std::string_view text, QByteArray &keys) { keys += withoutVowels(text).c_str(); },
 };
 
+const QString kByName = u"SELECT * From Plat order by Nom desc"_s;
+
 /// The end of a child process that runs a function.
 template <class Function>
 int exitCodeOf(Function function) {
@@ -71,6 +73,10 @@ private:
         Database database = open();
         database.Execute(u"INSERT INTO Plat VALUES (1, 'a', 'x', 0), (2, 'b', 'y', 0)"_s);
         return database;
+    }
+
+    void startReading() const {
+        StartReading(path(), connectString(), kBinaryCollation, [] { return QStringList{kByName}; });
     }
 
     QStringList files() const { return QDir(m_folder->path()).entryList(QDir::Files); }
@@ -136,7 +142,7 @@ private Q_SLOTS:
                                  CreateDatabase(path(), connectString(), u"CREATE TABLE X (N)"_s));
         QCOMPARE(contentOf(path()), before);
         QVERIFY(QFile::remove(path()));
-        PrepareKey(path(), connectString());
+        startReading();
         QVERIFY_THROWS_EXCEPTION(DatabaseError, open());
         QVERIFY_THROWS_EXCEPTION(DatabaseError, CreateDatabase(path(), connectString(), u"CREATE X"_s));
         QVERIFY(files().isEmpty());
@@ -154,12 +160,35 @@ private Q_SLOTS:
         Database database = open();
         QCOMPARE(exitCodeOf(openFails), 1);
         QCOMPARE(openFails(), 1);
-        // The failed attempts, and reading the salt for the key, must not have dropped the lock.
-        PrepareKey(path(), connectString());
+        // The failed attempts, and reading ahead in vain, must not have dropped the lock.
+        startReading();
+        QCOMPARE(openFails(), 1);
         database.Execute(u"INSERT INTO Plat (Nom) VALUES ('a')"_s);
         QCOMPARE(exitCodeOf(openFails), 1);
         database.Close();
         QCOMPARE(openFails(), 0);
+    }
+
+    void rowsReadAheadAreThoseOfTheFile() {
+        filled().Close();
+        startReading();
+        Database database = open();
+        Recordset rows = database.OpenRecordset(kByName);
+        rows.Edit();
+        rows.Fields(1) = u"bb"_s;
+        rows.Update();
+        QCOMPARE(texts(std::move(rows), 1) + texts(database.OpenRecordset(kByName), 2), u"bb ay x"_s);
+        database.Close();
+
+        startReading();
+        const QByteArray before = contentOf(path()); // the reader only reads, so it is whole
+        open().Execute(u"INSERT INTO Plat VALUES (3, 'c', 'z', 0)"_s);
+        QCOMPARE(texts(open().OpenRecordset(kByName), 1), u"c bb a"_s);
+        startReading();
+        open().Close();
+        writeFile(path(), before);
+        QCOMPARE(texts(open().OpenRecordset(kByName), 1), u"bb a"_s);
+        QCOMPARE(files(), QStringList{u"livre.mdb"_s});
     }
 
     void closedDatabaseTakesItsRecordsetsAlong() {

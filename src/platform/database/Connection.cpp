@@ -41,7 +41,7 @@ SqliteHandle openFile(const QString &name, int flags) {
     return handle;
 }
 
-QByteArray readSalt(sqlite3 *db) {
+QByteArray readStart(sqlite3 *db, int size) {
     // Through the engine's own handle: opening and closing the file aside would drop the locks that another
     // connection of this process holds.
     sqlite3_file *file = nullptr;
@@ -49,11 +49,11 @@ QByteArray readSalt(sqlite3 *db) {
     if (!file || !file->pMethods) {
         throw DatabaseError(sqlite3_errstr(SQLITE_CANTOPEN));
     }
-    QByteArray salt(kSaltSize, Qt::Uninitialized);
-    if (file->pMethods->xRead(file, salt.data(), kSaltSize, 0) != SQLITE_OK) {
+    QByteArray start(size, Qt::Uninitialized);
+    if (file->pMethods->xRead(file, start.data(), size, 0) != SQLITE_OK) {
         throw DatabaseError(sqlite3_errstr(SQLITE_NOTADB));
     }
-    return salt;
+    return start;
 }
 
 void useKey(sqlite3 *db, const QByteArray &passphrase, const QByteArray &salt) {
@@ -69,11 +69,12 @@ void runScript(sqlite3 *db, const char *sql) {
 }
 
 Connection::Connection(const QString &name, const Options &options)
-    : m_db(openFile(name, options.readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE)),
+    : m_name(name),
+      m_db(openFile(name, options.readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE)),
       m_collation(options.collation),
       m_exclusive(options.exclusive) {
     sqlite3 *db = m_db.get();
-    if (const QByteArray salt = readSalt(db); !options.passphrase.isEmpty()) {
+    if (const QByteArray salt = readStart(db, kSaltSize); !options.passphrase.isEmpty()) {
         useKey(db, options.passphrase, salt);
     }
     sqlite3_create_collation(db, "NOCASE", SQLITE_UTF8, &m_collation, compareTexts);
@@ -108,11 +109,8 @@ void Connection::close() {
     m_db.reset();
 }
 
-sqlite3 *Connection::handle() const {
-    if (!m_db) {
-        throw DatabaseError("La base de données est fermée.");
-    }
-    return m_db.get();
+void Connection::failClosed() {
+    throw DatabaseError("La base de données est fermée.");
 }
 
 void Connection::fail() const {

@@ -27,7 +27,7 @@ QByteArray passphraseOf(const QString &connect);
 SqliteHandle openFile(const QString &name, int flags);
 
 /// The first bytes of an open file. @throws DatabaseError when it is shorter
-QByteArray readSalt(sqlite3 *db);
+QByteArray readStart(sqlite3 *db, int size);
 
 /// Gives a connection its raw key and the page size, before anything else is asked of it.
 /// @param salt the first bytes of the file
@@ -52,12 +52,20 @@ public:
     Connection &operator=(const Connection &) = delete;
     ~Connection();
 
+    /// The path of the file, as it was given.
+    const QString &name() const { return m_name; }
+
     bool isOpen() const { return m_db != nullptr; }
 
     void close();
 
     /// @throws DatabaseError when closed
-    sqlite3 *handle() const;
+    sqlite3 *handle() const {
+        if (!m_db) {
+            failClosed();
+        }
+        return m_db.get();
+    }
 
     const Collation &collation() const { return m_collation; }
 
@@ -65,6 +73,9 @@ public:
     [[noreturn]] void fail() const;
 
 private:
+    [[noreturn]] static void failClosed();
+
+    QString m_name;
     SqliteHandle m_db;
     Collation m_collation;
     bool m_exclusive;

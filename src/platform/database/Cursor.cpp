@@ -2,6 +2,7 @@
 
 #include "Connection.h"
 #include "DatabaseError.h"
+#include "ReadAhead.h"
 
 #include <QAnyStringView>
 
@@ -31,16 +32,19 @@ Cursor::Cursor(const std::shared_ptr<Connection> &connection, const QString &sql
       m_table(parseTableQuery(sql)),
       m_source(connection, sourceSql(m_table, sql)),
       m_rows(m_table ? std::min(kListColumns, m_source.columnCount()) : m_source.columnCount()) {
-    if (!m_table || !isWhole(*m_table)) {
+    if (m_table && isWhole(*m_table)) {
+        return;
+    }
+    if (auto rows = ReadAhead::instance().take(*connection, sql)) {
+        m_rows = std::move(*rows);
+        m_rowsRead = true;
+    } else {
         readRows();
     }
 }
 
 /// A whole table in its own order waits until its rows are asked for: large ones are opened only to be added to.
 void Cursor::readRows() {
-    if (m_rowsRead) {
-        return;
-    }
     m_rows = RowCache(m_rows.columns()); // a reading that failed may have left some
     if (m_table) {
         readTable();
@@ -50,15 +54,6 @@ void Cursor::readRows() {
     m_rowsRead = true;
 }
 
-qsizetype Cursor::count() {
-    readRows();
-    return m_rows.count();
-}
-
-bool Cursor::atEnd() {
-    return m_row >= count();
-}
-
 void Cursor::readSnapshot() {
     while (m_source.step()) {
         m_rows.append(m_rows.count(), m_source.handle());
@@ -66,15 +61,17 @@ void Cursor::readSnapshot() {
 }
 
 void Cursor::readTable() {
-    QByteArray sql = "SELECT rowid";
+    // A key column that is the row number need not be read twice.
+    const int firstColumn = isRowNumber(0) ? 0 : 1;
+    QByteArray sql = firstColumn == 0 ? "SELECT " : "SELECT rowid, ";
     for (int column = 0; column < m_rows.columns(); ++column) {
-        sql += ", " + quotedName(m_source.columnName(column));
+        sql += (column == 0 ? "" : ", ") + quotedName(m_source.columnName(column));
     }
 
     const QByteArray order = quotedName(m_table->orderColumn);
     const bool textOrder = !m_table->orderColumn.isEmpty() && hasCollation(m_table->orderColumn);
-    const int textColumn = 1 + (textOrder ? keptColumn(m_table->orderColumn) : 0);
-    if (textOrder && textColumn > m_rows.columns()) {
+    const int textColumn = textOrder ? keptColumn(m_table->orderColumn) : 0;
+    if (textOrder && textColumn == m_rows.columns()) {
         sql += ", " + order;
     }
     sql += " FROM " + quotedName(m_table->table);
@@ -92,10 +89,11 @@ void Cursor::readTable() {
 
     Statement rows(m_connection, sql);
     RowCache::TextOrder texts(m_rows, m_connection->collation());
+    sqlite3_stmt *row = rows.handle();
     while (rows.step()) {
-        m_rows.append(sqlite3_column_int64(rows.handle(), 0), rows.handle(), 1);
+        m_rows.append(sqlite3_column_int64(row, 0), row, firstColumn);
         if (textOrder) {
-            texts.append(rows.handle(), textColumn);
+            texts.append(row, firstColumn + textColumn);
         }
     }
     // Keys made once are compared as bytes: several times as fast as the engine's sorter, which calls the
@@ -167,8 +165,10 @@ void Cursor::dropRow() {
 }
 
 void Cursor::dropChange() {
-    m_change = Change::None;
-    m_changes.clear();
+    if (m_change != Change::None) {
+        m_change = Change::None;
+        m_changes.clear();
+    }
 }
 
 int Cursor::column(int position) const {
@@ -205,11 +205,6 @@ QVariant Cursor::value(int column) {
     return columnValue(m_source.handle(), column);
 }
 
-/// True for a column of the current row that lies in the cache as it is stored.
-bool Cursor::isCached(int column) const {
-    return m_change == Change::None && column < m_rows.columns();
-}
-
 QString Cursor::text(int column) {
     if (!isCached(column)) {
         return value(column).toString();
@@ -235,6 +230,14 @@ bool Cursor::isNull(int column) {
     }
     requireRow();
     return m_rows.isNull(m_row, column);
+}
+
+qint64 Cursor::number(int column) {
+    if (!isCached(column)) {
+        return value(column).toLongLong();
+    }
+    requireRow();
+    return m_rows.number(m_row, column);
 }
 
 void Cursor::setValue(int column, const QVariant &value) {
@@ -366,7 +369,7 @@ RowMark Cursor::bookmark() {
 }
 
 void Cursor::setBookmark(RowMark mark) {
-    readRows();
+    requireRows();
     const qsizetype row = m_rows.find(qint64(mark));
     if (row < 0) {
         throw DatabaseError("Cet enregistrement ne fait pas partie de la requête.");

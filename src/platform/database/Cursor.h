@@ -16,8 +16,12 @@ public:
     Cursor(const std::shared_ptr<Connection> &connection, const QString &sql);
 
     /// These read the rows where that has waited.
-    qsizetype count();
-    bool atEnd();
+    qsizetype count() {
+        requireRows();
+        return m_rows.count();
+    }
+
+    bool atEnd() { return m_row >= count(); }
 
     void moveNext();
 
@@ -28,6 +32,7 @@ public:
     QString text(int column);
     /// Valid until the next call or change of the cursor.
     QByteArrayView utf8(int column);
+    qint64 number(int column);
     bool isNull(int column);
     void setValue(int column, const QVariant &value);
 
@@ -38,11 +43,20 @@ public:
 
     RowMark lastModified() const { return RowMark{m_lastModified}; }
 
+    /// The rows, for another cursor on the same query and the same state of the file.
+    RowCache takeRows() { return std::move(m_rows); }
+
     RowMark bookmark();
     void setBookmark(RowMark mark);
 
 private:
     enum class Change { None, Edit, Add };
+
+    void requireRows() {
+        if (!m_rowsRead) {
+            readRows();
+        }
+    }
 
     void readRows();
     void readTable();
@@ -56,7 +70,10 @@ private:
     void dropChange();
     void insertRow();
     void updateRow();
-    bool isCached(int column) const;
+
+    /// True for a column of the current row that lies in the cache as it is stored.
+    bool isCached(int column) const { return m_change == Change::None && column < m_rows.columns(); }
+
     bool readRow(qint64 rowid);
     bool isRowNumber(int column) const;
     QByteArray columnName(int column) const;

@@ -3,8 +3,8 @@
 #include "Connection.h"
 #include "Cursor.h"
 #include "DatabaseError.h"
-#include "KeyDerivation.h"
 #include "Query.h"
+#include "ReadAhead.h"
 #include "Statement.h"
 
 #include <sqlite3.h>
@@ -49,18 +49,17 @@ const std::shared_ptr<Connection> &Database::open() const {
 
 Database OpenDatabase(const QString &name, bool exclusive, bool readOnly, const QString &connect,
                       const Collation &collation) {
+    ReadAhead::instance().finish();
     return Database(std::make_shared<Connection>(
         name, Connection::Options{exclusive, readOnly, passphraseOf(connect), collation}));
 }
 
-void PrepareKey(const QString &name, const QString &connect) {
-    KeyCache::instance().prepare(passphraseOf(connect), [name]() -> QByteArray {
-        try {
-            return readSalt(openFile(name, SQLITE_OPEN_READONLY).get());
-        } catch (const DatabaseError &) {
-            return {}; // the failure shows at OpenDatabase
-        }
-    });
+void StartReading(const QString &name, const QString &connect, const Collation &collation,
+                  std::function<QStringList()> queries) {
+    constexpr bool kExclusive = false;
+    constexpr bool kReadOnly = true;
+    ReadAhead::instance().start(name, {kExclusive, kReadOnly, passphraseOf(connect), collation},
+                                std::move(queries));
 }
 
 } // namespace platform::database

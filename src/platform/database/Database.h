@@ -4,7 +4,9 @@
 #include "Recordset.h"
 
 #include <QString>
+#include <QStringList>
 
+#include <functional>
 #include <memory>
 
 namespace platform::database {
@@ -62,8 +64,12 @@ private:
 Database OpenDatabase(const QString &name, bool exclusive, bool readOnly, const QString &connect,
                       const Collation &collation = kBinaryCollation);
 
-/// Starts deriving the key of a file on another thread, so that it is ready when OpenDatabase needs it. Does
-/// nothing and reports nothing when the file cannot be read: the failure shows at OpenDatabase.
-void PrepareKey(const QString &name, const QString &connect);
+/// Starts reading the rows of the queries that will be asked first, on another thread: derives the key of the file,
+/// opens it read-only, reads, and closes it. OpenDatabase waits for that, whatever it opens; OpenRecordset then takes
+/// the rows, unless the file has been written to meanwhile. Reports nothing: what fails shows when it is asked for.
+/// @param collation that of the OpenDatabase to come
+/// @param queries   gives the texts of the queries; called on the other thread. What it throws ends the reading
+void StartReading(const QString &name, const QString &connect, const Collation &collation,
+                  std::function<QStringList()> queries);
 
 } // namespace platform::database

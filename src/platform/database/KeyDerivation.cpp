@@ -5,7 +5,6 @@
 // The compression function itself is four times as fast here as PKCS5_PBKDF2_HMAC_SHA1, which sets up a
 // digest context in each round: 10 ms against 40 ms, and the start of the program waits for it.
 #define OPENSSL_SUPPRESS_DEPRECATED
-#include <openssl/evp.h>
 #include <openssl/sha.h>
 
 #include <algorithm>
@@ -85,12 +84,6 @@ private:
     Block m_block{};
 };
 
-/// When it is first asked for an algorithm, the library reads its configuration and builds its tables.
-void wakeLibrary() {
-    EVP_MD_free(EVP_MD_fetch(nullptr, "SHA1", nullptr));
-    EVP_CIPHER_free(EVP_CIPHER_fetch(nullptr, "AES-256-CBC", nullptr));
-}
-
 } // namespace
 
 QByteArray pbkdf2Sha1(const QByteArray &passphrase, const QByteArray &salt, int rounds, int size) {
@@ -126,15 +119,6 @@ QByteArray KeyCache::key(const QByteArray &passphrase, const QByteArray &salt) {
         key = pbkdf2Sha1(passphrase, salt, kCipherRounds, kKeySize);
     }
     return key;
-}
-
-void KeyCache::prepare(const QByteArray &passphrase, std::function<QByteArray()> readSalt) {
-    m_threads.emplace_back([this, passphrase, readSalt = std::move(readSalt)] {
-        if (const QByteArray salt = readSalt(); !salt.isEmpty()) {
-            key(passphrase, salt);
-            wakeLibrary();
-        }
-    });
 }
 
 } // namespace platform::database

@@ -3,11 +3,8 @@
 #include <QByteArray>
 #include <QHash>
 
-#include <functional>
 #include <mutex>
-#include <thread>
 #include <utility>
-#include <vector>
 
 namespace platform::database {
 
@@ -27,17 +24,11 @@ public:
     /// The key of a file of SQLCipher 3. A call while another thread derives waits for it.
     QByteArray key(const QByteArray &passphrase, const QByteArray &salt);
 
-    /// Asks for a key on another thread, and wakes the library of ciphers there.
-    /// @param readSalt is called there; no salt ends it
-    void prepare(const QByteArray &passphrase, std::function<QByteArray()> readSalt);
-
 private:
     KeyCache() = default;
 
     std::mutex m_mutex;
     QHash<std::pair<QByteArray, QByteArray>, QByteArray> m_keys;
-    /// Last, so that they have ended before the rest is destroyed.
-    std::vector<std::jthread> m_threads;
 };
 
 } // namespace platform::database

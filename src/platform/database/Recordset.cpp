@@ -18,7 +18,7 @@ QByteArrayView Field::Utf8() const {
 }
 
 qint64 Field::Number() const {
-    return Value().toLongLong();
+    return m_cursor.number(m_position);
 }
 
 QVariant Field::Value() const {

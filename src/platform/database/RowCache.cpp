@@ -56,10 +56,20 @@ RowCache::Cell RowCache::store(sqlite3_stmt *statement, int column) {
     } else if (cell.type != SQLITE_NULL) {
         const std::string_view bytes = cell.type == SQLITE_TEXT ? textOf(value) : blobOf(value);
         cell.size = int(bytes.size());
-        cell.offset = m_texts.size();
-        m_texts.append(bytes.data(), qsizetype(bytes.size()));
+        cell.offset = keep(bytes);
     }
     return cell;
+}
+
+/// Copies bytes behind those that are kept; gives their place.
+qint64 RowCache::keep(std::string_view bytes) {
+    const qsizetype place = m_used;
+    m_used += qsizetype(bytes.size());
+    if (m_used > m_texts.size()) {
+        m_texts.resize(2 * m_used);
+    }
+    std::copy(bytes.begin(), bytes.end(), m_texts.data() + place);
+    return place;
 }
 
 RowCache::Row RowCache::read(qint64 rowid, sqlite3_stmt *statement, int firstColumn) {
@@ -92,16 +102,20 @@ QVariant RowCache::value(qsizetype row, int column) const {
     case SQLITE_FLOAT:
         return stored.real;
     case SQLITE_BLOB:
-        return m_texts.mid(stored.offset, stored.size);
+        return bytesOf(stored).toByteArray();
     default:
-        return QString::fromUtf8(m_texts.constData() + stored.offset, stored.size);
+        return QString::fromUtf8(bytesOf(stored));
     }
 }
 
 QString RowCache::text(qsizetype row, int column) const {
     const Cell &stored = cell(row, column);
-    return stored.type == SQLITE_TEXT ? QString::fromUtf8(m_texts.constData() + stored.offset, stored.size)
-                                      : value(row, column).toString();
+    return stored.type == SQLITE_TEXT ? QString::fromUtf8(bytesOf(stored)) : value(row, column).toString();
+}
+
+qint64 RowCache::number(qsizetype row, int column) const {
+    const Cell &stored = cell(row, column);
+    return stored.type == SQLITE_INTEGER ? stored.number : value(row, column).toLongLong();
 }
 
 bool RowCache::isNull(qsizetype row, int column) const {
@@ -110,11 +124,6 @@ bool RowCache::isNull(qsizetype row, int column) const {
 
 bool RowCache::isText(qsizetype row, int column) const {
     return cell(row, column).type == SQLITE_TEXT;
-}
-
-QByteArrayView RowCache::utf8(qsizetype row, int column) const {
-    const Cell &stored = cell(row, column);
-    return {m_texts.constData() + stored.offset, stored.size};
 }
 
 qsizetype RowCache::find(qint64 rowid) const {

@@ -31,10 +31,14 @@ public:
     QVariant value(qsizetype row, int column) const;
     /// The value as text; empty for Null.
     QString text(qsizetype row, int column) const;
+    /// The value as a number; 0 for Null and for a text that is no number.
+    qint64 number(qsizetype row, int column) const;
     bool isNull(qsizetype row, int column) const;
     bool isText(qsizetype row, int column) const;
+
     /// The bytes of a text, until the cache changes.
-    QByteArrayView utf8(qsizetype row, int column) const;
+    QByteArrayView utf8(qsizetype row, int column) const { return bytesOf(cell(row, column)); }
+
     /// The place of a row number, or -1.
     qsizetype find(qint64 rowid) const;
 
@@ -68,17 +72,17 @@ private:
 
     const Cell &cell(qsizetype row, int column) const { return m_cells[m_rows[row].firstCell + column]; }
 
-    std::string_view bytesOf(const Cell &cell) const {
-        return {m_texts.constData() + cell.offset, size_t(cell.size)};
-    }
+    QByteArrayView bytesOf(const Cell &cell) const { return {m_texts.constData() + cell.offset, cell.size}; }
 
     Row read(qint64 rowid, sqlite3_stmt *statement, int firstColumn);
     Cell store(sqlite3_stmt *statement, int column);
+    qint64 keep(std::string_view bytes);
 
     int m_columns;
     QList<Row> m_rows;
     QList<Cell> m_cells;
-    QByteArray m_texts;
+    QByteArray m_texts; // of which the first bytes are used
+    qsizetype m_used = 0;
 };
 
 /// The texts by which the rows of a cache are sorted, gathered beside them.
