@@ -98,7 +98,11 @@ int ListBox::SelectedIndex() const {
 void ListBox::Select(int index) {
     const QModelIndex row = m_model.index(checked(index));
     setCurrentIndex(row);
-    scrollTo(row);
+    if (row.row() == 0) {
+        scrollToTop(); // needs no places of all the other rows
+    } else {
+        scrollTo(row);
+    }
 }
 
 void ListBox::SetLabelEdit(LabelEditMode mode) {
