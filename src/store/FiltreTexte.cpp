@@ -53,12 +53,13 @@ bool mettreAccentsEnMajuscules(std::string &texte) {
         if (!horsAscii(texte[i])) {
             continue;
         }
+        // At the end of the text this reads the zero behind it, which continues nothing.
         const auto premier = static_cast<unsigned char>(texte[i]);
-        if (premier >> 5 != 0b110 || i + 1 == texte.size()) {
+        const auto second = static_cast<unsigned char>(texte[i + 1]);
+        if (premier >> 5 != 0b110 || second >> 6 != 0b10) {
             return false;
         }
-        const std::size_t numero =
-            std::size_t{premier & 0x1FU} << 6 | (static_cast<unsigned char>(texte[i + 1]) & 0x3FU);
+        const std::size_t numero = std::size_t{premier & 0x1FU} << 6 | (second & 0x3FU);
         const Paire majuscule = numero < kLettres ? majuscules[numero] : Paire{};
         if (majuscule == Paire{}) {
             return false;
