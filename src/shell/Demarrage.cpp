@@ -189,9 +189,12 @@ public:
 } // namespace
 
 void LireDAvance(const platform::desktop::SingleInstance &instance, const QString &dossier) {
-    if (!dossier.isEmpty() && !instance.IsRunningElsewhere()) {
-        store::LireDAvance(store::CheminBase(dossier),
-                           [] { return browser::RequetesDeVue(browser::VueCourante()); });
+    if (dossier.isEmpty() || instance.IsRunningElsewhere()) {
+        return;
+    }
+    try {
+        store::LireDAvance(store::CheminBase(dossier), browser::RequetesDeVue(browser::VueCourante()));
+    } catch (const settings::ConversionError &) { // told where the view is loaded
     }
 }
 

@@ -13,7 +13,7 @@ constexpr std::size_t kLettres = 0x180; // the Latin letters of Western language
 using Paire = std::array<char, 2>;
 
 /// The upper case of each of the first characters beyond ASCII; zeros for those whose upper case has not two bytes, as
-/// that of ß.
+/// that of ı.
 std::array<Paire, kLettres> calculerMajuscules() {
     std::array<Paire, kLettres> majuscules{};
     for (std::size_t lettre = 0x80; lettre < kLettres; ++lettre) {

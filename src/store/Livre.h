@@ -5,8 +5,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <functional>
-
 namespace store {
 
 /// Opens the book of the program folder, exclusively and for writing, with the French collation.
@@ -21,8 +19,7 @@ platform::database::Database OuvrirLivre(const QString &chemin);
 
 /// Starts reading a book beside the start of the program: what the queries give is ready, or soon will be, when it is
 /// first asked for. Never fails.
-/// @param requetes is called on another thread
-void LireDAvance(const QString &chemin, std::function<QStringList()> requetes);
+void LireDAvance(const QString &chemin, const QStringList &requetes);
 
 /// Makes an empty book: the ten tables without rows.
 /// @throws platform::database::DatabaseError when the file exists

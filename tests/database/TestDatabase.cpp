@@ -75,9 +75,7 @@ private:
         return database;
     }
 
-    void startReading() const {
-        StartReading(path(), connectString(), kBinaryCollation, [] { return QStringList{kByName}; });
-    }
+    void startReading() const { StartReading(path(), connectString(), kBinaryCollation, {kByName}); }
 
     QStringList files() const { return QDir(m_folder->path()).entryList(QDir::Files); }
 

@@ -65,8 +65,8 @@ QColor between(const QColor &top, const QColor &bottom, double part) {
             mixed(top.blue(), bottom.blue())};
 }
 
-/// The gradient of a large ground as lines of one colour each: what the toolkit fills fastest by far. Two neighbours
-/// differ by less than one shade.
+/// The gradient of a large ground as lines of one colour each: what the toolkit fills fastest by far. In a
+/// window two neighbours differ by less than one shade.
 void fillWithLines(QPainter &painter, const QRectF &block, const QColor &top, const QColor &bottom) {
     const int lines = qCeil(block.height());
     for (int line = 0; line < lines; ++line) {
@@ -80,11 +80,15 @@ void fillWithLines(QPainter &painter, const QRectF &block, const QColor &top, co
 void paintBlock(QPainter &painter, const QRectF &block, double radius, const QColor &top,
                 const QColor &bottom, const QColor &edge) {
     if (radius <= 0) {
+        // Smooth edges of neighbouring lines would let the ground shine through.
+        const bool smooth = painter.testRenderHint(QPainter::Antialiasing);
+        painter.setRenderHint(QPainter::Antialiasing, false);
         const double border = edge.isValid() ? 1 : 0;
         if (edge.isValid()) {
             painter.fillRect(block, edge);
         }
         fillWithLines(painter, block.adjusted(border, border, -border, -border), top, bottom);
+        painter.setRenderHint(QPainter::Antialiasing, smooth);
         return;
     }
     QLinearGradient gradient(block.topLeft(), block.bottomLeft());

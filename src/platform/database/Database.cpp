@@ -55,11 +55,10 @@ Database OpenDatabase(const QString &name, bool exclusive, bool readOnly, const 
 }
 
 void StartReading(const QString &name, const QString &connect, const Collation &collation,
-                  std::function<QStringList()> queries) {
+                  const QStringList &queries) {
     constexpr bool kExclusive = false;
     constexpr bool kReadOnly = true;
-    ReadAhead::instance().start(name, {kExclusive, kReadOnly, passphraseOf(connect), collation},
-                                std::move(queries));
+    ReadAhead::instance().start(name, {kExclusive, kReadOnly, passphraseOf(connect), collation}, queries);
 }
 
 } // namespace platform::database

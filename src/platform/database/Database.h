@@ -6,7 +6,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <functional>
 #include <memory>
 
 namespace platform::database {
@@ -68,8 +67,7 @@ Database OpenDatabase(const QString &name, bool exclusive, bool readOnly, const 
 /// opens it read-only, reads, and closes it. OpenDatabase waits for that, whatever it opens; OpenRecordset then takes
 /// the rows, unless the file has been written to meanwhile. Reports nothing: what fails shows when it is asked for.
 /// @param collation that of the OpenDatabase to come
-/// @param queries   gives the texts of the queries; called on the other thread. What it throws ends the reading
 void StartReading(const QString &name, const QString &connect, const Collation &collation,
-                  std::function<QStringList()> queries);
+                  const QStringList &queries);
 
 } // namespace platform::database

@@ -3,6 +3,9 @@
 #include "Cursor.h"
 #include "KeyDerivation.h"
 
+#include <openssl/crypto.h>
+#include <sqlite3.h>
+
 #include <exception>
 #include <system_error>
 
@@ -15,7 +18,9 @@ constexpr int kPageSize = 4096;
 } // namespace
 
 ReadAhead::ReadAhead() {
-    KeyCache::instance(); // made before, so that it is there until the thread has ended
+    // Made before, so that they are there until the thread has ended.
+    KeyCache::instance();
+    OPENSSL_init_crypto(0, nullptr);
 }
 
 ReadAhead &ReadAhead::instance() {
@@ -23,10 +28,9 @@ ReadAhead &ReadAhead::instance() {
     return readAhead;
 }
 
-void ReadAhead::start(const QString &name, const Connection::Options &options,
-                      std::function<QStringList()> queries) {
+void ReadAhead::start(const QString &name, const Connection::Options &options, const QStringList &queries) {
     finish();
-    const auto readOrGiveUp = [name, options, queries = std::move(queries)] {
+    const auto readOrGiveUp = [name, options, queries] {
         try {
             return read(name, options, queries);
         } catch (const std::exception &) {
@@ -40,13 +44,13 @@ void ReadAhead::start(const QString &name, const Connection::Options &options,
 }
 
 ReadAhead::Rows ReadAhead::read(const QString &name, const Connection::Options &options,
-                                const std::function<QStringList()> &queries) {
-    const QStringList asked = queries();
+                                const QStringList &queries) {
     const auto connection = std::make_shared<Connection>(name, options);
-    // From here to the end nobody writes: the page belongs to the rows.
+    // The lock keeps writers out, unless this process opens and closes the file by other means meanwhile. The page is
+    // read first: a change behind it shows.
     runScript(connection->handle(), "BEGIN; PRAGMA schema_version");
     Rows rows{name, readStart(connection->handle(), kPageSize), {}};
-    for (const QString &sql : asked) {
+    for (const QString &sql : queries) {
         rows.ofQueries.emplace(sql, Cursor(connection, sql).takeRows());
     }
     return rows;
@@ -59,7 +63,9 @@ void ReadAhead::finish() {
 }
 
 std::optional<RowCache> ReadAhead::take(const Connection &connection, const QString &sql) {
-    if (m_rows.ofQueries.empty() || connection.name() != m_rows.name) {
+    // In a transaction the page tells nothing of what the connection itself has changed.
+    if (sqlite3_get_autocommit(connection.handle()) == 0 || m_rows.ofQueries.empty() ||
+        connection.name() != m_rows.name) {
         return {};
     }
     if (readStart(connection.handle(), kPageSize) != m_rows.firstPage) {

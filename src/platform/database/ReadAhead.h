@@ -5,7 +5,6 @@
 
 #include <QStringList>
 
-#include <functional>
 #include <future>
 #include <map>
 #include <optional>
@@ -18,8 +17,7 @@ class ReadAhead {
 public:
     static ReadAhead &instance();
 
-    /// @param queries is called on the other thread
-    void start(const QString &name, const Connection::Options &options, std::function<QStringList()> queries);
+    void start(const QString &name, const Connection::Options &options, const QStringList &queries);
 
     /// Waits until the file is closed again. To be called before a file is opened: a reader would lock it.
     void finish();
@@ -30,14 +28,13 @@ public:
 private:
     struct Rows {
         QString name;
-        /// The first page of the file. Each commit writes it anew, with fresh random bytes (its initialisation vector)
-        /// in an encrypted file, with a higher change counter in any.
+        /// The first page of the file. Whoever writes to the file writes it anew with the first commit, with fresh random
+        /// bytes (its initialisation vector) in an encrypted file, with a higher change counter in any.
         QByteArray firstPage;
         std::map<QString, RowCache> ofQueries;
     };
 
-    static Rows read(const QString &name, const Connection::Options &options,
-                     const std::function<QStringList()> &queries);
+    static Rows read(const QString &name, const Connection::Options &options, const QStringList &queries);
 
     ReadAhead();
 
