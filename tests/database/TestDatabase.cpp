@@ -4,6 +4,7 @@
 #include "platform/database/CreateDatabase.h"
 #include "platform/database/Database.h"
 #include "platform/database/DatabaseError.h"
+#include "platform/database/Transaction.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -364,6 +365,34 @@ private Q_SLOTS:
         Database readOnly = OpenDatabase(path(), false, true, connectString());
         QVERIFY_THROWS_EXCEPTION(DatabaseError, readOnly.Execute(u"DELETE * FROM Plat"_s));
         OpenDatabase(path(), false, false, connectString());
+    }
+
+    void transactionTakesEffectAsAWhole() {
+        const auto update = [](Database &database) {
+            database.Execute(u"ALTER TABLE Plat ADD COLUMN Source TEXT"_s);
+            database.SetUserVersion(3);
+        };
+        {
+            Database database = open();
+            const Transaction givenUp(database);
+            update(database);
+            QVERIFY_THROWS_EXCEPTION(DatabaseError, Transaction{database});
+        }
+        {
+            Database database = open();
+            const Transaction closedOver(database);
+            update(database);
+            database.Close();
+        }
+        QCOMPARE(open().UserVersion(), 0);
+        {
+            Database database = open();
+            Transaction transaction(database);
+            update(database); // which the column that is there already would make fail
+            transaction.commit();
+            QVERIFY_THROWS_EXCEPTION(DatabaseError, transaction.commit());
+        }
+        QCOMPARE(open().UserVersion(), 3);
     }
 
     void bulkInsertWritesAllOrNothing() {

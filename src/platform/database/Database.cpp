@@ -33,6 +33,14 @@ void Database::Execute(const QString &sql) {
     Statement(open(), withoutDeleteStar(sql).toUtf8()).step();
 }
 
+int Database::UserVersion() {
+    return int(OpenRecordset(QStringLiteral("PRAGMA user_version")).Fields(0).Number());
+}
+
+void Database::SetUserVersion(int version) {
+    Execute(u"PRAGMA user_version = " + QString::number(version));
+}
+
 void Database::Close() {
     if (m_connection) {
         m_connection->close();

@@ -27,15 +27,22 @@ public:
     /// @throws DatabaseError with the engine's text
     Recordset OpenRecordset(const QString &sql);
 
-    /// Runs and commits one statement that gives no rows; "DELETE * FROM table ..." is understood.
+    /// Runs one statement that gives no rows, and commits it outside a Transaction; "DELETE * FROM table ..." is
+    /// understood.
     /// @throws DatabaseError with the engine's text
     void Execute(const QString &sql);
+
+    /// A number of the file for its user, 0 in a new one; the engine gives it no meaning.
+    int UserVersion();
+    /// Takes effect at once, or with the Transaction it stands in.
+    void SetUserVersion(int version);
 
     /// Ends the connection before the scope does. A second call does nothing.
     void Close();
 
 private:
     friend class BulkInsert;
+    friend class Transaction;
     friend Database OpenDatabase(const QString &, bool, bool, const QString &, const Collation &);
     explicit Database(std::shared_ptr<Connection> connection);
 
