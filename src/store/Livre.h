@@ -9,7 +9,8 @@ namespace store {
 
 /// Opens the book of the program folder, exclusively and for writing, with the French collation.
 ///
-/// It is opened for one operation and closed before the operation returns; a second open meanwhile fails.
+/// It is opened for one operation and closed before the operation returns; a second open meanwhile fails. A book of an
+/// older program is brought up to date first, one of a newer program is refused.
 /// @throws platform::database::DatabaseError
 platform::database::Database OuvrirLivre();
 
