@@ -96,8 +96,6 @@ void Cursor::readTable() {
             texts.append(row, firstColumn + textColumn);
         }
     }
-    // Keys made once are compared as bytes: several times as fast as the engine's sorter, which calls the
-    // collation for each comparison.
     if (textOrder) {
         texts.apply(m_table->descending);
     }
