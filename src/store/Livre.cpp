@@ -86,8 +86,8 @@ platform::database::Database OuvrirLivre(const QString &chemin) {
     return platform::database::OpenDatabase(chemin, true, false, connexion(), CollationFrancaise);
 }
 
-void LireDAvance(const QString &chemin, const QStringList &requetes) {
-    platform::database::StartReading(chemin, connexion(), CollationFrancaise, requetes);
+void PreparerCle() {
+    platform::database::PrepareKey(CheminBase(), connexion());
 }
 
 void CreerLivre(const QString &chemin) {

@@ -2,7 +2,6 @@
 
 #include "Connection.h"
 #include "DatabaseError.h"
-#include "ReadAhead.h"
 
 #include <QAnyStringView>
 
@@ -32,13 +31,7 @@ Cursor::Cursor(const std::shared_ptr<Connection> &connection, const QString &sql
       m_table(parseTableQuery(sql)),
       m_source(connection, sourceSql(m_table, sql)),
       m_rows(m_table ? std::min(kListColumns, m_source.columnCount()) : m_source.columnCount()) {
-    if (m_table && isWhole(*m_table)) {
-        return;
-    }
-    if (auto rows = ReadAhead::instance().take(*connection, sql)) {
-        m_rows = std::move(*rows);
-        m_rowsRead = true;
-    } else {
+    if (!m_table || !isWhole(*m_table)) {
         readRows();
     }
 }

@@ -43,9 +43,6 @@ public:
 
     RowMark lastModified() const { return RowMark{m_lastModified}; }
 
-    /// The rows, for another cursor on the same query and the same state of the file.
-    RowCache takeRows() { return std::move(m_rows); }
-
     RowMark bookmark();
     void setBookmark(RowMark mark);
 
