@@ -329,6 +329,32 @@ private Q_SLOTS:
         rows.SetBookmark(rows.LastModified());
         QCOMPARE(rows.Fields(1).Text(), u"d"_s);
         QCOMPARE(rows.RecordCount(), 3);
+        QVERIFY_THROWS_EXCEPTION(DatabaseError, rows.SetBookmark(RowMark{99}));
+        QCOMPARE(rows.Fields(1).Text(), u"d"_s);
+    }
+
+    void addingToALargeTableReadsNothing() {
+        Database database = open();
+        database.Execute(
+            u"WITH RECURSIVE Suite(N) AS (SELECT 1 UNION ALL SELECT N + 1 FROM Suite WHERE N < 50000)"
+            " INSERT INTO Plat (N, Nom) SELECT N, 'a' FROM Suite"_s);
+        Recordset rows = database.OpenRecordset(u"SELECT * From Plat"_s);
+        const qint64 adding = workIn([&rows] {
+            rows.AddNew();
+            rows.Fields(u"Nom") = u"z"_s;
+            rows.Update();
+            rows.SetBookmark(rows.LastModified());
+        });
+        const qint64 reading = workIn([&rows] { QCOMPARE(rows.Fields(1).Text(), u"z"_s); });
+        QVERIFY2(5 * adding < reading, qPrintable(u"%1 and %2 ns"_s.arg(adding).arg(reading)));
+        rows.SetBookmark(RowMark{7});
+        QCOMPARE(rows.Fields(0).Number(), 7);
+
+        rows = database.OpenRecordset(u"SELECT * From Plat"_s);
+        rows.SetBookmark(RowMark{7});
+        database.Execute(u"DELETE FROM Plat WHERE N = 7"_s);
+        QVERIFY_THROWS_EXCEPTION(DatabaseError, rows.Edit());
+        QVERIFY_THROWS_EXCEPTION(DatabaseError, rows.RecordCount());
     }
 
     void changesWithoutUpdateAreGivenUp() {

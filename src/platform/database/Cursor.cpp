@@ -44,6 +44,10 @@ void Cursor::readRows() {
     } else {
         readSnapshot();
     }
+    if (m_waitingMark) {
+        goTo(*m_waitingMark);
+        m_waitingMark.reset();
+    }
     m_rowsRead = true;
 }
 
@@ -354,21 +358,23 @@ void Cursor::remove() {
     m_deleted = true;
 }
 
-RowMark Cursor::bookmark() {
-    requireRow();
-    return RowMark{m_rows.rowid(m_row)};
-}
-
 void Cursor::setBookmark(RowMark mark) {
-    requireRows();
-    const qsizetype row = m_rows.find(qint64(mark));
-    if (row < 0) {
-        throw DatabaseError("Cet enregistrement ne fait pas partie de la requête.");
+    if (m_rowsRead) {
+        goTo(qint64(mark));
+    } else {
+        m_waitingMark = qint64(mark);
     }
     dropChange();
     dropRow();
-    m_row = row;
     m_deleted = false;
+}
+
+void Cursor::goTo(qint64 rowid) {
+    const qsizetype row = m_rows.find(rowid);
+    if (row < 0) {
+        throw DatabaseError("Cet enregistrement ne fait pas partie de la requête.");
+    }
+    m_row = row;
 }
 
 } // namespace platform::database
