@@ -27,8 +27,6 @@ QString ChampTexte(int vue, const QString &table) {
     return vue == 0 ? QStringLiteral("Recette") : table;
 }
 
-constexpr QStringView kIngredients = u"Ingredient";
-
 constexpr Twips kHauteurSeule{8300};
 constexpr Twips kHauteurHaute{3920};
 constexpr Twips kHauteurBasse{4000};
@@ -141,19 +139,6 @@ int VueCourante() {
 
 void EnregistrerVue(int vue) {
     settings::SaveSetting(store::TitreProgramme.toString(), kSection, kTris, QString::number(vue));
-}
-
-QStringList RequetesDeVue(int vue) {
-    const Vue *choisie = VueNumero(vue);
-    if (choisie == nullptr || choisie->table.isEmpty()) {
-        return {};
-    }
-    const QString table = choisie->table.toString();
-    QStringList requetes{store::RequeteListe(table, ChampTexte(vue, table))};
-    if (vue == 0) { // its first recipe is shown at once, with the lists to choose from
-        requetes.append(store::RequeteListe(kIngredients, kIngredients));
-    }
-    return requetes;
 }
 
 void PresserBouton(Frmmain &frm, int vue) {

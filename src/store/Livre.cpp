@@ -56,8 +56,8 @@ platform::database::Database OuvrirLivre(const QString &chemin) {
     return livre;
 }
 
-void LireDAvance(const QString &chemin, const QStringList &requetes) {
-    platform::database::StartReading(chemin, connexion(), CollationFrancaise, requetes);
+void PreparerCle() {
+    platform::database::PrepareKey(CheminBase(), connexion());
 }
 
 void CreerLivre(const QString &chemin) {
