@@ -10,6 +10,7 @@
 #include "platform/controls/FileDrop.h"
 #include "platform/controls/Fonts.h"
 #include "platform/controls/ToolWindow.h"
+#include "platform/images/ResourcePicture.h"
 #include "store/Configuration.h"
 #include "store/Vocabulaires.h"
 
@@ -20,6 +21,7 @@ namespace browser {
 namespace {
 
 using namespace platform::controls;
+using platform::images::resourcePicture;
 
 constexpr std::u16string_view kChangerImage = u"Cliquer ICI pour modifier l'image";
 
@@ -220,7 +222,7 @@ Frmmain::Frmmain()
 
 void Frmmain::Peindre() {
     SetStrips({kBarreOutils});
-    Embleme.SetPicture(resourcePicture(QStringLiteral(":/icones/savorel.argb")).toImage());
+    Embleme.SetPicture(platform::images::programIcon().toImage());
     Enseigne.SetPicture(resourcePicture(QStringLiteral(":/themes/enseigne.argb")).toImage());
 
     const QFont titre = interfaceFont(Face::Verdana, 8.25, true);

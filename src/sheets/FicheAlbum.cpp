@@ -9,6 +9,7 @@
 #include "platform/controls/Fonts.h"
 #include "platform/controls/WaitPointer.h"
 #include "platform/dialogs/MessageBox.h"
+#include "platform/images/ResourcePicture.h"
 #include "store/Programme.h"
 
 #include <QFontMetrics>
@@ -121,7 +122,8 @@ void FicheAlbum::Peindre() {
     for (int index = 0; index < Navi.Count(); ++index) {
         Ribbon &bouton = Navi(index);
         bouton.SetLook(Look::Command);
-        bouton.SetPicture(resourcePicture(QString::fromLatin1(kDessins.at(static_cast<std::size_t>(index)))));
+        bouton.SetPicture(platform::images::resourcePicture(
+            QString::fromLatin1(kDessins.at(static_cast<std::size_t>(index)))));
         bouton.setFont(interfaceFont(Face::Verdana, kPointsLibelle));
         bouton.SetForeColor(kEncre);
     }

@@ -11,6 +11,8 @@
 #include "platform/controls/Fonts.h"
 #include "platform/dialogs/French.h"
 #include "platform/dialogs/MessageBox.h"
+#include "platform/images/LoadPicture.h"
+#include "platform/images/ResourcePicture.h"
 #include "platform/settings/Conversion.h"
 #include "store/Livre.h"
 #include "store/Programme.h"
@@ -113,8 +115,8 @@ void LireFondEcran() {
         return;
     }
     try {
-        LoadPicture(dossier + fichier);
-    } catch (const PictureError &) {
+        platform::images::LoadPicture(dossier + fichier);
+    } catch (const platform::images::PictureError &) {
     }
 }
 
@@ -202,7 +204,7 @@ void PreparerApplication() {
     QApplication::setApplicationName(Titre());
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setStyle(new Style(QStringLiteral("Fusion"))); // the application owns it
-    QApplication::setWindowIcon(resourcePicture(QStringLiteral(":/icones/savorel.argb")));
+    QApplication::setWindowIcon(platform::images::programIcon());
     substituteFonts();
     QApplication::setFont(interfaceFont(Face::Verdana, 8.25));
     dialogs::SpeakFrench(store::DossierProgramme() + QStringLiteral("/translations"));

@@ -4,6 +4,7 @@
 
 #include "browser/Frmmain.h"
 #include "platform/controls/Fonts.h"
+#include "platform/images/ResourcePicture.h"
 
 #include <array>
 
@@ -44,7 +45,7 @@ Patch::Patch(browser::Frmmain &frm)
 }
 
 void Patch::Peindre(const browser::Frmmain &frm) {
-    Icone.SetPicture(resourcePicture(QStringLiteral(":/icones/savorel.argb")).toImage());
+    Icone.SetPicture(platform::images::programIcon().toImage());
     for (Label *label : {&Label1, &Label2}) {
         label->setFont(interfaceFont(Face::Verdana, 8.25));
         label->SetForeColor(Qt::white);

@@ -3,6 +3,7 @@
 #include "Reglages.h"
 
 #include "platform/controls/Fonts.h"
+#include "platform/images/ResourcePicture.h"
 #include "platform/settings/Conversion.h"
 #include "store/Configuration.h"
 #include "store/Programme.h"
@@ -50,7 +51,8 @@ Splash::Splash()
 }
 
 void Splash::Peindre() {
-    Embleme.SetPicture(resourcePicture(QStringLiteral(":/icones/savorel-256.argb")).toImage());
+    Embleme.SetPicture(
+        platform::images::resourcePicture(QStringLiteral(":/icones/savorel-256.argb")).toImage());
     L.setFont(interfaceFont(Face::Verdana, 24, true));
     Label1.setFont(interfaceFont(Face::Verdana, 10));
     for (Label *label : {&L, &Label1}) {

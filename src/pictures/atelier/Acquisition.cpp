@@ -4,6 +4,7 @@
 
 #include "platform/controls/FileDrop.h"
 #include "platform/controls/Fonts.h"
+#include "platform/images/ResourcePicture.h"
 
 #include <QShortcut>
 
@@ -92,7 +93,8 @@ void Acquisition::Peindre() {
     for (int index = 0; index < Btn_ScanS.Count(); ++index) {
         Ribbon &bouton = Btn_ScanS(index);
         bouton.SetLook(Look::Tile);
-        bouton.SetPicture(resourcePicture(QStringLiteral(":/icones/atelier-%1.argb").arg(index)));
+        bouton.SetPicture(
+            platform::images::resourcePicture(QStringLiteral(":/icones/atelier-%1.argb").arg(index)));
         bouton.setFont(interfaceFont(Face::Verdana, 9.75));
         bouton.SetForeColor(Qt::darkBlue);
     }

@@ -9,6 +9,7 @@
 #include "platform/controls/WaitPointer.h"
 #include "platform/dialogs/FileDialog.h"
 #include "platform/dialogs/MessageBox.h"
+#include "platform/images/LoadPicture.h"
 #include "platform/scandialogs/ImageSource.h"
 #include "store/Programme.h"
 
@@ -24,6 +25,7 @@ namespace {
 
 using namespace platform::controls;
 namespace dialogs = platform::dialogs;
+using platform::images::LoadPicture;
 using platform::surface::Surface;
 
 using Ajustement = Rectangle (*)(const Rectangle &, Extent);

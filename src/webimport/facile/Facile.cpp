@@ -7,6 +7,7 @@
 #include "browser/Vues.h"
 #include "pictures/AjusterPhoto.h"
 #include "platform/controls/Fonts.h"
+#include "platform/images/ResourcePicture.h"
 #include "platform/webview/Engine.h"
 #include "store/Configuration.h"
 #include "store/Programme.h"
@@ -98,7 +99,8 @@ QUrl AdresseDuPartenaire() {
 
 void PeindreOutil(Ribbon &outil, Panel &panneau, const char *dessin) {
     outil.SetLook(Look::Tool);
-    outil.SetPicture(resourcePicture(QStringLiteral(":/icones/%1.argb").arg(QLatin1String(dessin))));
+    outil.SetPicture(
+        platform::images::resourcePicture(QStringLiteral(":/icones/%1.argb").arg(QLatin1String(dessin))));
     outil.SetPressedPicture(outil.Picture());
     panneau.setFont(interfaceFont(Face::SansSerif, 8.25));
     panneau.SetForeColor(Qt::blue);
