@@ -10,6 +10,7 @@
 #include "platform/controls/FileDrop.h"
 #include "platform/controls/Fonts.h"
 #include "platform/controls/ToolWindow.h"
+#include "platform/controls/WhenPressed.h"
 #include "platform/images/ResourcePicture.h"
 #include "store/Configuration.h"
 #include "store/Vocabulaires.h"
@@ -346,27 +347,15 @@ void Frmmain::ChargerLigne() {
 void Frmmain::BrancherBoutons() {
     for (int vue = 0; vue < Bouton.Count(); ++vue) {
         Ribbon &bouton = Bouton(vue);
-        connect(&bouton, &Ribbon::toggled, this, [this, vue] { PresserBouton(*this, vue); });
+        whenPressed(bouton, [this, vue] { PresserBouton(*this, vue); });
         connect(&bouton, &Ribbon::Entered, this, [&bouton] { Survoler(bouton, Qt::yellow); });
         connect(&bouton, &Ribbon::Exited, this, [&bouton] { Survoler(bouton, Qt::white); });
     }
     for (int index = 0; index < Outils.Count(); ++index) {
-        connect(&Outils(index), &Ribbon::toggled, this, [this, index](bool presse) {
-            if (presse) {
-                Q_EMIT OutilPresse(index);
-            }
-        });
+        whenPressed(Outils(index), [this, index] { Q_EMIT OutilPresse(index); });
     }
-    connect(&Btn_Quit, &Ribbon::toggled, this, [this](bool presse) {
-        if (presse) {
-            Q_EMIT FermetureDemandee();
-        }
-    });
-    connect(&Btn_Min, &Ribbon::toggled, this, [this](bool presse) {
-        if (presse) {
-            Q_EMIT ReductionDemandee();
-        }
-    });
+    whenPressed(Btn_Quit, [this] { Q_EMIT FermetureDemandee(); });
+    whenPressed(Btn_Min, [this] { Q_EMIT ReductionDemandee(); });
 }
 
 void Frmmain::BrancherListes() {

@@ -4,6 +4,7 @@
 #include "Frmmain.h"
 #include "Vues.h"
 
+#include "platform/controls/WhenPressed.h"
 #include "platform/dialogs/ColourDialog.h"
 #include "store/AccesBase.h"
 #include "store/Textes.h"
@@ -151,7 +152,7 @@ void BrancherValeur(Frmmain &frm, int index) {
     Ribbon &bouton = frm.Data(index);
     DropList &liste = frm.*ValeurDe(index).liste;
     const auto choisir = [&frm, index] { ChoisirValeur(frm, index); };
-    BrancherPression(frm, bouton, [&frm, index] { OuvrirValeur(frm, index); });
+    whenPressed(bouton, [&frm, index] { OuvrirValeur(frm, index); });
     QObject::connect(&liste, &DropList::Click, &frm, choisir);
     if (ValeurDe(index).entree == Entree::Confirme) {
         QObject::connect(&liste, &DropList::EnterPressed, &frm, choisir);
@@ -211,15 +212,6 @@ void FermerListe(Frmmain &frm, DropList &liste, Ribbon &bouton) {
 void MontrerValeur(Ribbon &bouton, const QString &texte) {
     bouton.SetCaption(texte);
     bouton.setToolTip(texte);
-}
-
-void BrancherPression(Frmmain &frm, Ribbon &bouton, const std::function<void()> &ouvrir) {
-    QObject::connect(&bouton, &Ribbon::toggled, &frm, [&bouton, ouvrir](bool presse) {
-        if (presse) {
-            ouvrir();
-            bouton.SetValue(false);
-        }
-    });
 }
 
 } // namespace browser

@@ -157,21 +157,17 @@ QStringList RequetesDeVue(int vue) {
 }
 
 void PresserBouton(Frmmain &frm, int vue) {
-    Ribbon &bouton = frm.Bouton(vue);
-    if (!bouton.Value()) {
+    const int courante = VueCourante();
+    if (courante == vue) {
         return;
     }
-    const int courante = VueCourante();
-    if (courante != vue) {
-        if (courante != kVueAucune) {
-            frm.Bouton(courante).SetForeColor(Qt::white);
-        }
-        frm.CleCourante.clear();
-        TrierListe(frm, vue);
-        EnregistrerVue(vue);
-        bouton.SetForeColor(Qt::black);
+    if (courante != kVueAucune) {
+        frm.Bouton(courante).SetForeColor(Qt::white);
     }
-    bouton.SetValue(false);
+    frm.CleCourante.clear();
+    TrierListe(frm, vue);
+    EnregistrerVue(vue);
+    frm.Bouton(vue).SetForeColor(Qt::black);
 }
 
 void TrierListe(Frmmain &frm, int vue) {

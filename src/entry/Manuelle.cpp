@@ -7,6 +7,7 @@
 #include "browser/Vues.h"
 #include "pictures/ChoisirImage.h"
 #include "platform/controls/Fonts.h"
+#include "platform/controls/WhenPressed.h"
 
 #include <QSignalBlocker>
 #include <algorithm>
@@ -187,11 +188,7 @@ void Manuelle::Brancher() {
     connect(&Scroll, &ScrollPanel::Clicked, this, [this] { CacherListes(*this); });
     connect(&Photo, &Image::Pressed, this, [this] { CacherListesDesLignes(*this); });
     connect(&CadrePhoto, &Panel::Clicked, this, &Manuelle::ChoisirPhoto);
-    connect(&Creer, &Ribbon::toggled, this, [this](bool presse) {
-        if (presse) {
-            PresserCreer(*this);
-        }
-    });
+    whenPressed(Creer, [this] { PresserCreer(*this); });
     connect(this, &SkinnedWindow::CloseRequested, this, &Manuelle::Quitter);
 }
 

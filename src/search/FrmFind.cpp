@@ -4,6 +4,7 @@
 
 #include "browser/Frmmain.h"
 #include "platform/controls/Fonts.h"
+#include "platform/controls/WhenPressed.h"
 #include "store/Textes.h"
 #include "store/Vocabulaires.h"
 
@@ -135,12 +136,7 @@ void FrmFind::Brancher(browser::Frmmain &frm) {
     connect(&Saisie, &TextBox::returnPressed, this, [this] { Creer.SetValue(true); });
     const auto *bas = new QShortcut(Qt::Key_Down, &Saisie, nullptr, nullptr, Qt::WidgetShortcut);
     connect(bas, &QShortcut::activated, this, &FrmFind::AllerAuxResultats);
-    connect(&Creer, &Ribbon::toggled, this, [this](bool presse) {
-        if (presse) {
-            Rechercher(*this);
-            Creer.SetValue(false);
-        }
-    });
+    whenPressed(Creer, [this] { Rechercher(*this); });
     connect(&Liste, &List::DblClick, this, [this, &frm] { MontrerResultat(*this, frm); });
 }
 

@@ -8,6 +8,7 @@
 #include "pictures/AjusterPhoto.h"
 #include "platform/controls/Fonts.h"
 #include "platform/controls/WaitPointer.h"
+#include "platform/controls/WhenPressed.h"
 #include "platform/dialogs/MessageBox.h"
 #include "platform/images/ResourcePicture.h"
 #include "store/Programme.h"
@@ -160,14 +161,7 @@ void FicheAlbum::Brancher() {
         [this] { ImprimerFiche(); },
     };
     for (int index = 0; index < Navi.Count(); ++index) {
-        Ribbon &bouton = Navi(index);
-        connect(&bouton, &Ribbon::toggled, this,
-                [&bouton, action = actions.at(static_cast<std::size_t>(index))](bool presse) {
-                    if (presse) {
-                        action();
-                        bouton.SetValue(false);
-                    }
-                });
+        whenPressed(Navi(index), actions.at(static_cast<std::size_t>(index)));
     }
     for (const int index : {0, 1}) {
         Navi(index).setAutoRepeat(true);

@@ -78,7 +78,6 @@ constexpr std::array<Action, 11> kActions{
 void PresserOutil(Fenetres &fenetres, int index) {
     fenetres.Pop.FenetreOuverte = index;
     kActions.at(static_cast<std::size_t>(index))(fenetres);
-    fenetres.Principale.Outils(index).SetValue(false);
 }
 
 // Black under the pointer, blue at rest.

@@ -3,6 +3,7 @@
 #include "Reglages.h"
 
 #include "platform/controls/Fonts.h"
+#include "platform/controls/WhenPressed.h"
 #include "platform/images/ResourcePicture.h"
 #include "platform/settings/Conversion.h"
 #include "store/Configuration.h"
@@ -70,23 +71,15 @@ void Splash::Peindre() {
 
 void Splash::Brancher() {
     connect(this, &SkinnedWindow::CloseRequested, this, &Splash::Unload);
-    connect(&SphashAuto, &QCheckBox::toggled, this,
-            [](bool coche) { Enregistrer(kReglages, kSplashAuto, platform::settings::ToText(coche)); });
+    connect(&SphashAuto, &QCheckBox::toggled, this, [](bool coche) {
+        Enregistrer(kReglages, kSplashAuto, platform::settings::ToText(coche));
+    });
     for (int index = 0; index < MesSofts.Count(); ++index) {
-        Ribbon &lien = MesSofts(index);
-        connect(&lien, &Ribbon::toggled, this, [this, &lien, index](bool presse) {
-            if (presse) {
-                Ouvrir(*this, store::kLiens[static_cast<std::size_t>(index)].adresse);
-                lien.SetValue(false);
-            }
+        whenPressed(MesSofts(index), [this, index] {
+            Ouvrir(*this, store::kLiens[static_cast<std::size_t>(index)].adresse);
         });
     }
-    connect(&Orvane, &Ribbon::toggled, this, [this](bool presse) {
-        if (presse) {
-            Ouvrir(*this, store::AuteurSite);
-            Orvane.SetValue(false);
-        }
-    });
+    whenPressed(Orvane, [this] { Ouvrir(*this, store::AuteurSite); });
 }
 
 } // namespace shell

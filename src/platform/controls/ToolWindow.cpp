@@ -1,5 +1,7 @@
 #include "ToolWindow.h"
 
+#include "WhenPressed.h"
+
 #include "platform/images/ResourcePicture.h"
 
 namespace platform::controls {
@@ -38,17 +40,13 @@ ToolWindow::ToolWindow(const QString &name, Extent size)
     // Pressed with the mouse they leave the keyboard to the field that has it: a minimised window comes back to it.
     Mini.setFocusPolicy(Qt::TabFocus);
     Quit.setFocusPolicy(Qt::TabFocus);
-    connect(&Mini, &Ribbon::toggled, this, [this](bool pressed) {
-        if (pressed) {
-            Mini.Release();
-            Q_EMIT MinimiseRequested();
-        }
+    whenPressed(Mini, [this] {
+        Mini.Release();
+        Q_EMIT MinimiseRequested();
     });
-    connect(&Quit, &Ribbon::toggled, this, [this](bool pressed) {
-        if (pressed) {
-            Quit.Release();
-            Q_EMIT CloseRequested();
-        }
+    whenPressed(Quit, [this] {
+        Quit.Release();
+        Q_EMIT CloseRequested();
     });
 }
 

@@ -7,6 +7,7 @@
 #include "browser/Vues.h"
 #include "pictures/AjusterPhoto.h"
 #include "platform/controls/Fonts.h"
+#include "platform/controls/WhenPressed.h"
 #include "platform/images/ResourcePicture.h"
 #include "platform/webview/Engine.h"
 #include "store/Configuration.h"
@@ -112,16 +113,6 @@ void PeindreOutil(Ribbon &outil, Panel &panneau, const char *dessin) {
     QObject::connect(&outil, &Ribbon::Exited, &panneau, sortir);
     QObject::connect(&panneau, &Panel::Entered, &panneau, entrer);
     QObject::connect(&panneau, &Panel::Exited, &panneau, sortir);
-}
-
-/// Runs an action at each press of a button.
-template <class Action>
-void SurPression(Ribbon &bouton, Action action) {
-    QObject::connect(&bouton, &Ribbon::toggled, &bouton, [action](bool presse) {
-        if (presse) {
-            action();
-        }
-    });
 }
 
 } // namespace
@@ -252,24 +243,22 @@ void Facile::OuvrirNavigateur() {
 }
 
 void Facile::Brancher() {
-    SurPression(GotO1, [this] {
-        Navigateur->navigate(AdresseDuPartenaire());
-        GotO1.SetValue(false);
-    });
+    whenPressed(GotO1, [this] { Navigateur->navigate(AdresseDuPartenaire()); });
     for (int index = 0; index < Navi.Count(); ++index) {
-        SurPression(Navi(index), [this, index] {
+        whenPressed(Navi(index), [this, index] {
             if (index != 0) {
                 Navigateur->forward();
             } else {
                 Navigateur->back();
             }
             MontrerAnalyse(false);
-            Navi(index).SetValue(false);
         });
     }
-    SurPression(Analyse, [this] { PresserAnalyse(*this); });
-    SurPression(Creer, [this] { PresserCreer(*this); });
-    SurPression(Revenir, [this] { PresserRevenir(); });
+    whenPressed(Analyse, [this] { PresserAnalyse(*this); });
+    // Where the recipe is refused, the button stays down.
+    whenPressed(
+        Creer, [this] { PresserCreer(*this); }, Release::ByAction);
+    whenPressed(Revenir, [this] { PresserRevenir(); });
     connect(this, &SkinnedWindow::CloseRequested, this, &Facile::Quitter);
 }
 
@@ -355,7 +344,6 @@ void Facile::MontrerNavigateur() {
 
 void Facile::PresserRevenir() {
     MontrerNavigation(true);
-    Revenir.SetValue(false);
     ViderTextes();
     MontrerNavigateur();
     MontrerAnalyse(true);
