@@ -1,6 +1,6 @@
 #include "Patch.h"
 
-#include "Reglages.h"
+#include "Modes.h"
 
 #include "browser/Frmmain.h"
 #include "platform/controls/Fonts.h"

@@ -1,6 +1,6 @@
 #include "Progression.h"
 
-#include "Reglages.h"
+#include "Modes.h"
 
 #include "platform/controls/Fonts.h"
 #include "platform/images/ResourcePicture.h"

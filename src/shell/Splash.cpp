@@ -1,6 +1,6 @@
 #include "Splash.h"
 
-#include "Reglages.h"
+#include "OuvrirAdresse.h"
 
 #include "platform/controls/Fonts.h"
 #include "platform/controls/WhenPressed.h"
@@ -8,6 +8,7 @@
 #include "platform/settings/Conversion.h"
 #include "store/Configuration.h"
 #include "store/Programme.h"
+#include "store/Reglages.h"
 
 #include <array>
 
@@ -45,7 +46,7 @@ Splash::Splash()
       SphashAuto(this, rowNamed(kControles, "SphashAuto")) {
     SetHeading(store::TitreProgramme.toString());
     Peindre();
-    SphashAuto.SetValue(platform::settings::ToBoolean(Lire(kReglages, kSplashAuto, QStringLiteral("True"))));
+    SphashAuto.SetValue(platform::settings::ToBoolean(store::LireReglage(store::kSplashAutoCoche)));
     Brancher();
     // Enter goes on to the book; the first button of the window would minimise it.
     Quit.setFocus();
@@ -72,14 +73,14 @@ void Splash::Peindre() {
 void Splash::Brancher() {
     connect(this, &SkinnedWindow::CloseRequested, this, &Splash::Unload);
     connect(&SphashAuto, &QCheckBox::toggled, this, [](bool coche) {
-        Enregistrer(kReglages, kSplashAuto, platform::settings::ToText(coche));
+        store::EnregistrerReglage(store::kSplashAuto, platform::settings::ToText(coche));
     });
     for (int index = 0; index < MesSofts.Count(); ++index) {
         whenPressed(MesSofts(index), [this, index] {
-            Ouvrir(*this, store::kLiens[static_cast<std::size_t>(index)].adresse);
+            OuvrirAdresse(*this, store::kLiens[static_cast<std::size_t>(index)].adresse);
         });
     }
-    whenPressed(Orvane, [this] { Ouvrir(*this, store::AuteurSite); });
+    whenPressed(Orvane, [this] { OuvrirAdresse(*this, store::AuteurSite); });
 }
 
 } // namespace shell
