@@ -93,8 +93,8 @@ void AfficherPhoto(Frmmain &frm, const QString &valeur) {
     }
     frm.CadrePhoto.SetCaption({});
     frm.CadrePhoto.SetTag(chemin);
-    pictures::MontrerPhoto({frm.CadrePhoto.Width(), frm.CadrePhoto.Height()}, frm.Photo, frm.ImageTemp,
-                           photo);
+    frm.ImageTemp.SetPicture(photo);
+    pictures::MontrerPhoto({frm.CadrePhoto.Width(), frm.CadrePhoto.Height()}, frm.Photo, photo);
 }
 
 void AfficherTexte(RichTextBox &saisie, const QString &texte) {

@@ -193,8 +193,10 @@ void Manuelle::Brancher() {
 }
 
 void Manuelle::ChoisirPhoto() {
-    pictures::ChoisirImage({*this, {CadrePhoto.Width(), CadrePhoto.Height()}, Photo, Principale.ImageTemp},
-                           Principale.DossierImages);
+    const pictures::CadreImage cadre{*this, {CadrePhoto.Width(), CadrePhoto.Height()}, Photo};
+    if (pictures::ChoisirImage(cadre, Principale.DossierImages) == pictures::Choix::Faite) {
+        Principale.ImageTemp.SetPicture(Photo.Picture());
+    }
     LegenderPhoto();
 }
 

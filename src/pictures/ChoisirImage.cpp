@@ -52,7 +52,7 @@ Choix PoserImage(const CadreImage &cadre, const QString &fichier) {
         return Choix::Illisible;
     }
     cadre.photo.SetTag(QDir::toNativeSeparators(QFileInfo(fichier).absoluteFilePath()));
-    MontrerPhoto(cadre.cadre, cadre.photo, cadre.imageTemp, image);
+    MontrerPhoto(cadre.cadre, cadre.photo, image);
     return Choix::Faite;
 }
 

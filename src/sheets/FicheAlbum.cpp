@@ -263,7 +263,7 @@ void FicheAlbum::MontrerPhoto() {
     Photo.SetTag(m_frm.Photo.Tag());
     m_frm.ImageTemp.SetPicture(image);
     if (!image.isNull()) {
-        pictures::AjusterPhoto({CadrePhoto.Width(), CadrePhoto.Height()}, Photo, m_frm.ImageTemp);
+        pictures::AjusterPhoto({CadrePhoto.Width(), CadrePhoto.Height()}, Photo);
     }
 }
 

@@ -314,7 +314,8 @@ void Facile::MontrerPhoto(const QImage &image) {
         Photo.SetPicture({});
         Photo.hide();
     } else {
-        pictures::MontrerPhoto({CadrePhoto.Width(), CadrePhoto.Height()}, Photo, Principale.ImageTemp, image);
+        Principale.ImageTemp.SetPicture(image);
+        pictures::MontrerPhoto({CadrePhoto.Width(), CadrePhoto.Height()}, Photo, image);
     }
 }
 
