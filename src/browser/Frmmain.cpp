@@ -150,15 +150,13 @@ std::vector<QPixmap> ImagesDesVues() {
     return images;
 }
 
-const QColor kEncre(22, 33, 58);
-const QColor kFondPhoto(190, 206, 232);
 const QColor kCouleurPreparation(160, 250, 255);
 constexpr QPoint kBoutDuDoigt(10, 4);
 
 void PeindreValeur(Ribbon &bouton) {
     bouton.SetLook(Look::Value);
     bouton.setFont(interfaceFont(Face::Verdana, 8.25));
-    bouton.SetForeColor(kEncre);
+    bouton.SetForeColor(kInk);
 }
 
 // Black marks the button of the current view, and the pointer leaves it black.
@@ -235,7 +233,7 @@ void Frmmain::Peindre() {
     LTDroit.setFont(interfaceFont(Face::Verdana, 13, true));
     LTDroit.SetForeColor(Qt::white);
     LTCentre2.hide();
-    Scroll(1).SetBackColor(QColor(kListGround));
+    Scroll(1).SetBackColor(kListGround);
     // A recipe covers the theme of its group. Nothing is shown before a view is loaded.
     Scroll(0).raise();
     Scroll(0).hide();
@@ -249,7 +247,7 @@ void Frmmain::Peindre() {
     Chargement.SetSquare();
     Pb.SetSquare();
     Label1.setFont(titre);
-    Label1.SetForeColor(kEncre);
+    Label1.SetForeColor(kInk);
     Label1.setAlignment(Qt::AlignCenter);
     Chargement.hide();
 }
@@ -284,15 +282,15 @@ void Frmmain::PeindreFiche() {
     const QFont titre = interfaceFont(Face::Verdana, 8.25, true);
     Libelle.ForEach([&titre](Label &libelle) {
         libelle.setFont(titre);
-        libelle.SetForeColor(kEncre);
+        libelle.SetForeColor(kInk);
     });
     Data.ForEach(PeindreValeur);
     for (Array<Ribbon> *colonne : {&Quantite, &Mesure, &Ingre}) {
         PeindreValeur((*colonne)(0));
     }
     CadrePhoto.setFont(titre);
-    CadrePhoto.SetForeColor(kEncre);
-    CadrePhoto.SetBackColor(kFondPhoto);
+    CadrePhoto.SetForeColor(kInk);
+    CadrePhoto.SetBackColor(kLightGround);
     Photo.hide();
     ImageTemp.hide();
     Saisie(0).SetDefaultColor(kCouleurPreparation);

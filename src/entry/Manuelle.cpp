@@ -72,8 +72,6 @@ constexpr std::array kControles{
 constexpr int kLignes = 11;
 constexpr int kPas = 450; // twips from one ingredient line to the next: the last one ends where the texts end
 
-const QColor kEncre(22, 33, 58);
-const QColor kFondPhoto(190, 206, 232);
 const std::array kCouleursSaisie{QColor(0, 255, 255), QColor(255, 255, 255)};
 
 /// The row of the first ingredient line, moved down to another line.
@@ -138,16 +136,16 @@ void Manuelle::ChargerLignes() {
 
 void Manuelle::Peindre() {
     const QFont titre = interfaceFont(Face::Verdana, 8.25, true);
-    Scroll.SetBackColor(QColor(kListGround));
+    Scroll.SetBackColor(kListGround);
     Libelle.ForEach([&titre](Label &libelle) {
         libelle.setFont(titre);
-        libelle.SetForeColor(kEncre);
+        libelle.SetForeColor(kInk);
     });
     Rappel.setFont(interfaceFont(Face::Verdana, 8.25));
     Rappel.SetForeColor(Qt::white);
     CadrePhoto.setFont(titre);
-    CadrePhoto.SetForeColor(kEncre);
-    CadrePhoto.SetBackColor(kFondPhoto);
+    CadrePhoto.SetForeColor(kInk);
+    CadrePhoto.SetBackColor(kLightGround);
     CadrePhoto.SetReachable();
     Photo.setCursor(Principale.CurseurMain());
     Photo.hide();

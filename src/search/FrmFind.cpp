@@ -45,8 +45,6 @@ constexpr std::array kControles{
     ControlRow{"LSuite", 4920, 7110, 5640, 300},
 };
 
-const QColor kEncre(22, 33, 58);
-
 void RemplirClasses(List &liste, std::span<const QStringView> classes) {
     liste.SetColumn(QStringLiteral("Titre"), liste.Width());
     List::Loading lignes(liste);
@@ -87,14 +85,14 @@ void FrmFind::Peindre() {
     Quit.setAccessibleName(Quit.toolTip());
     const auto peindre = [](auto &controle) {
         controle.setFont(interfaceFont(Face::Verdana, 8.25));
-        controle.SetForeColor(kEncre);
+        controle.SetForeColor(kInk);
     };
     Opt_Liste.ForEach(peindre);
     Choix.ForEach(peindre);
     Chk.ForEach(peindre);
     Libelle.ForEach([](Label &label) {
         label.setFont(interfaceFont(Face::Verdana, 9, true));
-        label.SetForeColor(kEncre);
+        label.SetForeColor(kInk);
     });
     Creer.SetLook(Look::Command);
     Creer.SetForeColor(Qt::black);

@@ -74,10 +74,7 @@ constexpr Twips kEntreLignes{100};
 constexpr Twips kEntreBlocs{400};
 constexpr int kRepetition = 40; // ms between two recipes while a button is held down
 
-const QColor kEncre(22, 33, 58);
 const QColor kPapier(250, 248, 241);
-const QColor kFondTitre(214, 225, 242);
-const QColor kFondPhoto(190, 206, 232);
 const QColor kCouleurLibelle(0x80, 0x80, 0xFF);
 
 // What is read cannot be pressed: the pointer goes through it to the page, and Tab past it. A ribbon that is pressed
@@ -85,7 +82,7 @@ const QColor kCouleurLibelle(0x80, 0x80, 0xFF);
 void PreparerChamp(Ribbon &champ) {
     champ.SetLook(Look::Value);
     champ.setFont(interfaceFont(Face::Verdana, kPointsValeur));
-    champ.SetForeColor(kEncre);
+    champ.SetForeColor(kInk);
     champ.setFocusPolicy(Qt::NoFocus);
     champ.setAttribute(Qt::WA_TransparentForMouseEvents);
     QObject::connect(&champ, &Ribbon::toggled, &champ, [&champ] { champ.SetValue(false); });
@@ -126,14 +123,14 @@ void FicheAlbum::Peindre() {
         bouton.SetPicture(platform::images::resourcePicture(
             QString::fromLatin1(kDessins.at(static_cast<std::size_t>(index)))));
         bouton.setFont(interfaceFont(Face::Verdana, kPointsLibelle));
-        bouton.SetForeColor(kEncre);
+        bouton.SetForeColor(kInk);
     }
     Scroll(0).SetBackColor(kPapier);
-    Recette.SetForeColor(kEncre);
-    Recette.SetBackColor(kFondTitre);
+    Recette.SetForeColor(kInk);
+    Recette.SetBackColor(kPaleGround);
     CadrePhoto.setFont(interfaceFont(Face::Verdana, kPointsLibelle));
-    CadrePhoto.SetForeColor(kEncre);
-    CadrePhoto.SetBackColor(kFondPhoto);
+    CadrePhoto.SetForeColor(kInk);
+    CadrePhoto.SetBackColor(kLightGround);
     Libelle.ForEach([](Label &libelle) {
         libelle.setFont(interfaceFont(Face::Verdana, kPointsLibelle, true));
         libelle.SetForeColor(kCouleurLibelle);

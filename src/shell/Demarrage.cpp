@@ -233,9 +233,9 @@ void ChargerFrmmain(Fenetres &fenetres, const platform::desktop::SingleInstance 
         liste->setCursor(frm.CurseurMain());
     }
     frm.RemplirVocabulaires();
-    frm.Scroll(0).SetBackColor(QColor(kListGround));
-    frm.Liste.SetBackColor(QColor(kListGround));
-    frm.LFilms.SetBackColor(QColor(kListGround));
+    frm.Scroll(0).SetBackColor(kListGround);
+    frm.Liste.SetBackColor(kListGround);
+    frm.LFilms.SetBackColor(kListGround);
     ReprendreAncienLivre(frm);
     ChargerPremiereListe(frm);
     frm.show();

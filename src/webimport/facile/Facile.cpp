@@ -86,9 +86,6 @@ constexpr std::array kControles{
 
 constexpr Rectangle kBarreOutils{Twips(90), Twips(645), Twips(15180), Twips(945)};
 
-const QColor kEncre(22, 33, 58);
-const QColor kFondClair(190, 206, 232);
-
 /// A site in a folder opens by its index, as a server has it.
 QUrl AdresseDuPartenaire() {
     QUrl adresse(store::AdresseComplete(store::PartnerSiteHome));
@@ -177,33 +174,33 @@ void Facile::Peindre() {
     }
     MontrerAnalyse(false);
     for (Panel *bande : {&Pb, &Status}) {
-        bande->SetBackColor(kFondClair);
-        bande->SetForeColor(kEncre);
+        bande->SetBackColor(kLightGround);
+        bande->SetForeColor(kInk);
         bande->setFont(interfaceFont(Face::Verdana, 8.25));
     }
     // Progress shows when the analysis takes this away.
     Status.SetSquare();
     LPB.setFont(interfaceFont(Face::Verdana, 8.25));
-    LPB.SetForeColor(kEncre);
+    LPB.SetForeColor(kInk);
     Quit.setToolTip(QStringLiteral("Revenir au menu principal"));
     Quit.setAccessibleName(Quit.toolTip());
 }
 
 void Facile::PeindreFiche() {
     const QFont titre = interfaceFont(Face::Verdana, 8.25, true);
-    Fond.SetBackColor(QColor(kListGround));
+    Fond.SetBackColor(kListGround);
     Fond.hide();
     Libelle.ForEach([&titre](Label &libelle) {
         libelle.setFont(titre);
-        libelle.SetForeColor(kEncre);
+        libelle.SetForeColor(kInk);
     });
     calorie.setFont(interfaceFont(Face::Verdana, 8.25));
-    calorie.SetForeColor(kEncre);
+    calorie.SetForeColor(kInk);
     CadrePhoto.setFont(titre);
-    CadrePhoto.SetForeColor(kEncre);
-    CadrePhoto.SetBackColor(kFondClair);
+    CadrePhoto.SetForeColor(kInk);
+    CadrePhoto.SetBackColor(kLightGround);
     Photo.hide();
-    Scroll(1).SetBackColor(kFondClair);
+    Scroll(1).SetBackColor(kLightGround);
     Saisie(0).SetDefaultColor(QColor(CouleursMethode.ordinaire));
     Saisie(1).SetDefaultColor(QColor(CouleursComplements.ordinaire));
     for (DropList *liste : {&LQte, &LQte2, &LIngre}) {
