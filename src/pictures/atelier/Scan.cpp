@@ -19,6 +19,8 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 
+#include <new>
+
 namespace pictures::atelier {
 
 namespace {
@@ -26,6 +28,7 @@ namespace {
 using namespace platform::controls;
 namespace dialogs = platform::dialogs;
 using platform::images::LoadPicture;
+using platform::images::PictureError;
 using platform::surface::Surface;
 
 using Ajustement = Rectangle (*)(const Rectangle &, Extent);
@@ -113,7 +116,7 @@ void Enregistrer(Acquisition &fenetre, const QString &nom) {
     try {
         EcrireBmp(fenetre.PhotoScan2, nom);
         fenetre.PhotoScan.SetPicture(LoadPicture(nom));
-    } catch (const std::exception &) {
+    } catch (const PictureError &) {
         // The picture stays on screen.
     }
 }
@@ -160,8 +163,9 @@ void OuvrirFichier(Acquisition &fenetre, const QString &nom) {
     fenetre.PhotoScan.SetTag(nom);
     try {
         fenetre.PhotoScan1.setPicture(nom.isEmpty() ? QImage() : LoadPicture(nom));
-    } catch (const std::exception &) {
+    } catch (const PictureError &) {
         // The picture before is shown again.
+    } catch (const std::bad_alloc &) { // a picture larger than the memory, likewise
     }
     fenetre.PhotoScan2 = fenetre.PhotoScan1;
     AjusterPhotoScan(fenetre);
