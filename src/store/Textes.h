@@ -11,7 +11,10 @@ namespace store {
 /// A text as it goes between the quotes of a query: every ' doubled.
 QString DoublerApostrophes(const QString &texte);
 
-/// The text without the blanks around it; tabs and no-break blanks belong to it.
+/// The part of a text without the blanks around it; tabs and no-break blanks belong to it.
+QStringView Rogner(QStringView texte);
+
+/// The same as a text of its own.
 QString SansBlancs(QStringView texte);
 
 namespace detail {
