@@ -24,7 +24,7 @@ inline constexpr int kVueAucune = 99;
 int VueCourante();
 void EnregistrerVue(int vue);
 
-/// The event of Bouton(vue): makes the view current, if the button went down and the view is another one.
+/// The press of Bouton(vue): makes the view current, if it is another one.
 void PresserBouton(Frmmain &frm, int vue);
 
 /// Makes a view current: loads its rows into Liste and shows the first one. Throws DatabaseError.
