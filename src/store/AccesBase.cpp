@@ -3,6 +3,7 @@
 #include "FiltreTexte.h"
 #include "Livre.h"
 #include "Textes.h"
+#include "TrouverOuCreer.h"
 
 #include <algorithm>
 #include <array>
@@ -23,8 +24,8 @@ bool porteBalise(const QString &texte) {
                        [&texte](QStringView balise) { return texte.contains(balise); });
 }
 
-QString fichesDeCle(const QString &table, const QString &colonne, qint64 cle) {
-    return u"SELECT * From " + table + u" where " + colonne + u" = " + QString::number(cle);
+QString fichesDeCle(const Table &table, qint64 cle) {
+    return u"SELECT * From " + table.nom + u" where " + table.Cle() + u" = " + QString::number(cle);
 }
 
 QString ligneIngre(qint64 recette, const LigneIngre &ligne) {
@@ -38,16 +39,10 @@ void valider(Recordset &fiches) {
     fiches.SetBookmark(fiches.LastModified());
 }
 
-qint64 numeroSuivant(Database &base, const QString &table, const QString &colonneCle) {
-    Recordset maximum = base.OpenRecordset(u"SELECT max(+" + colonneCle + u") From " + table);
-    return maximum.Fields(0).IsNull() ? 1 : maximum.Fields(0).Number() + 1;
-}
-
 /// Writes a column of the row of a key, and the key itself, as every change of a row does.
-void ecrireFiche(const QString &table, qint64 cle, const QString &colonneCle, int position,
-                 const QVariant &valeur) {
+void ecrireFiche(const Table &table, qint64 cle, int position, const QVariant &valeur) {
     Database base = OuvrirLivre();
-    Recordset fiche = base.OpenRecordset(fichesDeCle(table, colonneCle, cle));
+    Recordset fiche = base.OpenRecordset(fichesDeCle(table, cle));
     fiche.Edit();
     fiche.Fields(0) = cle;
     fiche.Fields(position) = valeur;
@@ -56,29 +51,32 @@ void ecrireFiche(const QString &table, qint64 cle, const QString &colonneCle, in
 
 } // namespace
 
-QString RequeteListe(QStringView table, QStringView ordre) {
-    return u"SELECT * From " + table + u" order by " + ordre + u" asc";
+QString RequeteListe(const Table &table) {
+    return u"SELECT * From " + table.nom + u" order by " + table.Texte() + u" asc";
 }
 
-Choix LireChoix(const QString &table, const QString &ordre) {
+QStringList ChargerCombo(const Table &table) {
     Database base = OuvrirLivre();
-    Recordset fiches = base.OpenRecordset(RequeteListe(table, ordre));
-    Choix choix{{}, fiches.RecordCount() == 0};
-    for (qsizetype compteur = 0; compteur < fiches.RecordCount(); ++compteur, fiches.MoveNext()) {
+    Recordset fiches = base.OpenRecordset(RequeteListe(table));
+    if (fiches.RecordCount() == 0) {
+        return {};
+    }
+    QStringList textes;
+    for (; !fiches.AtEnd(); fiches.MoveNext()) {
         const QString texte = SansBlancs(fiches.Fields(1).Text());
         if (!texte.isEmpty() && !porteBalise(texte)) {
-            choix.textes.append(texte);
+            textes.append(texte);
         }
     }
-    return choix;
+    textes.append(LignePointillee.toString());
+    return textes;
 }
 
-QStringList LireListeSimple(const QString &table, const QString &ordre, int position) {
+QStringList ChargerListeSimple(const Table &table) {
     Database base = OuvrirLivre();
-    Recordset fiches = base.OpenRecordset(u"SELECT * From " + table + u"  order by " + ordre + u" asc");
     QStringList textes;
-    for (qsizetype compteur = 0; compteur < fiches.RecordCount(); ++compteur, fiches.MoveNext()) {
-        const QString texte = fiches.Fields(position).Text();
+    for (Recordset fiches = base.OpenRecordset(RequeteListe(table)); !fiches.AtEnd(); fiches.MoveNext()) {
+        const QString texte = fiches.Fields(1).Text();
         if (!porteBalise(texte)) {
             textes.append(SansBlancs(texte));
         }
@@ -86,12 +84,12 @@ QStringList LireListeSimple(const QString &table, const QString &ordre, int posi
     return textes;
 }
 
-std::vector<Resultat> LireResultats(const QString &requete, bool enTete, const QString &filtre) {
+std::vector<Resultat> ChargerResultats(const QString &requete, bool enTete, const QString &filtre) {
     FiltreTexte gardes(enTete, filtre);
     Database base = OuvrirLivre();
     Recordset fiches = base.OpenRecordset(requete);
     std::vector<Resultat> resultats;
-    for (qsizetype compteur = 0; compteur < fiches.RecordCount(); ++compteur, fiches.MoveNext()) {
+    for (; !fiches.AtEnd(); fiches.MoveNext()) {
         if (!gardes.Garde(fiches.Fields(1).Utf8())) {
             continue;
         }
@@ -103,25 +101,19 @@ std::vector<Resultat> LireResultats(const QString &requete, bool enTete, const Q
     return resultats;
 }
 
-void ModifierLibelle(const QString &table, qint64 cle, const QString &texte, const QString &colonneCle) {
-    ecrireFiche(table, cle, colonneCle, 1, texte);
+void ModifierLibelle(const Table &table, qint64 cle, const QString &texte) {
+    ecrireFiche(table, cle, 1, texte);
 }
 
-void ModifierChamp(const QString &table, qint64 cle, QVariant &valeur, const QString &colonneCle,
-                   int position) {
-    if (valeur.toString().isEmpty()) {
-        valeur = QStringLiteral(" ");
-    }
-    ecrireFiche(table, cle, colonneCle, position, valeur);
+void ModifierChamp(qint64 recette, ChampRecette champ, const QVariant &valeur) {
+    ecrireFiche(kCocktails, recette, Position(champ),
+                valeur.toString().isEmpty() ? QVariant(QStringLiteral(" ")) : valeur);
 }
 
-void ModifierSiRenseigne(QVariant &valeur, const QString &table, qint64 cle, int position) {
-    if (valeur.toString().isEmpty()) {
-        return;
+void ModifierSiRenseigne(qint64 recette, ChampRecette champ, const QString &valeur) {
+    if (!valeur.isEmpty()) {
+        ModifierChamp(recette, champ, valeur);
     }
-    const bool recette = table == u"Cocktails";
-    ModifierChamp(table, cle, valeur, recette ? QStringLiteral("Numero") : QStringLiteral("NVerre"),
-                  position);
 }
 
 void RemplacerLigneIngre(qint64 recette, const LigneIngre &ancienne, const LigneIngre &nouvelle) {
@@ -142,10 +134,10 @@ void RemplacerLigneIngre(qint64 recette, const LigneIngre &ancienne, const Ligne
     }
 }
 
-void SupprimerFiches(const QString &table, qint64 valeur, const QString &colonne) {
+void SupprimerFiches(const Table &table, qint64 valeur) {
     Database base = OuvrirLivre();
     while (true) {
-        Recordset fiches = base.OpenRecordset(fichesDeCle(table, colonne, valeur));
+        Recordset fiches = base.OpenRecordset(fichesDeCle(table, valeur));
         if (fiches.RecordCount() == 0) {
             return;
         }
@@ -153,38 +145,14 @@ void SupprimerFiches(const QString &table, qint64 valeur, const QString &colonne
     }
 }
 
-void AjouterFiche(const QString &texte, const QString &table, const QString &colonneCle) {
+void AjouterFiche(const QString &texte, const Table &table) {
     Database base = OuvrirLivre();
-    const qint64 numero = numeroSuivant(base, table, colonneCle);
-    Recordset fiches = base.OpenRecordset(u"SELECT * From " + table);
-    fiches.AddNew();
-    fiches.Fields(0) = numero;
-    fiches.Fields(1) = texte;
-    if (table == u"Verre") {
-        for (int position = 2; position <= 4; ++position) {
-            fiches.Fields(position) = QStringLiteral(" ");
-        }
-    }
-    valider(fiches);
+    AjouterTexte(base, table, texte, Surplus::Blancs);
 }
 
-void RechercherNumero(const QString &texte, qint64 &numero, const QString &table, const QString &colonneCle) {
+std::optional<qint64> RechercherNumero(const QString &texte, const Table &table) {
     Database base = OuvrirLivre();
-    Recordset trouvees = base.OpenRecordset(u"SELECT * From " + table + u" where " + table + u" = '" +
-                                            DoublerApostrophes(texte) + u"' order by " + table + u" asc");
-    if (texte.isEmpty()) {
-        return;
-    }
-    if (trouvees.RecordCount() > 0) {
-        numero = trouvees.Fields(0).Number();
-        return;
-    }
-    numero = numeroSuivant(base, table, colonneCle);
-    Recordset fiches = base.OpenRecordset(u"SELECT * From " + table);
-    fiches.AddNew();
-    fiches.Fields(0) = numero;
-    fiches.Fields(1) = texte == LignePointillee ? QStringLiteral(" ") : texte;
-    valider(fiches);
+    return TrouverOuCreer(base, table, texte, texte == LignePointillee ? QStringLiteral(" ") : texte).numero;
 }
 
 } // namespace store
