@@ -18,7 +18,6 @@ namespace {
 constexpr int kReadTurns = 400;
 // Each waits for the disk several times.
 constexpr int kChangeTurns = 100;
-constexpr int kCostColumn = 8;
 constexpr double kGoal = 1.5;
 
 void readOurs(int number) {
@@ -38,8 +37,7 @@ void readBare(const BareBook &book, int number) {
 }
 
 void changeOurs(int number, int cost) {
-    QVariant value = cost;
-    store::ModifierChamp(QStringLiteral("Cocktails"), number, value, QStringLiteral("Numero"), kCostColumn);
+    store::ModifierChamp(number, store::ChampRecette::Cout, cost);
 }
 
 void changeBare(const BareBook &book, int number, int cost) {

@@ -20,7 +20,6 @@ namespace {
 using platform::controls::RichTextBox;
 
 constexpr platform::controls::ControlRow kRow{"Saisie", 0, 0, 9000, 6000};
-constexpr int kMethodColumn = 6;
 constexpr int kTurns = 100;
 constexpr double kRatioGoal = 2;
 constexpr double kFrame = 1000.0 / 60; // ms
@@ -31,8 +30,7 @@ void type(RichTextBox &box) {
 }
 
 void store(const RichTextBox &box, int number) {
-    QVariant value = box.TextRTF();
-    store::ModifierChamp(QStringLiteral("Cocktails"), number, value, QStringLiteral("Numero"), kMethodColumn);
+    store::ModifierChamp(number, store::ChampRecette::preparation, box.TextRTF());
 }
 
 /// Locks and keeps its journal as the program does, which waits for the disk as often.

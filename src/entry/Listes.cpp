@@ -120,13 +120,14 @@ void BrancherColonne(Manuelle &fenetre, const Colonne &colonne) {
 } // namespace
 
 void ChargerLesListesCombo(Manuelle &fenetre) {
-    const auto charger = [](DropList &liste, const QString &table) {
-        store::ChargerCombo(liste, table, table);
+    const auto charger = [](DropList &liste, const store::Table &table) {
+        liste.Clear();
+        liste.AddItems(store::ChargerCombo(table));
     };
-    charger(fenetre.LDureeReal, QStringLiteral("DureeReal"));
-    charger(fenetre.LDureeCuisson, QStringLiteral("Categorie"));
-    charger(fenetre.LPers, QStringLiteral("Verre"));
-    charger(fenetre.LPlat, QStringLiteral("Realisation"));
+    charger(fenetre.LDureeReal, store::kDureeReal);
+    charger(fenetre.LDureeCuisson, store::kCategorie);
+    charger(fenetre.LPers, store::kVerre);
+    charger(fenetre.LPlat, store::kRealisation);
     // The sixth class of cost is empty and not offered.
     for (std::size_t code = 0; code + 1 < store::Cout.size(); ++code) {
         fenetre.LCout.AddItems({store::Cout[code].toString()});
@@ -134,16 +135,13 @@ void ChargerLesListesCombo(Manuelle &fenetre) {
     for (const QStringView classe : store::Difficulte) {
         fenetre.LDiff.AddItems({classe.toString()});
     }
-    charger(fenetre.LVin, QStringLiteral("Vin"));
+    charger(fenetre.LVin, store::kVin);
 }
 
 void ChargerListesDesLignes(Manuelle &fenetre) {
-    const auto charger = [](DropList &liste, const QString &table) {
-        store::ChargerListeSimple(table, table, 1, liste);
-    };
-    charger(fenetre.LQte, QStringLiteral("Quantite"));
-    charger(fenetre.LQte2, QStringLiteral("Mesure"));
-    charger(fenetre.LIngre, QStringLiteral("Ingredient"));
+    fenetre.LQte.AddItems(store::ChargerListeSimple(store::kQuantite));
+    fenetre.LQte2.AddItems(store::ChargerListeSimple(store::kMesure));
+    fenetre.LIngre.AddItems(store::ChargerListeSimple(store::kIngredient));
 }
 
 void CacherListes(Manuelle &fenetre) {

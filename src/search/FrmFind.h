@@ -7,6 +7,8 @@
 #include "platform/controls/TextBox.h"
 #include "platform/controls/ToolWindow.h"
 
+#include "store/Schema.h"
+
 #include <QButtonGroup>
 
 namespace browser {
@@ -48,7 +50,7 @@ public:
     Label LSuite;
 
     /// The table searched.
-    QString TableRecherche;
+    const store::Table *TableRecherche = nullptr;
     /// Picture number of the rows found.
     int IconeRecherche = 0;
 

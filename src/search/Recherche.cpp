@@ -6,6 +6,7 @@
 #include "browser/Vues.h"
 #include "platform/controls/WaitPointer.h"
 #include "store/AccesBase.h"
+#include "store/Schema.h"
 
 #include <QLocale>
 
@@ -19,17 +20,17 @@ using namespace platform::controls;
 
 /// What an option searches: a table, and the view of the main window that shows its rows.
 struct Cible {
-    QStringView table;
+    const store::Table &table;
     int vue = 0;
 };
 
 constexpr std::array kCibles{
-    Cible{u"Cocktails", 0},  Cible{u"Categorie", 1}, Cible{u"Verre", 2},
-    Cible{u"Ingredient", 6}, Cible{u"DureeReal", 7},
+    Cible{store::kCocktails, 0},  Cible{store::kCategorie, 1}, Cible{store::kVerre, 2},
+    Cible{store::kIngredient, 6}, Cible{store::kDureeReal, 7},
 };
 
-/// The columns of Cocktails that Chk restricts.
-constexpr std::array<QStringView, 2> kRestrictions{u"Cout", u"Difficulte"};
+/// The columns of a recipe that Chk restricts.
+constexpr std::array kRestrictions{store::ChampRecette::Cout, store::ChampRecette::difficulte};
 
 // A view's rows have the same picture everywhere.
 constexpr int IconeDeVue(int vue) {
@@ -42,22 +43,20 @@ constexpr int VueDIcone(int icone) {
 
 QString RequeteRecettes(const FrmFind &fenetre) {
     // Always true, so that each restriction can begin with "and".
-    QString requete = u"Select * From " + fenetre.TableRecherche + u" where Numero > 0 ";
+    QString requete = QStringLiteral("Select * From Cocktails where Numero > 0 ");
     for (int index = 0; index < fenetre.Chk.Count(); ++index) {
         if (fenetre.Chk(index).Value()) {
             const int code = fenetre.LChk(index).SelectedIndex() - 1;
-            requete +=
-                u" and " + kRestrictions.at(static_cast<std::size_t>(index)) + u" = " + QString::number(code);
+            const store::Champ &champ = store::Description(kRestrictions.at(static_cast<std::size_t>(index)));
+            requete += u" and " + champ.nom + u" = " + QString::number(code);
         }
     }
     return requete + u"   order by Numero desc";
 }
 
 QString Requete(const FrmFind &fenetre) {
-    const QString &table = fenetre.TableRecherche;
-    // In every lookup table the text column has the name of the table.
-    return table == kCibles.front().table ? RequeteRecettes(fenetre)
-                                          : u"Select * From " + table + u" order by " + table + u" asc";
+    const store::Table &table = *fenetre.TableRecherche;
+    return &table == &store::kCocktails ? RequeteRecettes(fenetre) : store::RequeteListe(table);
 }
 
 void AnnoncerNombre(FrmFind &fenetre) {
@@ -86,7 +85,7 @@ void ChoisirTable(FrmFind &fenetre, int index) {
     const bool recettes = index == 0;
     fenetre.Chk.ForEach([recettes](CheckBox &restriction) { restriction.setEnabled(recettes); });
     fenetre.LChk.ForEach([recettes](List &liste) { liste.setEnabled(recettes); });
-    fenetre.TableRecherche = cible.table.toString();
+    fenetre.TableRecherche = &cible.table;
     fenetre.IconeRecherche = IconeDeVue(cible.vue);
 }
 
@@ -94,7 +93,7 @@ void Rechercher(FrmFind &fenetre) {
     const WaitPointer sablier;
     List::Loading lignes(fenetre.Liste);
     for (const store::Resultat &trouve :
-         store::LireResultats(Requete(fenetre), fenetre.Choix(0).Value(), fenetre.Saisie.Text())) {
+         store::ChargerResultats(Requete(fenetre), fenetre.Choix(0).Value(), fenetre.Saisie.Text())) {
         lignes.AddDistinct(trouve.cle, trouve.texte, fenetre.IconeRecherche); // keys of a table are distinct
     }
     AnnoncerNombre(fenetre);

@@ -161,7 +161,7 @@ private Q_SLOTS:
 
     void resultGoneMeanwhileEndsWithTheErrorOfTheList() {
         found(0, true, u"Tarte"_qs);
-        store::SupprimerFiches(u"Cocktails"_qs, 1, u"Numero"_qs);
+        store::SupprimerFiches(store::kCocktails, 1);
         TrierListe(*m_main, 0);
         QVERIFY_THROWS_EXCEPTION(std::out_of_range, doubleClick(m_find->Liste, 1));
         found(0, true, u"nothing"_qs);

@@ -8,6 +8,7 @@
 #include "platform/richtext/RichText.h"
 #include "store/Livre.h"
 #include "store/Programme.h"
+#include "store/Schema.h"
 #include "store/Vocabulaires.h"
 
 #include <QDir>
@@ -28,14 +29,14 @@ namespace {
 
 struct Vocabularies {
     explicit Vocabularies(const QString &folder)
-        : cookingTimes(folder, u"Categorie"_s),
-          preparationTimes(folder, u"DureeReal"_s),
-          persons(folder, u"Verre"_s),
-          dishTypes(folder, u"Realisation"_s),
-          wines(folder, u"VIN"_s),
-          ingredients(folder, u"Ingredient"_s),
-          quantities(folder, u"Quantite"_s),
-          measures(folder, u"Mesure"_s) {}
+        : cookingTimes(folder, store::kCategorie),
+          preparationTimes(folder, store::kDureeReal),
+          persons(folder, store::kVerre),
+          dishTypes(folder, store::kRealisation),
+          wines(folder, store::kVin),
+          ingredients(folder, store::kIngredient),
+          quantities(folder, store::kQuantite),
+          measures(folder, store::kMesure) {}
 
     Vocabulary cookingTimes;
     Vocabulary preparationTimes;
@@ -55,7 +56,7 @@ struct IngredientRow {
 
 /// A recipe as the tables hold it.
 struct RecipeRow {
-    QVariantList columns;                   ///< of Cocktails, from position 1
+    std::vector<std::pair<store::ChampRecette, QVariant>> columns;
     std::vector<IngredientRow> ingredients; ///< the last first, since they are read newest first
     QString picture;                        ///< path of the JPEG file
     QString photo;                          ///< its name in the book
@@ -107,18 +108,19 @@ RecipeRow recipeRow(const RecipeText &recipe, Vocabularies &vocabularies, const 
         throw SourceError(recipe.title, u"a title without / \\ ; [ ] is expected"_s);
     }
     row.photo = recipe.title.text + u".jpg";
+    using enum store::ChampRecette;
     row.columns = {
-        storedTitle(recipe.title.text),
-        vocabularies.cookingTimes.numberOf(recipe.cookingTime),
-        vocabularies.persons.numberOf(recipe.persons),
-        row.photo,
-        vocabularies.dishTypes.numberOf(recipe.dishType),
-        richText(recipe.method),
-        richText(recipe.remarks),
-        codeOf(recipe.cost, store::Cout),
-        codeOf(recipe.difficulty, store::Difficulte),
-        vocabularies.wines.numberOf(recipe.wine),
-        vocabularies.preparationTimes.numberOf(recipe.preparationTime),
+        {Recette, storedTitle(recipe.title.text)},
+        {NCategorie, vocabularies.cookingTimes.numberOf(recipe.cookingTime)},
+        {Nverre, vocabularies.persons.numberOf(recipe.persons)},
+        {Photo, row.photo},
+        {Nreal, vocabularies.dishTypes.numberOf(recipe.dishType)},
+        {preparation, richText(recipe.method)},
+        {Deco, richText(recipe.remarks)},
+        {Cout, codeOf(recipe.cost, store::Cout)},
+        {difficulte, codeOf(recipe.difficulty, store::Difficulte)},
+        {Teneur, vocabularies.wines.numberOf(recipe.wine)},
+        {NDureeReal, vocabularies.preparationTimes.numberOf(recipe.preparationTime)},
     };
     row.ingredients = ingredientRows(recipe, vocabularies);
     return row;
@@ -133,8 +135,8 @@ std::vector<RecipeRow> readRecipes(const BookPlaces &places, Vocabularies &vocab
     return rows;
 }
 
-Recordset openTable(Database &book, const QString &table) {
-    return book.OpenRecordset(u"SELECT * From "_s + table);
+Recordset openTable(Database &book, const store::Table &table) {
+    return book.OpenRecordset(u"SELECT * From "_s + table.nom);
 }
 
 void writeVocabulary(Database &book, const Vocabulary &vocabulary) {
@@ -144,11 +146,9 @@ void writeVocabulary(Database &book, const Vocabulary &vocabulary) {
         rows.AddNew();
         rows.Fields(0) = ++number;
         rows.Fields(1) = text;
-        if (vocabulary.table() == u"Verre") {
-            // Three columns without a meaning, which hold a blank in the rows that the program makes.
-            for (int position = 2; position <= 4; ++position) {
-                rows.Fields(position) = u" "_s;
-            }
+        // Columns without a meaning hold a blank in the rows that the program makes.
+        for (int position = 2; position < static_cast<int>(vocabulary.table().champs.size()); ++position) {
+            rows.Fields(position) = u" "_s;
         }
         rows.Update();
     }
@@ -166,14 +166,14 @@ void writeIngredients(Recordset &lines, int recipe, const std::vector<Ingredient
 }
 
 void writeRecipes(Database &book, const std::vector<RecipeRow> &rows) {
-    Recordset recipes = openTable(book, u"Cocktails"_s);
-    Recordset lines = openTable(book, u"Ingre"_s);
+    Recordset recipes = openTable(book, store::kCocktails);
+    Recordset lines = openTable(book, store::kIngre);
     int number = 0;
     for (const RecipeRow &row : rows) {
         recipes.AddNew();
         recipes.Fields(0) = ++number;
-        for (int position = 0; position < row.columns.size(); ++position) {
-            recipes.Fields(position + 1) = row.columns[position];
+        for (const auto &[column, value] : row.columns) {
+            recipes.Fields(store::Position(column)) = value;
         }
         recipes.Update();
         writeIngredients(lines, number, row.ingredients);

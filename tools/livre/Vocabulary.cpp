@@ -8,10 +8,10 @@ namespace {
 const QString kBlank = u" "_s;
 }
 
-Vocabulary::Vocabulary(const QString &folder, const QString &table) : m_table(table) {
+Vocabulary::Vocabulary(const QString &folder, const store::Table &table) : m_table(table) {
     // The look-ups of the program do not tell capitals from small letters.
     QSet<QString> seen;
-    for (const SourceText &line : readLines(folder + u'/' + table.toLower() + u".txt")) {
+    for (const SourceText &line : readLines(folder + u'/' + table.nom.toString().toLower() + u".txt")) {
         if (line.text.isEmpty() || line.text.startsWith(u'#')) {
             continue;
         }
@@ -30,7 +30,7 @@ Vocabulary::Vocabulary(const QString &folder, const QString &table) : m_table(ta
 int Vocabulary::numberOf(const SourceText &text) const {
     const auto found = m_numbers.constFind(text.text);
     if (found == m_numbers.cend()) {
-        throw SourceError(text, u"\"%1\" is not in the vocabulary %2"_s.arg(text.text, m_table));
+        throw SourceError(text, u"\"%1\" is not in the vocabulary %2"_s.arg(text.text, m_table.nom));
     }
     return *found;
 }

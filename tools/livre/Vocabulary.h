@@ -2,6 +2,8 @@
 
 #include "SourceText.h"
 
+#include "store/Schema.h"
+
 #include <QHash>
 #include <QString>
 #include <QStringList>
@@ -12,9 +14,9 @@ class Vocabulary {
 public:
     /// @param folder holds a file with the name of the table in small letters, plus ".txt"
     /// @throws SourceError, also for a text that differs from an earlier one in its case only
-    Vocabulary(const QString &folder, const QString &table);
+    Vocabulary(const QString &folder, const store::Table &table);
 
-    const QString &table() const { return m_table; }
+    const store::Table &table() const { return m_table; }
 
     const QStringList &texts() const { return m_texts; }
 
@@ -28,7 +30,7 @@ public:
 private:
     void add(const QString &text);
 
-    QString m_table;
+    const store::Table &m_table;
     QStringList m_texts;
     QHash<QString, int> m_numbers; ///< by text
 };
