@@ -172,6 +172,7 @@ private Q_SLOTS:
         QCOMPARE(drop.dropAction(), Qt::CopyAction); // the cook's file stays where it is
         QTRY_VERIFY(frm.Photo.isVisible());
         QCOMPARE(frm.CadrePhoto.Caption(), QString());
+        QCOMPARE(frm.ImageTemp.Picture(), frm.Photo.Picture());
         QCOMPARE(LivreEssai::text(u"SELECT Numero, Photo From Cocktails where Numero = 2"_qs), photo);
 
         clickRow(frm.Liste, 2);

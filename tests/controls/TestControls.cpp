@@ -7,6 +7,7 @@
 #include "platform/controls/ListView.h"
 #include "platform/controls/Picture.h"
 #include "platform/controls/RibbonButton.h"
+#include "platform/controls/WhenPressed.h"
 #include "platform/images/LoadPicture.h"
 
 #include <QApplication>
@@ -19,6 +20,7 @@
 #include <QTemporaryDir>
 
 #include <memory>
+#include <stdexcept>
 
 using namespace platform::controls;
 
@@ -107,24 +109,35 @@ private Q_SLOTS:
         QVERIFY_THROWS_EXCEPTION(std::out_of_range, titles(3));
     }
 
+    void ribbonIsReleasedHoweverItsActionEnds() {
+        auto &button = shown<Ribbon>();
+        whenPressed(button, [] { throw std::runtime_error("refusé"); });
+        QVERIFY_THROWS_EXCEPTION(std::runtime_error, button.SetValue(true));
+        QVERIFY(!button.Value());
+
+        auto &kept = shown<Ribbon>();
+        whenPressed(kept, [] {}, Release::ByAction);
+        kept.SetValue(true);
+        QVERIFY(kept.Value());
+
+        auto gone = std::make_unique<RibbonButton>(nullptr);
+        whenPressed(*gone, [&gone] { gone.reset(); });
+        gone->SetValue(true);
+        QVERIFY(!gone);
+    }
+
     void ribbonRaisesItsEventOnBothChanges() {
         auto &button = shown<Ribbon>();
         int pressed = 0;
-        int raised = 0;
-        connect(&button, &Ribbon::toggled, &button, [&] {
-            ++raised;
-            if (button.Value()) {
-                ++pressed;
-                button.SetValue(false);
-            }
-        });
+        whenPressed(button, [&] { ++pressed; });
+        const QSignalSpy raised(&button, &Ribbon::toggled);
         button.SetValue(true);
         QTest::mouseClick(&button, Qt::LeftButton);
         QTest::keyClick(&button, Qt::Key_Space);
         QTest::keyClick(&button, Qt::Key_Return);
         QTest::keyClick(&button, Qt::Key_Enter);
         QCOMPARE(pressed, 5);
-        QCOMPARE(raised, 10);
+        QCOMPARE(raised.count(), 10);
         QVERIFY(!button.Value());
 
         button.SetCaption(u"Sel & poivre"_qs);
