@@ -22,8 +22,6 @@ QString ChampTexte(int vue, const QString &table) {
     return vue == 0 ? QStringLiteral("Recette") : table;
 }
 
-constexpr QStringView kIngredients = u"Ingredient";
-
 constexpr Twips kHauteurSeule{8300};
 constexpr Twips kHauteurHaute{3920};
 constexpr Twips kHauteurBasse{4000};
@@ -135,19 +133,6 @@ int VueCourante() {
 
 void EnregistrerVue(int vue) {
     store::EnregistrerReglage(store::kTris, QString::number(vue));
-}
-
-QStringList RequetesDeVue(int vue) {
-    const Vue *choisie = VueNumero(vue);
-    if (choisie == nullptr || choisie->table.isEmpty()) {
-        return {};
-    }
-    const QString table = choisie->table.toString();
-    QStringList requetes{store::RequeteListe(table, ChampTexte(vue, table))};
-    if (vue == 0) { // its first recipe is shown at once, with the lists to choose from
-        requetes.append(store::RequeteListe(kIngredients, kIngredients));
-    }
-    return requetes;
 }
 
 void PresserBouton(Frmmain &frm, int vue) {

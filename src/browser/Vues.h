@@ -2,8 +2,6 @@
 
 #include "platform/controls/ListView.h"
 
-#include <QStringList>
-
 namespace browser {
 
 class Frmmain;
@@ -25,9 +23,6 @@ inline constexpr int kVueAucune = 99;
 /// Throws platform::settings::ConversionError for a stored text that is no number.
 int VueCourante();
 void EnregistrerVue(int vue);
-
-/// The queries of the longest lists that showing a view begins with; none for a number that is no view.
-QStringList RequetesDeVue(int vue);
 
 /// The press of Bouton(vue): makes the view current, if it is another one.
 void PresserBouton(Frmmain &frm, int vue);

@@ -191,17 +191,8 @@ public:
 
 } // namespace
 
-void LireDAvance(const platform::desktop::SingleInstance &instance, const QString &dossier) {
-    if (dossier.isEmpty() || instance.IsRunningElsewhere()) {
-        return;
-    }
-    try {
-        store::LireDAvance(store::CheminBase(dossier), browser::RequetesDeVue(browser::VueCourante()));
-    } catch (const settings::ConversionError &) { // told where the view is loaded
-    }
-}
-
 void PreparerApplication() {
+    store::PreparerCle();
     QApplication::setApplicationName(Titre());
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setStyle(new Style(QStringLiteral("Fusion"))); // the application owns it
