@@ -85,7 +85,7 @@ void PreparerChamp(Ribbon &champ) {
     champ.SetForeColor(kInk);
     champ.setFocusPolicy(Qt::NoFocus);
     champ.setAttribute(Qt::WA_TransparentForMouseEvents);
-    QObject::connect(&champ, &Ribbon::toggled, &champ, [&champ] { champ.SetValue(false); });
+    whenPressed(champ, [] {});
 }
 
 } // namespace
