@@ -119,11 +119,6 @@ private Q_SLOTS:
         whenPressed(kept, [] {}, Release::ByAction);
         kept.SetValue(true);
         QVERIFY(kept.Value());
-
-        auto gone = std::make_unique<RibbonButton>(nullptr);
-        whenPressed(*gone, [&gone] { gone.reset(); });
-        gone->SetValue(true);
-        QVERIFY(!gone);
     }
 
     void ribbonRaisesItsEventOnBothChanges() {
