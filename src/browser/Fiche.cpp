@@ -247,11 +247,4 @@ void CacherListeModif(Frmmain &frm) {
     }
 }
 
-void QuitterFiche(Frmmain &frm) {
-    CacherListeModif(frm);
-    frm.Scroll(0).hide();
-    frm.Outils(2).hide();
-    frm.LBtn(2).hide();
-}
-
 } // namespace browser

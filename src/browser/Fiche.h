@@ -32,7 +32,4 @@ void ChargerLesListesCombo(Frmmain &frm);
 /// Hides the drop lists of the detail.
 void CacherListeModif(Frmmain &frm);
 
-/// Puts the recipe away, and the tool that opens its sheet.
-void QuitterFiche(Frmmain &frm);
-
 } // namespace browser

@@ -134,15 +134,15 @@ constexpr std::array<QStringView, 11> kPhrases{
 
 constexpr Rectangle kBarreOutils{Twips(90), Twips(645), Twips(15180), Twips(1050)};
 
-QString ImageNommee(const char *dossier, int numero) {
-    return QStringLiteral(":/%1-%2").arg(QLatin1String(dossier)).arg(numero);
+QPixmap IconeNumero(const char *nom, int numero) {
+    return resourcePicture(QStringLiteral(":/icones/%1-%2.argb").arg(QLatin1String(nom)).arg(numero));
 }
 
 std::vector<QPixmap> ImagesDesVues() {
     std::vector<QPixmap> images;
     images.reserve(kNombreDeVues);
     for (int vue = 0; vue < kNombreDeVues; ++vue) {
-        images.push_back(resourcePicture(ImageNommee("icones/vue", vue) + QStringLiteral(".argb")));
+        images.push_back(IconeNumero("vue", vue));
     }
     return images;
 }
@@ -256,7 +256,7 @@ void Frmmain::PeindreOutils() {
         Ribbon &outil = Outils(index);
         outil.SetLook(Look::Tool);
         outil.setStatusTip(kPhrases.at(static_cast<std::size_t>(index)).toString());
-        outil.SetPicture(resourcePicture(ImageNommee("icones/outil", index) + QStringLiteral(".argb")));
+        outil.SetPicture(IconeNumero("outil", index));
     }
     LBtn.ForEach([](Panel &panneau) {
         panneau.setFont(interfaceFont(Face::SansSerif, 8.25));
@@ -322,11 +322,6 @@ void Frmmain::RemplirVocabulaires() {
     }
     LCout.SetListIndex(0);
     LDiff.SetListIndex(0);
-}
-
-void Frmmain::MontrerTheme(int vue) {
-    Cadre(1).SetPicture(resourcePicture(ImageNommee("themes/vue", vue) + QStringLiteral(".png")).toImage());
-    Cadre(1).show();
 }
 
 void Frmmain::SetCouleurSelection(const QColor &couleur) {

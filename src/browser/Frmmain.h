@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Volet.h"
+
 #include "platform/controls/ControlArray.h"
 #include "platform/controls/DropList.h"
 #include "platform/controls/Labels.h"
@@ -34,9 +36,6 @@ public:
 
     /// The hand that points at a row.
     const QCursor &CurseurMain() const { return m_main; }
-
-    /// Shows the theme picture of a view in Cadre(1).
-    void MontrerTheme(int vue);
 
 private:
     std::vector<QPixmap> m_img;
@@ -91,8 +90,9 @@ public:
     Label Label1;
     Panel Pb;
 
-    /// Key of the row of Liste that ListeHaute last acted on; empty after a sort button.
-    QString CleCourante;
+    /// What the place of the recipe shows.
+    browser::Volet Volet{*this};
+
     /// Text and number of the selected row of Liste.
     QString TitreCourant;
     qint64 NumeroCourant = 0;

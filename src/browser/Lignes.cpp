@@ -86,7 +86,7 @@ void ChoisirLigne(Frmmain &frm, const Colonne &colonne) {
     }
     const QString texte = store::SansBlancs(liste.Text());
     liste.SetText(texte);
-    const qint64 recette = NumeroDeLaFiche(frm);
+    const qint64 recette = frm.Volet.Numero();
     const TextesLigne ancienne = LigneAffichee(frm, i);
     TextesLigne nouvelle = ancienne;
     nouvelle.*colonne.texte = texte;

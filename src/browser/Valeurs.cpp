@@ -2,7 +2,6 @@
 
 #include "Fiche.h"
 #include "Frmmain.h"
-#include "Vues.h"
 
 #include "platform/dialogs/ColourDialog.h"
 #include "store/AccesBase.h"
@@ -59,7 +58,7 @@ const ListeDeValeur &ValeurDe(int index) {
 }
 
 void EcrireFiche(const Frmmain &frm, QVariant valeur, int position) {
-    store::ModifierChamp(kTableRecettes, NumeroDeLaFiche(frm), valeur, kCleRecette, position);
+    store::ModifierChamp(kTableRecettes, frm.Volet.Numero(), valeur, kCleRecette, position);
 }
 
 /// Number of the text in the table of the value, which gets a row for it if need be.
@@ -169,11 +168,6 @@ void BrancherSaisie(Frmmain &frm, int index) {
 }
 
 } // namespace
-
-qint64 NumeroDeLaFiche(const Frmmain &frm) {
-    const List &liste = ListeDeLaFiche(frm);
-    return store::NumeroDeCle(liste.Key(liste.SelectedIndex()));
-}
 
 void BrancherValeurs(Frmmain &frm) {
     for (int index = 0; index < frm.Data.Count(); ++index) {

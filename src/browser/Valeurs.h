@@ -9,10 +9,6 @@ namespace browser {
 
 class Frmmain;
 
-/// Number of the recipe shown, on which every change acts: that of the selected row of the list named by Outils(2).Tag.
-/// Throws std::out_of_range when no row is selected.
-qint64 NumeroDeLaFiche(const Frmmain &frm);
-
 /// Connects the value buttons of the recipe and their lists, and the two texts.
 void BrancherValeurs(Frmmain &frm);
 

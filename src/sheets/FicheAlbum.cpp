@@ -174,7 +174,7 @@ void FicheAlbum::Brancher() {
 }
 
 void FicheAlbum::ChargerFiche() {
-    const List &liste = browser::ListeDeLaFiche(m_frm);
+    const List &liste = m_frm.Volet.Liste();
     const int choisie = liste.SelectedIndex();
     MontrerTitre(liste.Text(choisie));
     RemplirFiche();

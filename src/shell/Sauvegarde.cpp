@@ -72,7 +72,6 @@ void RestaurerCopie(const QString &fichier) {
 
 void RechargerListes(browser::Frmmain &frm) {
     try {
-        frm.CleCourante.clear();
         TrierListe(frm, browser::VueCourante());
     } catch (const std::exception &) {
         // A file that is no book of ours fails again, and loudly, at the next query.

@@ -171,7 +171,6 @@ private Q_SLOTS:
 
     void withoutARecipe() {
         LivreEssai::execute({u"DELETE From Cocktails"_qs});
-        m_window->CleCourante.clear();
         TrierListe(*m_window, 0);
         choose(m_window->LCout, store::Cout[4].toString()); // shown, not stored, not told
         QCOMPARE(m_window->Data(2).Caption(), store::Cout[4].toString());

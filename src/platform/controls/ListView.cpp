@@ -187,6 +187,13 @@ void ListBox::contextMenuEvent(QContextMenuEvent *event) {
     }
 }
 
+QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex &index,
+                                                              const QEvent *event) const {
+    const auto command = QListView::selectionCommand(index, event);
+    const bool empties = !index.isValid() || command.testFlag(QItemSelectionModel::Deselect);
+    return empties ? QItemSelectionModel::NoUpdate : command;
+}
+
 int ListBox::checked(int index) const {
     if (index < 1 || index > Count()) {
         throw std::out_of_range("L'élément " + std::to_string(index) + " n'est pas dans la liste.");
