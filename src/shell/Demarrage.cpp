@@ -169,7 +169,7 @@ void Brancher(Fenetres &fenetres) {
 // open by itself.
 void AccueillirSiVoulu(Fenetres &fenetres) {
     if (Lire(kReglages, kSplashAuto, QStringLiteral("0")) == QStringLiteral("Vrai")) {
-        fenetres.Accueil().ShowModal();
+        fenetres.Fenetre(browser::Outil::APropos).ShowModal();
     }
 }
 
