@@ -2,6 +2,8 @@
 
 #include "platform/controls/Twips.h"
 
+#include "store/Schema.h"
+
 #include <QString>
 
 namespace browser {
@@ -9,8 +11,8 @@ namespace browser {
 class Frmmain;
 
 /// The table of the recipes and its key.
-inline const QString kTableRecettes = QStringLiteral("Cocktails");
-inline const QString kCleRecette = QStringLiteral("Numero");
+inline const QString kTableRecettes = store::kCocktails.nom.toString();
+inline const QString kCleRecette = store::kCocktails.Cle().toString();
 
 /// Between the rows of the detail and at its right and lower edge.
 inline constexpr platform::controls::Twips kMargeFiche{400};

@@ -4,6 +4,7 @@
 #include "Lignes.h"
 #include "Operations.h"
 #include "TableDesOutils.h"
+#include "TableDesValeurs.h"
 #include "TableDesVues.h"
 #include "Valeurs.h"
 #include "Vues.h"
@@ -11,7 +12,6 @@
 #include "platform/controls/FileDrop.h"
 #include "platform/controls/Fonts.h"
 #include "platform/controls/ToolWindow.h"
-#include "store/Vocabulaires.h"
 
 #include <array>
 
@@ -303,9 +303,12 @@ void Frmmain::PeindreFiche() {
     }
 }
 
-std::array<Frmmain::DropList *, 10> Frmmain::ListesModif() {
-    return {&LCategorie, &LDureeReal, &LVerre,    &LMateriel, &LCout,
-            &LDiff,      &LTeneur,    &LQuantite, &LMesure,   &LIngre};
+std::vector<Frmmain::DropList *> Frmmain::ListesModif() {
+    std::vector<DropList *> listes{&LQuantite, &LMesure, &LIngre};
+    for (const Valeur &valeur : kValeurs) {
+        listes.push_back(&valeur.Liste(*this));
+    }
+    return listes;
 }
 
 void Frmmain::PreparerListes() {
@@ -316,15 +319,16 @@ void Frmmain::PreparerListes() {
 }
 
 void Frmmain::RemplirVocabulaires() {
-    // The sixth class of cost is empty and not offered.
-    for (std::size_t code = 0; code + 1 < store::Cout.size(); ++code) {
-        LCout.AddItems({store::Cout[code].toString()});
+    for (const Valeur &valeur : kValeurs) {
+        for (const QStringView classe : valeur.vocabulaire) {
+            if (!classe.isEmpty()) {
+                valeur.Liste(*this).AddItems({classe.toString()});
+            }
+        }
+        if (valeur.forme == Forme::Code) {
+            valeur.Liste(*this).SetListIndex(0);
+        }
     }
-    for (const QStringView classe : store::Difficulte) {
-        LDiff.AddItems({classe.toString()});
-    }
-    LCout.SetListIndex(0);
-    LDiff.SetListIndex(0);
 }
 
 void Frmmain::SetCouleurSelection(const QColor &couleur) {

@@ -12,7 +12,6 @@
 #include "platform/controls/ScrollPanel.h"
 #include "platform/controls/SkinnedWindow.h"
 
-#include <array>
 #include <vector>
 
 namespace browser {
@@ -104,7 +103,7 @@ public:
     void SetCouleurSelection(const QColor &couleur);
 
     /// The drop lists of the detail.
-    std::array<DropList *, 10> ListesModif();
+    std::vector<DropList *> ListesModif();
 
     /// One further row of the ingredient buttons, as the window's design has them, hidden.
     void ChargerLigne();

@@ -10,6 +10,7 @@
 #include "platform/dialogs/MessageBox.h"
 #include "store/AccesBase.h"
 #include "store/Programme.h"
+#include "store/Schema.h"
 #include "store/Textes.h"
 
 #include <algorithm>
@@ -22,7 +23,7 @@ namespace {
 using namespace platform::controls;
 namespace dialogs = platform::dialogs;
 
-constexpr int kPositionPhoto = 4;
+constexpr int kPositionPhoto = store::Position(store::ChampRecette::Photo);
 
 /// What a view asks for when a value is added, and how the list is headed and counted then. Some texts date from
 /// other uses of the same tables.
