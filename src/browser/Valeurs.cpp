@@ -4,9 +4,13 @@
 #include "Frmmain.h"
 #include "TableDesValeurs.h"
 
+#include "platform/controls/WhenPressed.h"
+#include "platform/database/DatabaseError.h"
 #include "platform/dialogs/ColourDialog.h"
 #include "store/AccesBase.h"
 #include "store/Textes.h"
+
+#include <stdexcept>
 
 namespace browser {
 
@@ -39,13 +43,22 @@ void ChoisirRecherche(Frmmain &frm, const Valeur &valeur) {
     FermerListe(frm, valeur.Liste(frm), valeur.Bouton(frm));
 }
 
-/// Stores a value that the button shows already; a failure keeps the list open and says nothing.
-void StockerEnSilence(Frmmain &frm, const Valeur &valeur, const QVariant &contenu) {
+/// Says nothing of a failure: false where the book cannot be written, or no recipe is shown.
+bool EcrireEnSilence(const Frmmain &frm, const QVariant &contenu, store::ChampRecette champ) {
     try {
-        EcrireFiche(frm, contenu, valeur.champ);
+        EcrireFiche(frm, contenu, champ);
+        return true;
+    } catch (const platform::database::DatabaseError &) {
+    } catch (const std::out_of_range &) { // of Volet::Numero
+    }
+    return false;
+}
+
+/// Stores a value that the button shows already. After a failure the list stays open, and the button shows what was
+/// chosen until the recipe is shown again.
+void StockerEnSilence(Frmmain &frm, const Valeur &valeur, const QVariant &contenu) {
+    if (EcrireEnSilence(frm, contenu, valeur.champ)) {
         FermerListe(frm, valeur.Liste(frm), valeur.Bouton(frm));
-    } catch (const std::exception &) {
-        // The button shows what was chosen, until the recipe is shown again.
     }
 }
 
@@ -85,12 +98,9 @@ void OuvrirValeur(Frmmain &frm, const Valeur &valeur) {
     liste.Open();
 }
 
+/// After a failure the text stays in the box, and its next change tries again.
 void EnregistrerSaisie(Frmmain &frm, const TexteLong &texte) {
-    try {
-        EcrireFiche(frm, frm.Saisie(texte.saisie).TextRTF(), texte.champ);
-    } catch (const std::exception &) {
-        // The text stays in the box, and its next change tries again.
-    }
+    EcrireEnSilence(frm, frm.Saisie(texte.saisie).TextRTF(), texte.champ);
 }
 
 /// Black leaves the selection as it is.
@@ -105,16 +115,15 @@ void ColorerSelection(Frmmain &frm, RichTextBox &saisie) {
 }
 
 void BrancherValeur(Frmmain &frm, const Valeur &valeur) {
-    Ribbon &bouton = valeur.Bouton(frm);
     DropList &liste = valeur.Liste(frm);
     const auto choisir = [&frm, &valeur] { ChoisirValeur(frm, valeur); };
-    BrancherPression(frm, bouton, [&frm, &valeur] { OuvrirValeur(frm, valeur); });
+    whenPressed(valeur.Bouton(frm), [&frm, &valeur] { OuvrirValeur(frm, valeur); });
     QObject::connect(&liste, &DropList::Click, &frm, choisir);
     if (valeur.entree == Entree::Confirme) {
         QObject::connect(&liste, &DropList::EnterPressed, &frm, choisir);
     }
     QObject::connect(&liste, &DropList::Escaped, &frm,
-                     [&frm, &liste, &bouton] { FermerListe(frm, liste, bouton); });
+                     [&frm, &valeur] { FermerListe(frm, valeur.Liste(frm), valeur.Bouton(frm)); });
 }
 
 void BrancherSaisie(Frmmain &frm, const TexteLong &texte) {
@@ -161,15 +170,6 @@ void FermerListe(Frmmain &frm, DropList &liste, Ribbon &bouton) {
 void MontrerValeur(Ribbon &bouton, const QString &texte) {
     bouton.SetCaption(texte);
     bouton.setToolTip(texte);
-}
-
-void BrancherPression(Frmmain &frm, Ribbon &bouton, const std::function<void()> &ouvrir) {
-    QObject::connect(&bouton, &Ribbon::toggled, &frm, [&bouton, ouvrir](bool presse) {
-        if (presse) {
-            ouvrir();
-            bouton.SetValue(false);
-        }
-    });
 }
 
 } // namespace browser

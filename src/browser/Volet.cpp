@@ -3,6 +3,8 @@
 #include "Fiche.h"
 #include "Frmmain.h"
 
+#include "platform/images/ResourcePicture.h"
+
 #include <stdexcept>
 
 namespace browser {
@@ -44,7 +46,7 @@ void Volet::Quitter() {
 void Volet::MontrerTheme(int vue) {
     Quitter();
     m_frm.Cadre(1).SetPicture(
-        platform::controls::resourcePicture(QStringLiteral(":/themes/vue-%1.png").arg(vue)).toImage());
+        platform::images::resourcePicture(QStringLiteral(":/themes/vue-%1.png").arg(vue)).toImage());
     m_frm.Cadre(1).show();
 }
 

@@ -83,10 +83,8 @@ void BrancherBarreOutils(Fenetres &fenetres) {
     for (int index = 0; index < frm.Outils.Count(); ++index) {
         BrancherOutil(frm, index);
     }
-    QObject::connect(&frm, &browser::Frmmain::OutilPresse, &frm, [&fenetres](int index) {
-        Executer(fenetres, static_cast<Outil>(index));
-        fenetres.Principale.Outils(index).SetValue(false);
-    });
+    QObject::connect(&frm, &browser::Frmmain::OutilPresse, &frm,
+                     [&fenetres](int index) { Executer(fenetres, static_cast<Outil>(index)); });
     QObject::connect(&frm, &browser::Frmmain::CreationDemandee, &frm,
                      [&fenetres] { Executer(fenetres, Outil::CreationManuelle); });
 }

@@ -1,6 +1,7 @@
 #include "Commandes.h"
 
 #include "Fenetres.h"
+#include "OuvrirAdresse.h"
 #include "Sauvegarde.h"
 #include "Splash.h"
 
@@ -61,12 +62,12 @@ constexpr std::array kCommandes{
     Commande{.outil = Outil::Restauration,
              .agir = [](Fenetres &fenetres) { RestaurerBase(fenetres.Principale); }},
     Commande{.outil = Outil::SitePartenaire,
-             .agir = [](Fenetres &fenetres) { Ouvrir(fenetres.Principale, store::PartnerSiteHome); }},
+             .agir = [](Fenetres &fenetres) { OuvrirAdresse(fenetres.Principale, store::PartnerSiteHome); }},
     Commande{.outil = Outil::SiteAuteur,
-             .agir = [](Fenetres &fenetres) { Ouvrir(fenetres.Principale, store::AuteurSite); }},
+             .agir = [](Fenetres &fenetres) { OuvrirAdresse(fenetres.Principale, store::AuteurSite); }},
     Commande{.outil = Outil::APropos, .faire = FaireAccueil, .retour = Outil::SiteAuteur, .remplace = false},
     Commande{.outil = Outil::Aide,
-             .agir = [](Fenetres &fenetres) { Ouvrir(fenetres.Principale, u"aide/index.htm"); }},
+             .agir = [](Fenetres &fenetres) { OuvrirAdresse(fenetres.Principale, u"aide/index.htm"); }},
 };
 
 constexpr std::size_t Place(Outil outil) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Reglages.h"
+#include "Modes.h"
 
 #include "browser/TableDesOutils.h"
 #include "platform/controls/ToolWindow.h"

@@ -3,6 +3,10 @@
 #include "Commandes.h"
 #include "Fenetres.h"
 
+#include "platform/database/DatabaseError.h"
+#include "platform/settings/Conversion.h"
+#include "platform/webview/LoadEngine.h"
+
 #include <QGuiApplication>
 
 namespace shell {
@@ -37,10 +41,12 @@ void Restaurer(Fenetres &fenetres) {
     fenetres.Principale.activateWindow();
     // It has done its part before a window comes back, which may stay open for long.
     fenetres.Pop.hide();
+    // Where a window cannot be made, the main window at least has come back.
     try {
         RouvrirFenetre(fenetres);
-    } catch (const std::exception &) {
-        // The main window at least has come back.
+    } catch (const platform::database::DatabaseError &) {
+    } catch (const platform::settings::ConversionError &) {
+    } catch (const platform::webview::WebViewError &) {
     }
     FermerLesOubliees(fenetres);
 }

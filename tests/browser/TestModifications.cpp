@@ -4,6 +4,7 @@
 #include "browser/Fiche.h"
 #include "browser/TableDesValeurs.h"
 #include "browser/Valeurs.h"
+#include "store/Textes.h"
 #include "store/Vocabulaires.h"
 
 #include <QLineEdit>

@@ -165,7 +165,7 @@ void ListBox::mouseReleaseEvent(QMouseEvent *event) {
 
 void ListBox::mouseDoubleClickEvent(QMouseEvent *event) {
     QListView::mouseDoubleClickEvent(event);
-    if (event->button() == Qt::LeftButton) {
+    if (event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid()) {
         Q_EMIT DblClick();
     }
 }

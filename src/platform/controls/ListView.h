@@ -83,7 +83,7 @@ public:
 Q_SIGNALS:
     /// The user clicked a row.
     void ItemClicked();
-    /// The user clicked twice into the list, on no row perhaps, or pressed Enter on the selected row.
+    /// The user clicked twice on a row, or pressed Enter on the selected row.
     void DblClick();
     /// The user chose a row by the keyboard; raised when the key is let go.
     void ArrowReleased();
