@@ -188,6 +188,24 @@ private Q_SLOTS:
                  QStringList({u"clic 2"_qs, u"flèche 3"_qs, u"flèche 2"_qs, u"clic 1"_qs, u"droit 1"_qs}));
     }
 
+    void oneRowOfAListStaysSelected() {
+        List &list = shownList();
+        list.Select(2);
+        const QPoint row = list.visualRect(list.model()->index(1, 0)).center();
+        const QPoint below(row.x(), list.viewport()->height() - 2);
+        for (const Qt::MouseButton button : {Qt::LeftButton, Qt::MiddleButton, Qt::RightButton}) {
+            QTest::mouseClick(list.viewport(), button, {}, below);
+            QCOMPARE(list.SelectedIndex(), 2);
+            QTest::mouseClick(list.viewport(), button, Qt::ControlModifier, row);
+            QCOMPARE(list.SelectedIndex(), 2);
+        }
+        QTest::keyClick(&list, Qt::Key_Space, Qt::ControlModifier);
+        QCOMPARE(list.SelectedIndex(), 2);
+        const QSignalSpy chosen(&list, &List::DblClick);
+        QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, below);
+        QCOMPARE(chosen.count(), 0);
+    }
+
     void listKeepsItsRowsApart() {
         List &list = shownList();
         QCOMPARE(list.IndexOfKey(u"N 9"_qs), 3);
