@@ -59,7 +59,7 @@ void measureSearch(const GeneratedBook &book, Report &report) {
 
     const QString query = QStringLiteral("Select * From Cocktails where Numero > 0    order by Numero desc");
     const Times read =
-        alternate([&] { store::LireResultats(query, false, word); }, [&] { walk(bare); }, kTurns);
+        alternate([&] { store::ChargerResultats(query, false, word); }, [&] { walk(bare); }, kTurns);
     report.add({QStringLiteral("search read"), book.name(), read.ours, read.bare, Goal::Ratio, kSearchGoal});
 
     find.show();

@@ -7,6 +7,7 @@
 #include "browser/Frmmain.h"
 #include "browser/Vues.h"
 #include "store/Programme.h"
+#include "store/Schema.h"
 #include "store/Textes.h"
 
 #include <QCoreApplication>
@@ -75,8 +76,7 @@ void measureList(const GeneratedBook &book, Report &report) {
     OpenWindow main(book);
     // Left to itself the engine would sort through the whole table, with its long texts.
     const Times times =
-        loadList(main.window(), BareBook(book.path()),
-                 {QStringLiteral("Cocktails"), QStringLiteral("Recette"), {}, {}}, 0,
+        loadList(main.window(), BareBook(book.path()), {&store::kCocktails, {}, {}}, 0,
                  "SELECT Numero, Recette FROM Cocktails INDEXED BY CocktailsListe ORDER BY Recette");
     report.add({QStringLiteral("list of recipes loaded"), book.name(), times.ours, times.bare, Goal::Ratio,
                 kListGoal});
@@ -84,8 +84,7 @@ void measureList(const GeneratedBook &book, Report &report) {
 
 void measureIngredients(const GeneratedBook &book, Report &report) {
     OpenWindow main(book);
-    const Times times = loadList(main.window(), BareBook(book.path()),
-                                 {QStringLiteral("Ingredient"), QStringLiteral("Ingredient"), {}, {}}, 6,
+    const Times times = loadList(main.window(), BareBook(book.path()), {&store::kIngredient, {}, {}}, 6,
                                  "SELECT NIngredient, Ingredient FROM Ingredient ORDER BY Ingredient");
     const QString size = QString::number(book.ingredients) + QStringLiteral(" ingredients");
     report.add(

@@ -226,7 +226,8 @@ void AfficherIngredients(Frmmain &frm, qint64 numero) {
 
 void ChargerLesListesCombo(Frmmain &frm) {
     const auto charger = [](DropList &liste, const store::Table &table) {
-        store::ChargerCombo(liste, table.nom.toString(), table.Texte().toString());
+        liste.Clear();
+        liste.AddItems(store::ChargerCombo(table));
     };
     for (const Valeur &valeur : kValeurs) {
         if (const store::Table *table = valeur.Table()) {

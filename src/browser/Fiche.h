@@ -2,17 +2,11 @@
 
 #include "platform/geometry/Twips.h"
 
-#include "store/Schema.h"
-
 #include <QString>
 
 namespace browser {
 
 class Frmmain;
-
-/// The table of the recipes and its key.
-inline const QString kTableRecettes = store::kCocktails.nom.toString();
-inline const QString kCleRecette = store::kCocktails.Cle().toString();
 
 /// Between the rows of the detail and at its right and lower edge.
 inline constexpr platform::geometry::Twips kMargeFiche{400};

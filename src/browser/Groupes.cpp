@@ -45,17 +45,17 @@ void ChargerRecettesVue(Frmmain &frm, int vue) {
     const Vue *choisie = VueNumero(vue);
     if (vue == kVueIngredients) {
         ChargerRecettesIngredient(frm);
-    } else if (choisie != nullptr && !choisie->colonne.isEmpty()) {
-        ChargerRecettesCritere(frm, QStringLiteral("Cocktails"), choisie->colonne.toString());
+    } else if (choisie != nullptr && choisie->champ) {
+        ChargerRecettesCritere(frm, *choisie->champ);
     }
 }
 
-void ChargerRecettesCritere(Frmmain &frm, const QString &table, const QString &champ) {
+void ChargerRecettesCritere(Frmmain &frm, store::ChampRecette champ) {
     List::Loading lignes(frm.LFilms);
     auto base = store::OuvrirLivre();
-    auto recettes = base.OpenRecordset(QStringLiteral("SELECT * From ") + table + QStringLiteral(" where ") +
-                                       champ + QStringLiteral(" = ") + NumeroChoisi(frm) +
-                                       QStringLiteral(" order by ") + champ + QStringLiteral(" desc"));
+    const QStringView nom = store::Description(champ).nom;
+    auto recettes = base.OpenRecordset(u"SELECT * From Cocktails where " + nom + u" = " + NumeroChoisi(frm) +
+                                       u" order by " + nom + u" desc");
     for (; !recettes.AtEnd(); recettes.MoveNext()) {
         AjouterRecette(lignes, recettes);
     }

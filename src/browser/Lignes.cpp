@@ -46,9 +46,10 @@ constexpr std::array kColonnesDeLigne{
                    &LigneIngre::ingredient},
 };
 
-void Rechercher(const ColonneDeLigne &colonne, const QString &texte, qint64 &numero) {
-    store::RechercherNumero(texte == store::LignePointillee ? QStringLiteral(" ") : texte, numero,
-                            colonne.table->nom.toString(), colonne.table->Cle().toString());
+qint64 Rechercher(const ColonneDeLigne &colonne, const QString &texte) {
+    return store::RechercherNumero(texte == store::LignePointillee ? QStringLiteral(" ") : texte,
+                                   *colonne.table)
+        .value_or(0);
 }
 
 /// Finds the numbers of both lines, quantities first, then measures, then ingredients. Dots stand for the row with a
@@ -56,8 +57,8 @@ void Rechercher(const ColonneDeLigne &colonne, const QString &texte, qint64 &num
 ClesLignes RechercherCles(const TextesLigne &ancienne, const TextesLigne &nouvelle) {
     ClesLignes cles{};
     for (const ColonneDeLigne &colonne : kColonnesDeLigne) {
-        Rechercher(colonne, ancienne.*colonne.texte, cles.ancienne.*colonne.numero);
-        Rechercher(colonne, nouvelle.*colonne.texte, cles.nouvelle.*colonne.numero);
+        cles.ancienne.*colonne.numero = Rechercher(colonne, ancienne.*colonne.texte);
+        cles.nouvelle.*colonne.numero = Rechercher(colonne, nouvelle.*colonne.texte);
     }
     return cles;
 }

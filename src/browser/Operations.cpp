@@ -23,8 +23,6 @@ namespace {
 using namespace platform::controls;
 namespace dialogs = platform::dialogs;
 
-constexpr int kPositionPhoto = store::Position(store::ChampRecette::Photo);
-
 /// What a view asks for when a value is added, and how the list is headed and counted then. Some texts date from
 /// other uses of the same tables.
 struct Creation {
@@ -84,7 +82,7 @@ void SupprimerDuBas(Frmmain &frm) {
     if (!ConfirmerSuppression(frm, liste.Text(liste.SelectedIndex()))) {
         return;
     }
-    store::SupprimerFiches(kTableRecettes, NumeroChoisi(liste), kCleRecette);
+    store::SupprimerFiches(store::kCocktails, NumeroChoisi(liste));
     if (RetirerRangee(liste)) {
         frm.Volet.MontrerRecette(kBas, NumeroChoisi(liste), liste.Text(liste.SelectedIndex()));
     }
@@ -99,9 +97,9 @@ bool SupprimerDeLaVue(Frmmain &frm, int vue, qint64 numero) {
     if (vue != 0 && frm.LFilms.Count() > 0) {
         return false;
     }
-    store::SupprimerFiches(courante->table.toString(), numero, courante->cle.toString());
+    store::SupprimerFiches(*courante->table, numero);
     if (vue == 0) {
-        store::SupprimerFiches(QStringLiteral("Ingre"), numero, kCleRecette);
+        store::SupprimerFiches(store::kIngre, numero);
     }
     frm.LBGauche.SetCaption(QString::number(frm.Liste.Count()) +
                             kSuffixes.at(static_cast<std::size_t>(vue)).toString());
@@ -129,8 +127,7 @@ pictures::CadreImage CadreDe(Frmmain &frm) {
 
 /// Stores the path of the picture chosen last, which is this recipe's unless the choice was broken off.
 void StockerPhoto(Frmmain &frm) {
-    QVariant chemin = frm.Photo.Tag();
-    store::ModifierSiRenseigne(chemin, kTableRecettes, frm.Volet.Numero(), kPositionPhoto);
+    store::ModifierSiRenseigne(frm.Volet.Numero(), store::ChampRecette::Photo, frm.Photo.Tag());
 }
 
 /// Asks for a new value of a view and adds it, whether it is there already or not.
@@ -139,10 +136,10 @@ void AjouterValeur(Frmmain &frm, const Creation &creation) {
     if (!texte || store::SansBlancs(*texte).isEmpty()) {
         return;
     }
-    const QString table = VueNumero(creation.vue)->table.toString();
-    store::AjouterFiche(*texte, table, VueNumero(creation.vue)->cle.toString());
+    const store::Table &table = *VueNumero(creation.vue)->table;
+    store::AjouterFiche(*texte, table);
     const QString avant = frm.Volet.CleCourante();
-    ChargerListe(frm, {table, table, creation.entete.toString(), creation.suffixe.toString()}, creation.vue);
+    ChargerListe(frm, {&table, creation.entete, creation.suffixe}, creation.vue);
     const QString compte = frm.LBGauche.Caption();
     ListeHaute(frm);
     if (frm.Volet.CleCourante() == avant) {
@@ -206,8 +203,7 @@ void SupprimerPhoto(Frmmain &frm) {
         VueCourante() != 0) {
         return;
     }
-    QVariant aucune = QStringLiteral(" ");
-    store::ModifierSiRenseigne(aucune, kTableRecettes, frm.Volet.Numero(), kPositionPhoto);
+    store::ModifierSiRenseigne(frm.Volet.Numero(), store::ChampRecette::Photo, QStringLiteral(" "));
     frm.Photo.SetPicture({});
     frm.CadrePhoto.SetCaption(QStringLiteral("Pas de photo"));
 }

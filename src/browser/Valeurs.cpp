@@ -18,8 +18,8 @@ namespace {
 
 using namespace platform::controls;
 
-void EcrireFiche(const Frmmain &frm, QVariant contenu, store::ChampRecette champ) {
-    store::ModifierChamp(kTableRecettes, frm.Volet.Numero(), contenu, kCleRecette, store::Position(champ));
+void EcrireFiche(const Frmmain &frm, const QVariant &contenu, store::ChampRecette champ) {
+    store::ModifierChamp(frm.Volet.Numero(), champ, contenu);
 }
 
 /// What the column holds for a text: its number in the lookup table, which gets a row for it if need be, or the text.
@@ -28,9 +28,7 @@ QVariant ContenuPour(const Valeur &valeur, const QString &texte) {
     if (table == nullptr) {
         return texte;
     }
-    qint64 numero = 0;
-    store::RechercherNumero(texte, numero, table->nom.toString(), table->Cle().toString());
-    return numero;
+    return store::RechercherNumero(texte, *table).value_or(0);
 }
 
 void ChoisirRecherche(Frmmain &frm, const Valeur &valeur) {

@@ -17,11 +17,6 @@ namespace {
 
 using namespace platform::controls;
 
-// In every lookup table the text column has the name of the table.
-QString ChampTexte(int vue, const QString &table) {
-    return vue == 0 ? QStringLiteral("Recette") : table;
-}
-
 constexpr Twips kHauteurSeule{8300};
 constexpr Twips kHauteurHaute{3920};
 constexpr Twips kHauteurBasse{4000};
@@ -61,7 +56,7 @@ void AjouterVocabulaire(Frmmain &frm, int vue) {
 qsizetype AjouterTable(Frmmain &frm, const Rubrique &rubrique, int vue) {
     List::Loading lignes(frm.Liste);
     auto base = store::OuvrirLivre();
-    auto fiches = base.OpenRecordset(store::RequeteListe(rubrique.table, rubrique.champ));
+    auto fiches = base.OpenRecordset(store::RequeteListe(*rubrique.table));
     const qsizetype nombre = fiches.RecordCount();
     for (qsizetype lues = 1; lues <= nombre; ++lues, fiches.MoveNext()) {
         const auto titre = fiches.Fields(1);
@@ -103,9 +98,9 @@ void MontrerGroupe(Frmmain &frm, int vue) {
     frm.Volet.MontrerGroupe(vue, frm.TitreCourant);
 }
 
-void Renommer(const List &liste, int index, const QString &texte, const QString &table, const QString &cle) {
+void Renommer(const List &liste, int index, const QString &texte, const store::Table &table) {
     if (texte != liste.Text(index)) {
-        store::ModifierLibelle(table, store::NumeroDeCle(liste.Key(index)), texte, cle);
+        store::ModifierLibelle(table, store::NumeroDeCle(liste.Key(index)), texte);
     }
 }
 
@@ -136,10 +131,7 @@ void TrierListe(Frmmain &frm, int vue) {
     frm.LTCentre2.hide();
     frm.Volet.Quitter();
     if (const Vue *choisie = VueNumero(vue)) {
-        const QString table = choisie->table.toString();
-        ChargerListe(frm,
-                     {table, ChampTexte(vue, table), choisie->entete.toString(), choisie->suffixe.toString()},
-                     vue);
+        ChargerListe(frm, {choisie->table, choisie->entete, choisie->suffixe}, vue);
         ListeHaute(frm);
     }
     frm.Liste.raise();
@@ -157,10 +149,10 @@ void ChargerListe(Frmmain &frm, const Rubrique &rubrique, int vue) {
     frm.Liste.SetTag(QString::number(vue));
     PlacerListes(frm, vue);
     OuvrirPanneau(frm);
-    frm.LTGauche.SetCaption(rubrique.entete);
-    frm.LTGauche.SetTag(rubrique.entete);
+    frm.LTGauche.SetCaption(rubrique.entete.toString());
+    frm.LTGauche.SetTag(rubrique.entete.toString());
     frm.LBGauche.SetCaption({});
-    if (VueNumero(vue)->vocabulaire.empty()) {
+    if (rubrique.table != nullptr) {
         const qsizetype nombre = AjouterTable(frm, rubrique, vue);
         frm.LBGauche.SetCaption(QString::number(nombre) + rubrique.suffixe);
     } else {
@@ -226,13 +218,13 @@ void AllerAuVoisin(Frmmain &frm, int pas) {
 
 void RenommerListe(Frmmain &frm, int index, const QString &texte) {
     const Vue *vue = VueNumero(VueCourante());
-    if (vue != nullptr && !vue->table.isEmpty()) {
-        Renommer(frm.Liste, index, texte, vue->table.toString(), vue->cle.toString());
+    if (vue != nullptr && vue->table != nullptr) {
+        Renommer(frm.Liste, index, texte, *vue->table);
     }
 }
 
 void RenommerFilms(Frmmain &frm, int index, const QString &texte) {
-    Renommer(frm.LFilms, index, texte, QStringLiteral("Cocktails"), QStringLiteral("Numero"));
+    Renommer(frm.LFilms, index, texte, store::kCocktails);
 }
 
 } // namespace browser

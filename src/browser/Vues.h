@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/Schema.h"
+
 #include <QString>
 
 namespace browser {
@@ -26,10 +28,11 @@ void PresserBouton(Frmmain &frm, int vue);
 /// Makes a view current: loads its rows into Liste and shows the first one. Throws DatabaseError.
 void TrierListe(Frmmain &frm, int vue);
 
-/// What ChargerListe loads: the table and its text column, the header above the list and the text after the
-/// count.
+/// What ChargerListe loads: the table, or none for the fixed vocabulary of the view; the header above the list and the text
+/// after the count.
 struct Rubrique {
-    QString table, champ, entete, suffixe;
+    const store::Table *table = nullptr;
+    QStringView entete, suffixe;
 };
 
 /// Fills Liste with the rows of a view, selects and highlights the first one. Throws DatabaseError.
@@ -42,7 +45,7 @@ void ListeHaute(Frmmain &frm);
 /// Loads LFilms with the recipes of the group selected in Liste.
 void ChargerRecettesVue(Frmmain &frm, int vue);
 /// Those whose column holds the number of the selected row.
-void ChargerRecettesCritere(Frmmain &frm, const QString &table, const QString &champ);
+void ChargerRecettesCritere(Frmmain &frm, store::ChampRecette champ);
 /// Those with a line of the selected ingredient.
 void ChargerRecettesIngredient(Frmmain &frm);
 
