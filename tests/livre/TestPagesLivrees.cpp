@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTest>
 #include <QUrl>
 
@@ -75,16 +76,20 @@ private Q_SLOTS:
         }
     }
 
-    // The reader ends the program at an address whose group is no number.
-    void theIndexOfTheSiteNamesKnownGroups() {
-        int recipes = 0;
-        for (const QString &address : addressesOf(read(kFolder + u"/facile/index.htm"_s))) {
-            if (address.contains(u"groupid"_s)) {
-                QVERIFY2(!webimport::CategorieDeLAdresse(address).isEmpty(), qPrintable(address));
-                ++recipes;
+    // The reader ends the program at an address whose group is no number, and without a group takes the title of some
+    // recipes for their dish type.
+    void eachLinkToARecipeNamesAKnownGroup() {
+        static const QRegularExpression recipe(u"^(?!index|facile)[a-z-]+\\.htm"_s);
+        QSet<QString> recipes;
+        for (const QString &page : pages(u"facile"_s)) {
+            for (const QString &address : addressesOf(read(page))) {
+                if (const auto match = recipe.match(address); match.hasMatch()) {
+                    QVERIFY2(!webimport::CategorieDeLAdresse(address).isEmpty(), qPrintable(address));
+                    recipes += match.captured();
+                }
             }
         }
-        QVERIFY(recipes >= 8);
+        QCOMPARE(recipes.size(), pages(u"facile"_s).size() - 2);
     }
 
     // A page is captured in code page 1252; what that lacks would reach the book as a question mark.
