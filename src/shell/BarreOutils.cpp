@@ -8,6 +8,7 @@
 #include "platform/webview/LoadEngine.h"
 #include "store/Configuration.h"
 #include "store/Programme.h"
+#include "webimport/facile/FichiersDePassage.h"
 
 #include <array>
 
@@ -51,10 +52,12 @@ void OuvrirImport(Fenetres &fenetres) {
         platform::dialogs::Message(
             &fenetres.Principale, store::TitreProgramme.toString(),
             QStringLiteral("Le navigateur de la création facile n'est pas disponible.\n\n") +
-                QString::fromUtf8(obstacle.what()),
+                QString::fromUtf8(obstacle.what()) +
+                QStringLiteral("\n\nEn attendant, « Création manuelle » permet de saisir une recette."),
             platform::dialogs::Icon::Exclamation);
         return;
     }
+    webimport::facile::OterFichiersDePassage();
     OuvrirOutil(fenetres, *fenetre);
 }
 

@@ -15,6 +15,7 @@
 #include "store/Livre.h"
 #include "store/Programme.h"
 #include "store/Textes.h"
+#include "webimport/facile/FichiersDePassage.h"
 
 #include <QApplication>
 #include <QDir>
@@ -22,6 +23,7 @@
 #include <QIcon>
 #include <QProxyStyle>
 #include <QScreen>
+#include <QThreadPool>
 #include <algorithm>
 #include <cstdlib>
 #include <stdexcept>
@@ -104,7 +106,7 @@ void Placer(browser::Frmmain &frm) {
     }
 }
 
-// A background picture has no place in the window any more; a picture that cannot be read must not stop the start.
+// A background picture has no place in the window; one that is slow or cannot be read must not hold up the start.
 void LireFondEcran() {
     const QString fichier = Lire(kReglages, QStringLiteral("FondScreen"), {});
     const QString dossier = Lire(kReglages, QStringLiteral("RepFondScreen"),
@@ -112,10 +114,12 @@ void LireFondEcran() {
     if (fichier.isEmpty() || store::SansBlancs(fichier).endsWith(QDir::separator())) {
         return;
     }
-    try {
-        LoadPicture(dossier + fichier);
-    } catch (const PictureError &) {
-    }
+    QThreadPool::globalInstance()->start([chemin = dossier + fichier] {
+        try {
+            LoadPicture(chemin);
+        } catch (const PictureError &) {
+        }
+    });
 }
 
 // Storing that no view is loaded is what makes the press take effect: a sort button ignores a press of the
@@ -221,6 +225,7 @@ void ChargerFrmmain(Fenetres &fenetres, const platform::desktop::SingleInstance 
     }
     VerifierEcran();
     VerifierInstance(instance);
+    webimport::facile::OterFichiersDePassage();
     frm.PreparerListes();
     frm.SetCouleurSelection(Qt::blue);
     LireFondEcran();
