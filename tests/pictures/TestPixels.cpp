@@ -3,7 +3,6 @@
 #include "pictures/FichierBmp.h"
 #include "pictures/Miroirs.h"
 #include "pictures/Rotation.h"
-#include "platform/controls/Picture.h"
 #include "store/Programme.h"
 
 #include <QRandomGenerator>
@@ -15,13 +14,12 @@
 #include <vector>
 
 using namespace pictures;
-using platform::controls::PictureError;
 using platform::surface::kNoPoint;
 using platform::surface::Surface;
 
 namespace {
 
-const SuiviRotation kNobody{[](double) {}, [] {}};
+const SuiviRotation kNobody{[](double) {}, [] { return true; }};
 
 Surface randomSurface(int width, int height, quint32 seed) {
     QRandomGenerator random(seed);
@@ -138,11 +136,13 @@ private Q_SLOTS:
         Surface expected;
         expected.clear(target.width(), target.height());
         std::vector<double> expectedProgress;
-        plainTurn(source, expected, angle, {[&](double part) { expectedProgress.push_back(part); }, [] {}});
+        plainTurn(source, expected, angle,
+                  {[&](double part) { expectedProgress.push_back(part); }, [] { return true; }});
         Surface turned;
         turned.clear(target.width(), target.height());
         std::vector<double> progress;
-        Rotation(source, turned, angle, {[&](double part) { progress.push_back(part); }, [] {}});
+        Rotation(source, turned, angle,
+                 {[&](double part) { progress.push_back(part); }, [] { return true; }});
         QCOMPARE(turned.picture(), expected.picture());
         QCOMPARE(progress, expectedProgress);
     }
@@ -192,15 +192,6 @@ private Q_SLOTS:
         const QByteArray bytes = contentOf(m_folder.filePath(u"temp.bmp"_qs));
         QVERIFY(bytes.startsWith("BM"));
         QCOMPARE(bytes.size(), 54 + 5 * 24); // rows of 21 bytes, filled to 24
-    }
-
-    void fileThatCannotBeWritten() {
-        Surface read = randomSurface(2, 2, 5);
-        const QImage before = read.picture().copy();
-        store::DefinirDossierProgramme(m_folder.filePath(u"absent"_qs));
-        QVERIFY_THROWS_EXCEPTION(PictureError, PasserParTempBmp(randomSurface(3, 3, 1), read));
-        QCOMPARE(read.picture(), before);
-        QVERIFY_THROWS_EXCEPTION(PictureError, EcrireBmp(randomSurface(3, 3, 1), m_folder.path()));
     }
 };
 

@@ -4,6 +4,8 @@
 
 #include "platform/controls/FileDrop.h"
 #include "platform/controls/Fonts.h"
+#include "platform/dialogs/MessageBox.h"
+#include "store/Programme.h"
 
 #include <QShortcut>
 
@@ -99,7 +101,7 @@ void Acquisition::Peindre() {
 }
 
 void Acquisition::Brancher() {
-    connect(this, &SkinnedWindow::CloseRequested, this, &Acquisition::Unload);
+    connect(this, &SkinnedWindow::CloseRequested, this, &Acquisition::Quitter);
     for (int index = 0; index < Btn_ScanS.Count(); ++index) {
         BrancherBouton(index);
     }
@@ -140,6 +142,17 @@ void Acquisition::Presser(int index) {
         bouton.SetValue(false);
         bouton.SetForeColor(Qt::black);
     }
+}
+
+void Acquisition::Quitter() {
+    if (AEnregistrer &&
+        !platform::dialogs::Ask(this, store::TitreProgramme.toString(),
+                                QStringLiteral("Cette image n'est pas enregistrée.\r\r"
+                                               "Voulez-vous quitter l'atelier sans l'enregistrer ?"))) {
+        return;
+    }
+    Quittee = true;
+    Unload();
 }
 
 void Acquisition::PermettreOperations() {
