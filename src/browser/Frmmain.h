@@ -1,5 +1,6 @@
 #pragma once
 
+#include "pictures/LecteurPhoto.h"
 #include "platform/controls/ControlArray.h"
 #include "platform/controls/DropList.h"
 #include "platform/controls/Labels.h"
@@ -79,6 +80,8 @@ public:
     Panel CadrePhoto;
     Image Photo;
     Image ImageTemp;
+    /// Reads Photo's picture.
+    pictures::LecteurPhoto LecteurPhoto;
     Array<Label> Libelle;
     Array<Ribbon> Data;
     Array<Ribbon> Quantite, Mesure, Ingre;

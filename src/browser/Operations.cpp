@@ -159,6 +159,7 @@ void ChoisirPhoto(Frmmain &frm) {
         StockerPhoto(frm);
     }
     if (choix == pictures::Choix::Faite) {
+        frm.LecteurPhoto.Oublier();
         frm.CadrePhoto.SetCaption({});
     }
 }
@@ -210,6 +211,7 @@ void SupprimerPhoto(Frmmain &frm) {
     }
     QVariant aucune = QStringLiteral(" ");
     store::ModifierSiRenseigne(aucune, kTableRecettes, NumeroDeLaFiche(frm), kPositionPhoto);
+    frm.LecteurPhoto.Oublier();
     frm.Photo.SetPicture({});
     frm.CadrePhoto.SetCaption(QStringLiteral("Pas de photo"));
 }
@@ -223,6 +225,7 @@ void DeposerPhoto(Frmmain &frm, const QString &fichier) {
     CacherListeModif(frm);
     if (pictures::PoserImage(CadreDe(frm), fichier) == pictures::Choix::Faite) {
         StockerPhoto(frm);
+        frm.LecteurPhoto.Oublier();
         frm.CadrePhoto.SetCaption({});
     }
 }

@@ -260,6 +260,7 @@ void FicheAlbum::Empiler() {
 }
 
 void FicheAlbum::MontrerPhoto() {
+    m_frm.LecteurPhoto.Attendre();
     const QImage &image = m_frm.Photo.Picture();
     CadrePhoto.SetCaption(m_frm.CadrePhoto.Caption());
     Photo.setVisible(!image.isNull());
