@@ -1,6 +1,8 @@
 #pragma once
 
-#include "platform/controls/Twips.h"
+#include "platform/geometry/Twips.h"
+
+#include "store/Schema.h"
 
 #include <QString>
 
@@ -9,11 +11,11 @@ namespace browser {
 class Frmmain;
 
 /// The table of the recipes and its key.
-inline const QString kTableRecettes = QStringLiteral("Cocktails");
-inline const QString kCleRecette = QStringLiteral("Numero");
+inline const QString kTableRecettes = store::kCocktails.nom.toString();
+inline const QString kCleRecette = store::kCocktails.Cle().toString();
 
 /// Between the rows of the detail and at its right and lower edge.
-inline constexpr platform::controls::Twips kMargeFiche{400};
+inline constexpr platform::geometry::Twips kMargeFiche{400};
 
 /// Shows the recipe of that number in the detail; the controls keep what they held when there is none. Throws
 /// DatabaseError, and std::out_of_range for a cost or difficulty outside its vocabulary.
@@ -31,8 +33,5 @@ void ChargerLesListesCombo(Frmmain &frm);
 
 /// Hides the drop lists of the detail.
 void CacherListeModif(Frmmain &frm);
-
-/// Puts the recipe away, and the tool that opens its sheet.
-void QuitterFiche(Frmmain &frm);
 
 } // namespace browser

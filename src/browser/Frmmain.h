@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Volet.h"
+
 #include "pictures/LecteurPhoto.h"
 #include "platform/controls/ControlArray.h"
 #include "platform/controls/DropList.h"
@@ -11,7 +13,6 @@
 #include "platform/controls/ScrollPanel.h"
 #include "platform/controls/SkinnedWindow.h"
 
-#include <array>
 #include <vector>
 
 namespace browser {
@@ -35,9 +36,6 @@ public:
 
     /// The hand that points at a row.
     const QCursor &CurseurMain() const { return m_main; }
-
-    /// Shows the theme picture of a view in Cadre(1).
-    void MontrerTheme(int vue);
 
 private:
     std::vector<QPixmap> m_img;
@@ -79,6 +77,7 @@ public:
     // The detail, in Scroll(0).
     Panel CadrePhoto;
     Image Photo;
+    /// Hidden; the photo last shown in any window, in its natural size.
     Image ImageTemp;
     /// Reads Photo's picture.
     pictures::LecteurPhoto LecteurPhoto;
@@ -94,8 +93,9 @@ public:
     Label Label1;
     Panel Pb;
 
-    /// Key of the row of Liste that ListeHaute last acted on; empty after a sort button.
-    QString CleCourante;
+    /// What the place of the recipe shows.
+    browser::Volet Volet{*this};
+
     /// Text and number of the selected row of Liste.
     QString TitreCourant;
     qint64 NumeroCourant = 0;
@@ -107,7 +107,7 @@ public:
     void SetCouleurSelection(const QColor &couleur);
 
     /// The drop lists of the detail.
-    std::array<DropList *, 10> ListesModif();
+    std::vector<DropList *> ListesModif();
 
     /// One further row of the ingredient buttons, as the window's design has them, hidden.
     void ChargerLigne();

@@ -10,6 +10,7 @@
 #include "platform/dialogs/MessageBox.h"
 #include "store/AccesBase.h"
 #include "store/Programme.h"
+#include "store/Schema.h"
 #include "store/Textes.h"
 
 #include <algorithm>
@@ -22,7 +23,7 @@ namespace {
 using namespace platform::controls;
 namespace dialogs = platform::dialogs;
 
-constexpr int kPositionPhoto = 4;
+constexpr int kPositionPhoto = store::Position(store::ChampRecette::Photo);
 
 /// What a view asks for when a value is added, and how the list is headed and counted then. Some texts date from
 /// other uses of the same tables.
@@ -45,13 +46,9 @@ constexpr std::array<QStringView, kNombreDeVues> kSuffixes{
     u" Recette(s) ...", u" Catégorie(s) ...",  u" Verre(s) ...", u"", u"",
     u" Verre(s) ...",   u" Ingrédient(s) ...", u"  ..."};
 
-bool ListeBasse(const Frmmain &frm) {
-    return frm.Outils(2).Tag() == kBas;
-}
-
 /// True where "Ajouter" makes a recipe and not a value.
 bool AjouteUneRecette(const Frmmain &frm) {
-    return ListeBasse(frm) || VueCourante() == 0;
+    return frm.Volet.EnBas() || VueCourante() == 0;
 }
 
 const Creation *CreationDe(int vue) {
@@ -88,12 +85,9 @@ void SupprimerDuBas(Frmmain &frm) {
         return;
     }
     store::SupprimerFiches(kTableRecettes, NumeroChoisi(liste), kCleRecette);
-    if (!RetirerRangee(liste)) {
-        QuitterFiche(frm);
-        return;
+    if (RetirerRangee(liste)) {
+        frm.Volet.MontrerRecette(kBas, NumeroChoisi(liste), liste.Text(liste.SelectedIndex()));
     }
-    ChargerRecette(frm, NumeroChoisi(liste));
-    frm.LTDroit.SetCaption(liste.Text(liste.SelectedIndex()));
 }
 
 /// Deletes what a row of Liste stands for. False when recipes still use it.
@@ -121,22 +115,22 @@ void SupprimerDuHaut(Frmmain &frm) {
         return;
     }
     if (!RetirerRangee(liste)) {
-        frm.Scroll(0).hide();
         return;
     }
-    ChargerRecette(frm, NumeroChoisi(liste));
     ListeHaute(frm);
-    frm.Scroll(0).show();
+    if (VueCourante() != 0) {
+        frm.Volet.MontrerSansOutil(NumeroChoisi(liste));
+    }
 }
 
 pictures::CadreImage CadreDe(Frmmain &frm) {
-    return {frm, {frm.CadrePhoto.Width(), frm.CadrePhoto.Height()}, frm.Photo, frm.ImageTemp};
+    return {frm, {frm.CadrePhoto.Width(), frm.CadrePhoto.Height()}, frm.Photo};
 }
 
 /// Stores the path of the picture chosen last, which is this recipe's unless the choice was broken off.
 void StockerPhoto(Frmmain &frm) {
     QVariant chemin = frm.Photo.Tag();
-    store::ModifierSiRenseigne(chemin, kTableRecettes, NumeroDeLaFiche(frm), kPositionPhoto);
+    store::ModifierSiRenseigne(chemin, kTableRecettes, frm.Volet.Numero(), kPositionPhoto);
 }
 
 /// Asks for a new value of a view and adds it, whether it is there already or not.
@@ -147,10 +141,19 @@ void AjouterValeur(Frmmain &frm, const Creation &creation) {
     }
     const QString table = VueNumero(creation.vue)->table.toString();
     store::AjouterFiche(*texte, table, VueNumero(creation.vue)->cle.toString());
+    const QString avant = frm.Volet.CleCourante();
     ChargerListe(frm, {table, table, creation.entete.toString(), creation.suffixe.toString()}, creation.vue);
+    const QString compte = frm.LBGauche.Caption();
     ListeHaute(frm);
-    // The loading has emptied the lower list, and a row that was selected before is not acted on again.
-    ChargerRecettesVue(frm, creation.vue);
+    if (frm.Volet.CleCourante() == avant) {
+        frm.LBGauche.SetCaption(compte); // of the values, where the group is still the same
+    }
+}
+
+void MontrerChoix(Frmmain &frm) {
+    frm.LecteurPhoto.Oublier();
+    frm.ImageTemp.SetPicture(frm.Photo.Picture());
+    frm.CadrePhoto.SetCaption({});
 }
 
 void ChoisirPhoto(Frmmain &frm) {
@@ -159,16 +162,11 @@ void ChoisirPhoto(Frmmain &frm) {
         StockerPhoto(frm);
     }
     if (choix == pictures::Choix::Faite) {
-        frm.LecteurPhoto.Oublier();
-        frm.CadrePhoto.SetCaption({});
+        MontrerChoix(frm);
     }
 }
 
 } // namespace
-
-const List &ListeConcernee(const Frmmain &frm) {
-    return ListeBasse(frm) ? frm.LFilms : frm.Liste;
-}
 
 bool PeutAjouter(const Frmmain &frm) {
     return AjouteUneRecette(frm) || CreationDe(VueCourante()) != nullptr;
@@ -183,14 +181,14 @@ void AjouterRangee(Frmmain &frm) {
 }
 
 void ModifierRangee(Frmmain &frm) {
-    List &liste = ListeBasse(frm) ? frm.LFilms : frm.Liste;
+    List &liste = frm.Volet.Liste();
     liste.SetLabelEdit(List::LabelEditMode::Automatic);
     liste.setFocus();
     liste.StartLabelEdit();
 }
 
 void SupprimerRangee(Frmmain &frm) {
-    if (ListeBasse(frm)) {
+    if (frm.Volet.EnBas()) {
         SupprimerDuBas(frm);
     } else {
         SupprimerDuHaut(frm);
@@ -210,7 +208,7 @@ void SupprimerPhoto(Frmmain &frm) {
         return;
     }
     QVariant aucune = QStringLiteral(" ");
-    store::ModifierSiRenseigne(aucune, kTableRecettes, NumeroDeLaFiche(frm), kPositionPhoto);
+    store::ModifierSiRenseigne(aucune, kTableRecettes, frm.Volet.Numero(), kPositionPhoto);
     frm.LecteurPhoto.Oublier();
     frm.Photo.SetPicture({});
     frm.CadrePhoto.SetCaption(QStringLiteral("Pas de photo"));
@@ -225,8 +223,7 @@ void DeposerPhoto(Frmmain &frm, const QString &fichier) {
     CacherListeModif(frm);
     if (pictures::PoserImage(CadreDe(frm), fichier) == pictures::Choix::Faite) {
         StockerPhoto(frm);
-        frm.LecteurPhoto.Oublier();
-        frm.CadrePhoto.SetCaption({});
+        MontrerChoix(frm);
     }
 }
 

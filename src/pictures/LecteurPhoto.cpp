@@ -1,11 +1,12 @@
 #include "LecteurPhoto.h"
 
-#include "platform/controls/Picture.h"
+#include "platform/images/LoadPicture.h"
 
 #include <QCoreApplication>
 #include <QMetaObject>
 #include <QSemaphore>
 
+#include <new>
 #include <utility>
 
 namespace pictures {
@@ -18,8 +19,10 @@ constexpr int kFils = 8;
 
 QImage PhotoLisible(const QString &chemin) {
     try {
-        return platform::controls::LoadPicture(chemin);
-    } catch (const platform::controls::PictureError &) {
+        return platform::images::LoadPicture(chemin);
+    } catch (const platform::images::PictureError &) {
+        return {};
+    } catch (const std::bad_alloc &) { // a picture larger than the memory
         return {};
     }
 }

@@ -4,11 +4,14 @@
 #include "Impression.h"
 
 #include "browser/Frmmain.h"
+#include "browser/TableDesValeurs.h"
 #include "browser/Vues.h"
 #include "pictures/AjusterPhoto.h"
 #include "platform/controls/Fonts.h"
 #include "platform/controls/WaitPointer.h"
+#include "platform/controls/WhenPressed.h"
 #include "platform/dialogs/MessageBox.h"
+#include "platform/images/ResourcePicture.h"
 #include "store/Programme.h"
 
 #include <QFontMetrics>
@@ -20,6 +23,8 @@ namespace sheets {
 namespace {
 
 using namespace platform::controls;
+using browser::ValeurDe;
+using store::ChampRecette;
 
 constexpr Extent kTaille{FicheAlbum::kLargeurInterieure + Twips(60), Twips(9360)};
 
@@ -60,6 +65,22 @@ constexpr std::array kControles{
     ControlRow{"Deco", 240, 10845, 14055, 1815, u"", u"", u"Compléments"},
 };
 
+/// What the fields of the page repeat.
+struct Copie {
+    Ribbon FicheAlbum::*champ = nullptr;
+    browser::Valeur valeur;
+};
+
+constexpr std::array kCopies{
+    Copie{&FicheAlbum::Cout, ValeurDe(ChampRecette::Cout)},
+    Copie{&FicheAlbum::Diff, ValeurDe(ChampRecette::difficulte)},
+    Copie{&FicheAlbum::Teneur, ValeurDe(ChampRecette::Teneur)},
+};
+
+// The first stands under the title of the preparation time, but it repeats the cooking time.
+constexpr std::array kCopiesData{ValeurDe(ChampRecette::NCategorie), ValeurDe(ChampRecette::NCategorie),
+                                 ValeurDe(ChampRecette::Nverre), ValeurDe(ChampRecette::Nreal)};
+
 /// Pictures of Navi.
 constexpr std::array kDessins{
     ":/icones/facile-precedent.argb",
@@ -72,10 +93,7 @@ constexpr Twips kEntreLignes{100};
 constexpr Twips kEntreBlocs{400};
 constexpr int kRepetition = 40; // ms between two recipes while a button is held down
 
-const QColor kEncre(22, 33, 58);
 const QColor kPapier(250, 248, 241);
-const QColor kFondTitre(214, 225, 242);
-const QColor kFondPhoto(190, 206, 232);
 const QColor kCouleurLibelle(0x80, 0x80, 0xFF);
 
 // What is read cannot be pressed: the pointer goes through it to the page, and Tab past it. A ribbon that is pressed
@@ -83,10 +101,10 @@ const QColor kCouleurLibelle(0x80, 0x80, 0xFF);
 void PreparerChamp(Ribbon &champ) {
     champ.SetLook(Look::Value);
     champ.setFont(interfaceFont(Face::Verdana, kPointsValeur));
-    champ.SetForeColor(kEncre);
+    champ.SetForeColor(kInk);
     champ.setFocusPolicy(Qt::NoFocus);
     champ.setAttribute(Qt::WA_TransparentForMouseEvents);
-    QObject::connect(&champ, &Ribbon::toggled, &champ, [&champ] { champ.SetValue(false); });
+    whenPressed(champ, [] {});
 }
 
 } // namespace
@@ -121,16 +139,17 @@ void FicheAlbum::Peindre() {
     for (int index = 0; index < Navi.Count(); ++index) {
         Ribbon &bouton = Navi(index);
         bouton.SetLook(Look::Command);
-        bouton.SetPicture(resourcePicture(QString::fromLatin1(kDessins.at(static_cast<std::size_t>(index)))));
+        bouton.SetPicture(platform::images::resourcePicture(
+            QString::fromLatin1(kDessins.at(static_cast<std::size_t>(index)))));
         bouton.setFont(interfaceFont(Face::Verdana, kPointsLibelle));
-        bouton.SetForeColor(kEncre);
+        bouton.SetForeColor(kInk);
     }
     Scroll(0).SetBackColor(kPapier);
-    Recette.SetForeColor(kEncre);
-    Recette.SetBackColor(kFondTitre);
+    Recette.SetForeColor(kInk);
+    Recette.SetBackColor(kPaleGround);
     CadrePhoto.setFont(interfaceFont(Face::Verdana, kPointsLibelle));
-    CadrePhoto.SetForeColor(kEncre);
-    CadrePhoto.SetBackColor(kFondPhoto);
+    CadrePhoto.SetForeColor(kInk);
+    CadrePhoto.SetBackColor(kLightGround);
     Libelle.ForEach([](Label &libelle) {
         libelle.setFont(interfaceFont(Face::Verdana, kPointsLibelle, true));
         libelle.SetForeColor(kCouleurLibelle);
@@ -158,14 +177,7 @@ void FicheAlbum::Brancher() {
         [this] { ImprimerFiche(); },
     };
     for (int index = 0; index < Navi.Count(); ++index) {
-        Ribbon &bouton = Navi(index);
-        connect(&bouton, &Ribbon::toggled, this,
-                [&bouton, action = actions.at(static_cast<std::size_t>(index))](bool presse) {
-                    if (presse) {
-                        action();
-                        bouton.SetValue(false);
-                    }
-                });
+        whenPressed(Navi(index), actions.at(static_cast<std::size_t>(index)));
     }
     for (const int index : {0, 1}) {
         Navi(index).setAutoRepeat(true);
@@ -174,7 +186,7 @@ void FicheAlbum::Brancher() {
 }
 
 void FicheAlbum::ChargerFiche() {
-    const List &liste = browser::ListeDeLaFiche(m_frm);
+    const List &liste = m_frm.Volet.Liste();
     const int choisie = liste.SelectedIndex();
     MontrerTitre(liste.Text(choisie));
     RemplirFiche();
@@ -211,18 +223,16 @@ void FicheAlbum::MontrerTitre(const QString &titre) {
 
 void FicheAlbum::RemplirFiche() {
     Scroll(0).SetScrollableHeight(kEntreBlocs);
-    const auto copier = [this](Ribbon &champ, int index) { champ.SetCaption(m_frm.Data(index).Caption()); };
-    copier(Cout, 2);
-    copier(Diff, 3);
-    copier(Teneur, 4);
-    copier(Data(1), 6);
-    copier(Data(2), 0);
-    copier(Data(3), 1);
-    // The sheet has always shown the cooking time here, too, under the label of the preparation time.
-    copier(Data(0), 6);
-    DureeReal = m_frm.Data(5).Caption();
-    Prepa.SetTextRTF(m_frm.Saisie(0).TextRTF());
-    Deco.SetTextRTF(m_frm.Saisie(1).TextRTF());
+    const auto texte = [this](const browser::Valeur &valeur) { return valeur.Bouton(m_frm).Caption(); };
+    for (const Copie &copie : kCopies) {
+        (this->*copie.champ).SetCaption(texte(copie.valeur));
+    }
+    for (std::size_t index = 0; index < kCopiesData.size(); ++index) {
+        Data(static_cast<int>(index)).SetCaption(texte(kCopiesData[index]));
+    }
+    DureeReal = texte(ValeurDe(ChampRecette::NDureeReal));
+    Prepa.SetTextRTF(m_frm.Saisie(browser::kPreparation.saisie).TextRTF());
+    Deco.SetTextRTF(m_frm.Saisie(browser::kComplements.saisie).TextRTF());
     CopierLignes();
     Empiler();
 }
@@ -268,7 +278,7 @@ void FicheAlbum::MontrerPhoto() {
     Photo.SetTag(m_frm.Photo.Tag());
     m_frm.ImageTemp.SetPicture(image);
     if (!image.isNull()) {
-        pictures::AjusterPhoto({CadrePhoto.Width(), CadrePhoto.Height()}, Photo, m_frm.ImageTemp);
+        pictures::AjusterPhoto({CadrePhoto.Width(), CadrePhoto.Height()}, Photo);
     }
 }
 

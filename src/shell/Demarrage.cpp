@@ -3,17 +3,21 @@
 #include "BarreOutils.h"
 #include "Fenetres.h"
 #include "FinDuProgramme.h"
+#include "Modes.h"
+#include "Patch.h"
 #include "Reduction.h"
-#include "Reglages.h"
 #include "Sauvegarde.h"
 
 #include "browser/Vues.h"
 #include "platform/controls/Fonts.h"
 #include "platform/dialogs/French.h"
 #include "platform/dialogs/MessageBox.h"
+#include "platform/images/LoadPicture.h"
+#include "platform/images/ResourcePicture.h"
 #include "platform/settings/Conversion.h"
 #include "store/Livre.h"
 #include "store/Programme.h"
+#include "store/Reglages.h"
 #include "store/Textes.h"
 #include "webimport/facile/FichiersDePassage.h"
 
@@ -96,9 +100,9 @@ void Centrer(browser::Frmmain &frm) {
 void Placer(browser::Frmmain &frm) {
     const auto [gaucheCentre, hautCentre] = PlaceCentree(frm);
     const Twips haut(
-        settings::ToSingle(Lire(kReglages, QStringLiteral("MainTop"), settings::ToText(hautCentre.value()))));
-    const Twips gauche(settings::ToSingle(
-        Lire(kReglages, QStringLiteral("MainLeft"), settings::ToText(gaucheCentre.value()))));
+        settings::ToSingle(store::LireReglage(store::kMainTop, settings::ToText(hautCentre.value()))));
+    const Twips gauche(
+        settings::ToSingle(store::LireReglage(store::kMainLeft, settings::ToText(gaucheCentre.value()))));
     frm.Move(gauche, haut);
     // The screen that the place was stored for may be gone, or the window was left half outside it.
     if (!EstSurUnEcran(frm.geometry())) {
@@ -108,16 +112,16 @@ void Placer(browser::Frmmain &frm) {
 
 // A background picture has no place in the window; one that is slow or cannot be read must not hold up the start.
 void LireFondEcran() {
-    const QString fichier = Lire(kReglages, QStringLiteral("FondScreen"), {});
-    const QString dossier = Lire(kReglages, QStringLiteral("RepFondScreen"),
-                                 store::DossierProgramme() + QStringLiteral("/Fond Ecran/"));
+    const QString fichier = store::LireReglage(store::kFondScreen);
+    const QString dossier =
+        store::LireReglage(store::kRepFondScreen, store::DossierProgramme() + QStringLiteral("/Fond Ecran/"));
     if (fichier.isEmpty() || store::SansBlancs(fichier).endsWith(QDir::separator())) {
         return;
     }
     QThreadPool::globalInstance()->start([chemin = dossier + fichier] {
         try {
-            LoadPicture(chemin);
-        } catch (const PictureError &) {
+            platform::images::LoadPicture(chemin);
+        } catch (const platform::images::PictureError &) {
         }
     });
 }
@@ -135,8 +139,8 @@ void ChargerPremiereListe(browser::Frmmain &frm) {
 void Fermer(browser::Frmmain &frm) {
     Quitter(frm);
     frm.Btn_Quit.Release();
-    Enregistrer(kReglages, QStringLiteral("MainTop"), settings::ToText(frm.Top().value()));
-    Enregistrer(kReglages, QStringLiteral("MainLeft"), settings::ToText(frm.Left().value()));
+    store::EnregistrerReglage(store::kMainTop, settings::ToText(frm.Top().value()));
+    store::EnregistrerReglage(store::kMainLeft, settings::ToText(frm.Left().value()));
 }
 
 void ReduireTout(Fenetres &fenetres) {
@@ -172,8 +176,8 @@ void Brancher(Fenetres &fenetres) {
 // The word must be the French one: a truth is stored in the words of the user's language, and only there does the screen
 // open by itself.
 void AccueillirSiVoulu(Fenetres &fenetres) {
-    if (Lire(kReglages, kSplashAuto, QStringLiteral("0")) == QStringLiteral("Vrai")) {
-        fenetres.Accueil().ShowModal();
+    if (store::LireReglage(store::kSplashAuto) == QStringLiteral("Vrai")) {
+        fenetres.Fenetre(browser::Outil::APropos).ShowModal();
     }
 }
 
@@ -192,21 +196,12 @@ public:
 
 } // namespace
 
-void LireDAvance(const platform::desktop::SingleInstance &instance, const QString &dossier) {
-    if (dossier.isEmpty() || instance.IsRunningElsewhere()) {
-        return;
-    }
-    try {
-        store::LireDAvance(store::CheminBase(dossier), browser::RequetesDeVue(browser::VueCourante()));
-    } catch (const settings::ConversionError &) { // told where the view is loaded
-    }
-}
-
 void PreparerApplication() {
+    store::PreparerCle();
     QApplication::setApplicationName(Titre());
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setStyle(new Style(QStringLiteral("Fusion"))); // the application owns it
-    QApplication::setWindowIcon(resourcePicture(QStringLiteral(":/icones/savorel.argb")));
+    QApplication::setWindowIcon(platform::images::programIcon());
     substituteFonts();
     QApplication::setFont(interfaceFont(Face::Verdana, 8.25));
     dialogs::SpeakFrench(store::DossierProgramme() + QStringLiteral("/translations"));
@@ -235,9 +230,9 @@ void ChargerFrmmain(Fenetres &fenetres, const platform::desktop::SingleInstance 
         liste->setCursor(frm.CurseurMain());
     }
     frm.RemplirVocabulaires();
-    frm.Scroll(0).SetBackColor(QColor(kListGround));
-    frm.Liste.SetBackColor(QColor(kListGround));
-    frm.LFilms.SetBackColor(QColor(kListGround));
+    frm.Scroll(0).SetBackColor(kListGround);
+    frm.Liste.SetBackColor(kListGround);
+    frm.LFilms.SetBackColor(kListGround);
     ReprendreAncienLivre(frm);
     ChargerPremiereListe(frm);
     frm.show();

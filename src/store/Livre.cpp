@@ -2,6 +2,7 @@
 
 #include "CollationFrancaise.h"
 #include "CopieFichier.h"
+#include "MiseAJour.h"
 #include "Programme.h"
 #include "Schema.h"
 
@@ -26,6 +27,7 @@ QString schema() {
     for (const Index &index : kIndex) {
         instructions.append(CreationDIndex(index));
     }
+    instructions.append(QStringLiteral("PRAGMA user_version = %1").arg(kVersionDuLivre));
     return instructions.join(QStringLiteral(";\n"));
 }
 
@@ -47,11 +49,15 @@ platform::database::Database OuvrirLivre() {
 }
 
 platform::database::Database OuvrirLivre(const QString &chemin) {
-    return platform::database::OpenDatabase(chemin, true, false, connexion(), CollationFrancaise);
+    auto livre = platform::database::OpenDatabase(chemin, true, false, connexion(), CollationFrancaise);
+    if (livre.UserVersion() != kVersionDuLivre) {
+        MettreAJour(livre);
+    }
+    return livre;
 }
 
-void LireDAvance(const QString &chemin, const QStringList &requetes) {
-    platform::database::StartReading(chemin, connexion(), CollationFrancaise, requetes);
+void PreparerCle() {
+    platform::database::PrepareKey(CheminBase(), connexion());
 }
 
 void CreerLivre(const QString &chemin) {

@@ -56,6 +56,11 @@ class TestPagesLivrees : public QObject {
 private Q_SLOTS:
 
     void everyAddressLeadsSomewhere() {
+        for (const store::Lien &link : store::kLiens) {
+            const QString address = link.adresse.toString();
+            QVERIFY2(address.contains(u"://"_s) || QFileInfo(kFolder + u'/' + address).isFile(),
+                     qPrintable(address));
+        }
         for (const QString &page : pages(u"aide"_s) + pages(u"facile"_s)) {
             const QStringList addresses = addressesOf(read(page));
             QVERIFY2(!addresses.isEmpty(), qPrintable(page));
@@ -63,16 +68,6 @@ private Q_SLOTS:
                 QVERIFY2(leadsSomewhere(QUrl::fromLocalFile(page).resolved(QUrl(address))),
                          qPrintable(page + u' ' + address));
             }
-        }
-    }
-
-    void theLinksOfTheOpeningScreenLeadToPages() {
-        QStringList pages{store::AuteurSite.toString(), u"aide/index.htm"_s, u"facile/facile.htm"_s};
-        for (const store::Lien &lien : store::kLiens) {
-            pages << lien.adresse.toString();
-        }
-        for (const QString &page : pages) {
-            QVERIFY2(page.contains(u"://"_s) || QFileInfo(kFolder + u'/' + page).isFile(), qPrintable(page));
         }
     }
 

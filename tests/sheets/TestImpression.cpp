@@ -2,7 +2,6 @@
 
 #include "sheets/Composition.h"
 #include "sheets/Impression.h"
-#include "store/Vocabulaires.h"
 
 #include <QPainter>
 #include <QPdfWriter>
@@ -86,7 +85,6 @@ private:
 
     void change(const QString &columns) {
         LivreEssai::execute({u"UPDATE Cocktails SET %1 WHERE Numero = 1"_qs.arg(columns)});
-        m_open->window.CleCourante.clear();
         TrierListe(m_open->window, 0);
     }
 

@@ -9,6 +9,7 @@
 #include "platform/controls/WaitPointer.h"
 #include "platform/dialogs/FileDialog.h"
 #include "platform/dialogs/MessageBox.h"
+#include "platform/images/LoadPicture.h"
 #include "platform/scandialogs/ImageSource.h"
 #include "store/Programme.h"
 
@@ -18,12 +19,16 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 
+#include <new>
+
 namespace pictures::atelier {
 
 namespace {
 
 using namespace platform::controls;
 namespace dialogs = platform::dialogs;
+using platform::images::LoadPicture;
+using platform::images::PictureError;
 using platform::surface::Surface;
 
 using Ajustement = Rectangle (*)(const Rectangle &, Extent);
@@ -150,11 +155,10 @@ void MiroirVertical(Acquisition &fenetre) {
 }
 
 void OuvrirImage(Acquisition &fenetre) {
-    const QString nom = dialogs::ShowOpen(&fenetre, QStringLiteral("Ouvrir un fichier image"),
-                                          QStringLiteral("Tous les fichiers images "
-                                                         "(*.bmp;*.jpg;*.jpeg;*.png;*.gif;*.wmf;*.ico)|"
-                                                         "*.bmp;*.jpg;*.jpeg;*.png;*.gif;*.wmf;*.ico"),
-                                          Depart(fenetre));
+    const QString motifs = platform::images::PicturePatterns();
+    const QString nom =
+        dialogs::ShowOpen(&fenetre, QStringLiteral("Ouvrir un fichier image"),
+                          u"Tous les fichiers images (" + motifs + u")|" + motifs, Depart(fenetre));
     OuvrirFichier(fenetre, nom);
 }
 
@@ -167,6 +171,7 @@ void OuvrirFichier(Acquisition &fenetre, const QString &nom) {
         fenetre.AEnregistrer = false;
     } catch (const PictureError &) {
         // The picture before is shown again.
+    } catch (const std::bad_alloc &) { // a picture larger than the memory, likewise
     }
     fenetre.PhotoScan2 = fenetre.PhotoScan1;
     AjusterPhotoScan(fenetre);

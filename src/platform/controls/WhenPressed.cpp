@@ -1,0 +1,31 @@
+#include "WhenPressed.h"
+
+#include "RibbonButton.h"
+
+#include <QScopeGuard>
+
+namespace platform::controls {
+
+namespace {
+
+void runAndRelease(RibbonButton &button, const std::function<void()> &action) {
+    const auto release = qScopeGuard([&button] { button.SetValue(false); });
+    action();
+}
+
+} // namespace
+
+void whenPressed(RibbonButton &button, const std::function<void()> &action, Release release) {
+    QObject::connect(&button, &RibbonButton::toggled, &button, [&button, action, release](bool pressed) {
+        if (!pressed) {
+            return;
+        }
+        if (release == Release::ByAction) {
+            action();
+        } else {
+            runAndRelease(button, action);
+        }
+    });
+}
+
+} // namespace platform::controls
