@@ -21,8 +21,8 @@ public:
     LecteurPhoto &operator=(const LecteurPhoto &) = delete;
     ~LecteurPhoto();
 
-    /// Reads a file and hands its picture over: before it returns, where that takes at most 0.3 s; else when the picture
-    /// is there. One that is asked for takes the place of the one before, which no longer comes.
+    /// Reads a file and hands its picture over: before it returns, where that takes at most 0.3 s; else when the
+    /// picture is there. One that is asked for takes the place of the one before, which no longer comes.
     /// @return whether it came at once
     bool Lire(const QString &chemin, Suite suite);
 

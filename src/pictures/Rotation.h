@@ -10,7 +10,8 @@ namespace pictures {
 struct SuiviRotation {
     /// At the beginning of each step: how much is done, from 0 to 1.
     std::function<void(double)> avancement;
-    /// At the end of each step; may run the event loop and change both surfaces, even their sizes. False stops the turn.
+    /// At the end of each step; may run the event loop and change both surfaces, even their sizes. False stops the
+    /// turn.
     std::function<bool()> finDePas;
 };
 
