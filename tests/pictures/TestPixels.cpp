@@ -1,12 +1,7 @@
-#include "Files.h"
-
-#include "pictures/FichierBmp.h"
 #include "pictures/Miroirs.h"
 #include "pictures/Rotation.h"
-#include "store/Programme.h"
 
 #include <QRandomGenerator>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <cmath>
@@ -97,12 +92,7 @@ void plainTurn(const Surface &source, Surface &destination, float angle, const S
 class TestPixels : public QObject {
     Q_OBJECT
 
-private:
-    QTemporaryDir m_folder;
-
 private Q_SLOTS:
-
-    void init() { store::DefinirDossierProgramme(m_folder.path()); }
 
     void backgroundShinesThrough() {
         QImage icon(2, 1, QImage::Format_ARGB32);
@@ -185,16 +175,6 @@ private Q_SLOTS:
                 QCOMPARE(vertical.picture().pixel(x, y), source.picture().pixel(x, 2 - y));
             }
         }
-    }
-
-    void bitmapGoesThroughTheFile() {
-        const Surface drawn = randomSurface(7, 5, 2);
-        Surface read;
-        PasserParTempBmp(drawn, read);
-        QCOMPARE(read.picture(), drawn.picture());
-        const QByteArray bytes = contentOf(m_folder.filePath(u"temp.bmp"_qs));
-        QVERIFY(bytes.startsWith("BM"));
-        QCOMPARE(bytes.size(), 54 + 5 * 24); // rows of 21 bytes, filled to 24
     }
 };
 
