@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDropEvent>
+#include <QElapsedTimer>
 #include <QMimeData>
 #include <QSignalBlocker>
 #include <QSignalSpy>
@@ -178,6 +179,52 @@ private Q_SLOTS:
         QApplication::sendEvent(m_box->viewport(), &drops);
         QCOMPARE(stored(), u"\\b Gratin\\b0"_qs);
         QCOMPARE(raised(), 1);
+    }
+
+    void anEmptiedBoxKeepsItsColour() {
+        for (const Qt::Key key : {Qt::Key_Delete, Qt::Key_Backspace}) {
+            m_box->SetTextRTF(QString());
+            m_box->SetSelColor(Qt::cyan);
+            QTest::keyClicks(m_box, u"un"_qs);
+            press(Qt::Key_A);
+            press(key, Qt::NoModifier);
+            QTest::keyClicks(m_box, u"deux"_qs);
+            QVERIFY2(m_box->TextRTF().contains(u"\\red0\\green255\\blue255"), "the colour is lost");
+        }
+    }
+
+    void aLongRunIsShownAtOnce() {
+        const QString letters(600'000, u'a');
+        QElapsedTimer time;
+        time.start();
+        m_box->SetTextRTF(letters);
+        m_box->SetTextRTF(u"b"_qs);
+        QApplication::clipboard()->setText(letters);
+        press(Qt::Key_V);
+        m_box->grab();
+        QVERIFY2(time.elapsed() < 10'000, "wrapped at words it takes a minute");
+        QCOMPARE(m_box->Text().size(), 600'001);
+    }
+
+    void ofMillionsOfCharactersTheBeginningIsShown() {
+        const QString text = QString(1'000'000, u'a') + u"b";
+        m_box->SetTextRTF(text);
+        QCOMPARE(m_box->toPlainText().size(), 1'000'000);
+        QCOMPARE(m_box->Text(), text);
+        QVERIFY(m_box->isReadOnly());
+        m_box->Select(0, 5);
+        m_box->SetSelColor(Qt::red);
+        press(Qt::Key_B);
+        QTest::keyClicks(m_box, u"x"_qs);
+        QCOMPARE(m_box->TextRTF(), text);
+        QVERIFY(m_box->findChild<QWidget *>(u"Notice"_qs)->isVisible());
+
+        m_box->SetTextRTF(u"court"_qs);
+        QVERIFY(!m_box->isReadOnly());
+        QApplication::clipboard()->setText(text);
+        press(Qt::Key_V);
+        QCOMPARE(m_box->Text(), u"court"_qs);
+        QCOMPARE(raised(), 0);
     }
 
     void rightButtonLeavesSelectionAndCaret() {
