@@ -310,6 +310,11 @@ void Frmmain::PreparerListes() {
         liste->SetColumn(QStringLiteral("Titre"), liste->Width() - Twips(300));
         liste->SetImageList(m_img);
     }
+    Liste.SetEmptyText(
+        QStringLiteral("Cette liste est vide.\n« Création manuelle » et « Création facile », en haut, "
+                       "ajoutent une recette au livre."));
+    LFilms.SetEmptyText(
+        QStringLiteral("Aucune recette dans ce groupe.\nUn clic sur un autre groupe montre les siennes."));
 }
 
 void Frmmain::RemplirVocabulaires() {
@@ -392,7 +397,7 @@ void Frmmain::BrancherFiche() {
         connect(panneau, &ScrollPanel::Clicked, this, [this] { CacherListeModif(*this); });
     }
     connect(&CadrePhoto, &Panel::Clicked, this, [this] { ClicCadrePhoto(*this); });
-    auto *depot = new FileDrop(CadrePhoto);
+    auto *depot = new FileDrop(*Scroll(0).Content());
     connect(
         depot, &FileDrop::Dropped, this, [this](const QString &fichier) { DeposerPhoto(*this, fichier); },
         Qt::QueuedConnection);

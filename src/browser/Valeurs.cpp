@@ -113,7 +113,7 @@ void OuvrirValeur(Frmmain &frm, int index) {
     CacherListeModif(frm);
     const ListeDeValeur &valeur = ValeurDe(index);
     DropList &liste = frm.*valeur.liste;
-    const Ribbon &bouton = frm.Data(index);
+    Ribbon &bouton = frm.Data(index);
     if (valeur.texte == Texte::AOuverture) {
         if (liste.Count() > 0) {
             liste.SetText(bouton.Caption());
@@ -124,7 +124,7 @@ void OuvrirValeur(Frmmain &frm, int index) {
         liste.SetLeft(bouton.Left());
     }
     liste.SetTop(bouton.Top());
-    liste.Open();
+    liste.Open(&bouton);
 }
 
 void EnregistrerSaisie(Frmmain &frm, int index) {

@@ -5,7 +5,7 @@
 
 #include "browser/Frmmain.h"
 #include "browser/Vues.h"
-#include "pictures/ChoisirImage.h"
+#include "platform/controls/FileDrop.h"
 #include "platform/controls/Fonts.h"
 
 #include <QSignalBlocker>
@@ -160,8 +160,7 @@ void Manuelle::Peindre() {
     }
     Creer.SetLook(Look::Command);
     Creer.setFont(interfaceFont(Face::Verdana, 10, true));
-    Quit.setToolTip(QStringLiteral("Revenir au menu principal"));
-    Quit.setAccessibleName(Quit.toolTip());
+    NameQuit(QStringLiteral("Revenir au menu principal"));
 }
 
 std::vector<Manuelle::DropList *> Manuelle::Listes() {
@@ -187,6 +186,8 @@ void Manuelle::Brancher() {
     connect(&Scroll, &ScrollPanel::Clicked, this, [this] { CacherListes(*this); });
     connect(&Photo, &Image::Pressed, this, [this] { CacherListesDesLignes(*this); });
     connect(&CadrePhoto, &Panel::Clicked, this, &Manuelle::ChoisirPhoto);
+    const auto *depot = new FileDrop(*Scroll.Content());
+    connect(depot, &FileDrop::Dropped, this, &Manuelle::DeposerPhoto, Qt::QueuedConnection);
     connect(&Creer, &Ribbon::toggled, this, [this](bool presse) {
         if (presse) {
             PresserCreer(*this);
@@ -195,9 +196,17 @@ void Manuelle::Brancher() {
     connect(this, &SkinnedWindow::CloseRequested, this, &Manuelle::Quitter);
 }
 
+pictures::CadreImage Manuelle::CadreDeLaPhoto() {
+    return {*this, {CadrePhoto.Width(), CadrePhoto.Height()}, Photo, Principale.ImageTemp};
+}
+
 void Manuelle::ChoisirPhoto() {
-    pictures::ChoisirImage({*this, {CadrePhoto.Width(), CadrePhoto.Height()}, Photo, Principale.ImageTemp},
-                           Principale.DossierImages);
+    pictures::ChoisirImage(CadreDeLaPhoto(), Principale.DossierImages);
+    LegenderPhoto();
+}
+
+void Manuelle::DeposerPhoto(const QString &fichier) {
+    pictures::PoserImage(CadreDeLaPhoto(), fichier);
     LegenderPhoto();
 }
 

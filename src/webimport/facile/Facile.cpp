@@ -192,8 +192,7 @@ void Facile::Peindre() {
     Status.SetSquare();
     LPB.setFont(interfaceFont(Face::Verdana, 8.25));
     LPB.SetForeColor(kEncre);
-    Quit.setToolTip(QStringLiteral("Revenir au menu principal"));
-    Quit.setAccessibleName(Quit.toolTip());
+    NameQuit(QStringLiteral("Revenir au menu principal"));
 }
 
 void Facile::PeindreFiche() {
