@@ -7,6 +7,7 @@
 #include "browser/Vues.h"
 #include "platform/controls/FileDrop.h"
 #include "platform/controls/Fonts.h"
+#include "platform/controls/WhenPressed.h"
 
 #include <QSignalBlocker>
 #include <algorithm>
@@ -71,8 +72,6 @@ constexpr std::array kControles{
 constexpr int kLignes = 11;
 constexpr int kPas = 450; // twips from one ingredient line to the next: the last one ends where the texts end
 
-const QColor kEncre(22, 33, 58);
-const QColor kFondPhoto(190, 206, 232);
 const std::array kCouleursSaisie{QColor(0, 255, 255), QColor(255, 255, 255)};
 
 /// The row of the first ingredient line, moved down to another line.
@@ -137,16 +136,16 @@ void Manuelle::ChargerLignes() {
 
 void Manuelle::Peindre() {
     const QFont titre = interfaceFont(Face::Verdana, 8.25, true);
-    Scroll.SetBackColor(QColor(kListGround));
+    Scroll.SetBackColor(kListGround);
     Libelle.ForEach([&titre](Label &libelle) {
         libelle.setFont(titre);
-        libelle.SetForeColor(kEncre);
+        libelle.SetForeColor(kInk);
     });
     Rappel.setFont(interfaceFont(Face::Verdana, 8.25));
     Rappel.SetForeColor(Qt::white);
     CadrePhoto.setFont(titre);
-    CadrePhoto.SetForeColor(kEncre);
-    CadrePhoto.SetBackColor(kFondPhoto);
+    CadrePhoto.SetForeColor(kInk);
+    CadrePhoto.SetBackColor(kLightGround);
     CadrePhoto.SetReachable();
     Photo.setCursor(Principale.CurseurMain());
     Photo.hide();
@@ -188,25 +187,26 @@ void Manuelle::Brancher() {
     connect(&CadrePhoto, &Panel::Clicked, this, &Manuelle::ChoisirPhoto);
     const auto *depot = new FileDrop(*Scroll.Content());
     connect(depot, &FileDrop::Dropped, this, &Manuelle::DeposerPhoto, Qt::QueuedConnection);
-    connect(&Creer, &Ribbon::toggled, this, [this](bool presse) {
-        if (presse) {
-            PresserCreer(*this);
-        }
-    });
+    whenPressed(Creer, [this] { PresserCreer(*this); });
     connect(this, &SkinnedWindow::CloseRequested, this, &Manuelle::Quitter);
 }
 
 pictures::CadreImage Manuelle::CadreDeLaPhoto() {
-    return {*this, {CadrePhoto.Width(), CadrePhoto.Height()}, Photo, Principale.ImageTemp};
+    return {*this, {CadrePhoto.Width(), CadrePhoto.Height()}, Photo};
 }
 
 void Manuelle::ChoisirPhoto() {
-    pictures::ChoisirImage(CadreDeLaPhoto(), Principale.DossierImages);
-    LegenderPhoto();
+    Poser(pictures::ChoisirImage(CadreDeLaPhoto(), Principale.DossierImages));
 }
 
 void Manuelle::DeposerPhoto(const QString &fichier) {
-    pictures::PoserImage(CadreDeLaPhoto(), fichier);
+    Poser(pictures::PoserImage(CadreDeLaPhoto(), fichier));
+}
+
+void Manuelle::Poser(pictures::Choix choix) {
+    if (choix == pictures::Choix::Faite) {
+        Principale.ImageTemp.SetPicture(Photo.Picture());
+    }
     LegenderPhoto();
 }
 

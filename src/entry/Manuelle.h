@@ -81,6 +81,7 @@ private:
     pictures::CadreImage CadreDeLaPhoto();
     void ChoisirPhoto();
     void DeposerPhoto(const QString &fichier);
+    void Poser(pictures::Choix choix);
     void Quitter();
     std::vector<QWidget *> Ordre();
 };

@@ -1,5 +1,6 @@
 #include "Shown.h"
 
+#include "platform/controls/FileDrop.h"
 #include "platform/controls/RichTextBox.h"
 
 #include <QApplication>
@@ -32,6 +33,14 @@ class TestRichTextBox : public QObject {
 private:
     void press(int key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
         QTest::keyClick(m_box, Qt::Key(key), modifiers);
+    }
+
+    void drop(const QMimeData &data) const {
+        const QPoint place = m_box->viewport()->rect().center();
+        QDragEnterEvent enters(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(m_box->viewport(), &enters);
+        QDropEvent drops(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(m_box->viewport(), &drops);
     }
 
     /// A key on a word, on a mixed selection, on formatted text, and between two typed letters.
@@ -172,13 +181,19 @@ private Q_SLOTS:
         m_box->SetTextRTF(QString());
         const std::unique_ptr<QMimeData> data(
             html(u"<h1 style='color:black'>Gratin</h1><img src='a.png'>"_qs));
-        const QPoint place = m_box->viewport()->rect().center();
-        QDragEnterEvent enters(place, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(m_box->viewport(), &enters);
-        QDropEvent drops(place, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(m_box->viewport(), &drops);
+        drop(*data);
         QCOMPARE(stored(), u"\\b Gratin\\b0"_qs);
         QCOMPARE(raised(), 1);
+    }
+
+    void aDroppedFileGoesToWhatTheBoxStandsIn() {
+        const auto *area = new FileDrop(*m_window);
+        QSignalSpy dropped(area, &FileDrop::Dropped);
+        QMimeData file;
+        file.setUrls({QUrl::fromLocalFile(u"/tarte.jpg"_qs)});
+        drop(file);
+        QCOMPARE(dropped.count(), 1);
+        QCOMPARE(raised(), 0);
     }
 
     void anEmptiedBoxKeepsItsColour() {

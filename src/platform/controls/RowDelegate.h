@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Twips.h"
+#include "platform/geometry/Twips.h"
 
 #include <QStyledItemDelegate>
 
