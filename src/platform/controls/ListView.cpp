@@ -172,7 +172,7 @@ void ListBox::mouseReleaseEvent(QMouseEvent *event) {
 
 void ListBox::mouseDoubleClickEvent(QMouseEvent *event) {
     QListView::mouseDoubleClickEvent(event);
-    if (event->button() == Qt::LeftButton) {
+    if (event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid()) {
         Q_EMIT DblClick();
     }
 }
@@ -237,6 +237,13 @@ void ListBox::paintEvent(QPaintEvent *event) {
             viewport()->rect().marginsRemoved({kEmptyMargin, kEmptyMargin, kEmptyMargin, kEmptyMargin});
         painter.drawText(room, Qt::AlignCenter | Qt::TextWordWrap, m_emptyText);
     }
+}
+
+QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex &index,
+                                                              const QEvent *event) const {
+    const auto command = QListView::selectionCommand(index, event);
+    const bool empties = !index.isValid() || command.testFlag(QItemSelectionModel::Deselect);
+    return empties ? QItemSelectionModel::NoUpdate : command;
 }
 
 int ListBox::checked(int index) const {

@@ -43,8 +43,6 @@ public:
     /// what is typed next has the colour that the text began with.
     void SetSelColor(const QColor &colour);
 
-    bool SelBold() const { return textCursor().charFormat().fontWeight() >= QFont::Bold; }
-
     void SetSelBold(bool bold);
 
 Q_SIGNALS:
