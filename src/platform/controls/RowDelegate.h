@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/geometry/Twips.h"
+#include "ControlTable.h"
 
 #include <QStyledItemDelegate>
 
