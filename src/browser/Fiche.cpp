@@ -109,7 +109,7 @@ void AfficherTexte(RichTextBox &saisie, const QString &texte) {
 void AfficherComplements(Frmmain &frm, const QString &texte) {
     RichTextBox &saisie = frm.Saisie(kComplements.saisie);
     AfficherTexte(saisie, texte);
-    if (store::SansBlancs(saisie.Text()).isEmpty()) {
+    if (store::SansBlancs(saisie.toPlainText()).isEmpty()) {
         // What the cook types into empty remarks comes out white. It is no change of the recipe.
         const QSignalBlocker silence(&saisie);
         saisie.Select(0, 1);

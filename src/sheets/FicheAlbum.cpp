@@ -129,7 +129,7 @@ FicheAlbum::FicheAlbum(browser::Frmmain &frm)
       Deco(Scroll(0).Content(), rowNamed(kControles, "Deco")),
       m_frm(frm) {
     SetHeading(QStringLiteral("Fiche Recette"));
-    Quit.setToolTip(QStringLiteral("Revenir au menu principal"));
+    NameQuit(QStringLiteral("Revenir au menu principal"));
     Peindre();
     Brancher();
     Navi(1).setFocus();

@@ -76,7 +76,7 @@ Acquisition::Acquisition(platform::scandialogs::ImageSource &scanner)
       Btn_ScanS(this, kControles, "Btn_ScanS"),
       Scanner(scanner) {
     SetHeading(QStringLiteral("Acquisition des images"));
-    Quit.setToolTip(QStringLiteral("Revenir au menu principal"));
+    NameQuit(QStringLiteral("Revenir au menu principal"));
     Peindre();
     Brancher();
     AjusterPhotoScan(*this);

@@ -190,8 +190,7 @@ void Facile::Peindre() {
     Status.SetSquare();
     LPB.setFont(interfaceFont(Face::Verdana, 8.25));
     LPB.SetForeColor(kInk);
-    Quit.setToolTip(QStringLiteral("Revenir au menu principal"));
-    Quit.setAccessibleName(Quit.toolTip());
+    NameQuit(QStringLiteral("Revenir au menu principal"));
 }
 
 void Facile::PeindreFiche() {
