@@ -278,9 +278,9 @@ void FicheAlbum::ImprimerFiche() {
     Annoncer({});
     try {
         const QString fichier =
-            m_imprimante.Print(this, Recette.Caption(), [this](QPainter &feuille, QPagedPaintDevice &) {
+            m_imprimante.Print(this, Recette.Caption(), [this](QPainter &feuille, QPagedPaintDevice &papier) {
                 const WaitPointer sablier;
-                Imprimer(*this, feuille);
+                Imprimer(*this, feuille, papier);
             });
         Annoncer(fichier.isEmpty() ? QString() : QStringLiteral("Imprimé dans ") + fichier);
     } catch (const platform::dialogs::PrintError &echec) {
