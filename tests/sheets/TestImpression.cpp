@@ -88,7 +88,6 @@ private:
     void change(const QString &columns, const QStringList &further = {}) {
         LivreEssai::execute(QStringList(u"UPDATE Cocktails SET %1 WHERE Numero = 1"_qs.arg(columns)) +
                             further);
-        m_open->window.CleCourante.clear();
         TrierListe(m_open->window, 0);
     }
 
