@@ -147,7 +147,7 @@ void FicheAlbum::Peindre() {
         bouton.SetForeColor(kInk);
     }
     Avis.setFont(interfaceFont(Face::Verdana, kPointsValeur));
-    Avis.SetForeColor(kInk);
+    Avis.SetForeColor(Qt::white);
     Scroll(0).SetBackColor(kPapier);
     Recette.SetForeColor(kInk);
     Recette.SetBackColor(kPaleGround);
