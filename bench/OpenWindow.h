@@ -3,6 +3,8 @@
 #include "GeneratedBook.h"
 
 #include "platform/desktop/SingleInstance.h"
+#include "search/FrmFind.h"
+#include "sheets/FicheAlbum.h"
 #include "shell/Demarrage.h"
 #include "shell/Fenetres.h"
 #include "store/Programme.h"
@@ -22,9 +24,11 @@ public:
 
     browser::Frmmain &window() { return m_windows.Principale; }
 
-    search::FrmFind &searchWindow() { return m_windows.Recherche(); }
+    search::FrmFind &searchWindow() {
+        return m_windows.FenetreDe<search::FrmFind>(browser::Outil::Recherche);
+    }
 
-    sheets::FicheAlbum &sheet() { return m_windows.Fiches(); }
+    sheets::FicheAlbum &sheet() { return m_windows.FenetreDe<sheets::FicheAlbum>(browser::Outil::Fiches); }
 
     static void paint() { QCoreApplication::processEvents(); }
 

@@ -107,7 +107,7 @@ void measureRecipe(const GeneratedBook &small, const GeneratedBook &large, Repor
     const Times clicked = showRecipes(small, large, [&](int index, const GeneratedBook & /*book*/) {
         const QString key = store::CleDeListe(small.recipeOfTwelveLines(index));
         frm.Liste.Select(frm.Liste.IndexOfKey(key));
-        frm.CleCourante.clear();
+        frm.Volet.Retenir({});
         browser::ListeHaute(frm);
     });
     const QString click = QStringLiteral("row chosen: recipe and its choice lists");

@@ -1,6 +1,8 @@
 #include "Fiche.h"
 
 #include "Frmmain.h"
+#include "TableDesValeurs.h"
+#include "Valeurs.h"
 
 #include "pictures/AjusterPhoto.h"
 #include "pictures/CheminPhoto.h"
@@ -9,10 +11,8 @@
 #include "store/AccesBase.h"
 #include "store/Livre.h"
 #include "store/Textes.h"
-#include "store/Vocabulaires.h"
 
 #include <QSignalBlocker>
-#include <array>
 #include <optional>
 #include <stdexcept>
 
@@ -26,31 +26,18 @@ using platform::database::DatabaseError;
 using platform::database::Field;
 using platform::database::Recordset;
 
-/// A value of a recipe that stands in a lookup table: the query up to the number, its tail, the recipe's
-/// column and the button.
-struct Valeur {
-    QStringView requete, fin, colonne;
-    int data = 0;
-};
-
-constexpr std::array kValeurs{
-    Valeur{u"SELECT * From Categorie where NCategorie = ", u" order by Categorie asc", u"NCategorie", 6},
-    Valeur{u"SELECT * From DureeReal where NDureeReal= ", u" order by DureeReal asc", u"NDureeReal", 5},
-    Valeur{u"SELECT * From Verre where NVerre = ", u" order by Verre asc", u"Nverre", 0},
-    Valeur{u"SELECT * From Realisation where NRealisation = ", u" order by Realisation asc", u"Nreal", 1},
-};
-constexpr Valeur kVin{u"SELECT * From VIN where NVIN = ", u" order by VIN asc", u"Teneur", 4};
-
 QString Pointilles() {
     return store::LignePointillee.toString();
 }
 
-/// The stored text of the row that a query and a reference give; nothing when there is no such row.
-std::optional<QString> TexteDe(Database &base, QStringView requete, const Field &reference, QStringView fin) {
+/// The text of the row of a lookup table that a reference names; nothing when there is no such row.
+std::optional<QString> TexteDe(Database &base, const store::Table &table, const Field &reference,
+                               QStringView sens) {
     if (reference.IsNull()) {
         return {};
     }
-    auto fiche = base.OpenRecordset(requete + reference.Text() + fin);
+    auto fiche = base.OpenRecordset(u"SELECT * From " + table.nom + u" where " + table.Cle() + u" = " +
+                                    reference.Text() + u" order by " + table.Texte() + u' ' + sens);
     return fiche.RecordCount() > 0 ? std::optional(fiche.Fields(1).Text()) : std::nullopt;
 }
 
@@ -58,17 +45,29 @@ QString OuPointilles(const QString &texte) {
     return store::SansBlancs(texte).isEmpty() ? Pointilles() : texte;
 }
 
-void AfficherValeur(Frmmain &frm, Database &base, Recordset &recette, const Valeur &valeur) {
-    const auto texte = TexteDe(base, valeur.requete, recette.Fields(valeur.colonne), valeur.fin);
-    frm.Data(valeur.data).SetCaption(OuPointilles(texte.value_or(QString())));
+void AfficherTexteDe(Ribbon &bouton, const QString &texte) {
+    bouton.SetCaption(OuPointilles(texte));
+    bouton.setToolTip(store::SansBlancs(texte));
 }
 
-void AfficherClasse(Frmmain &frm, int data, std::span<const QStringView> vocabulaire, qint64 code) {
+void AfficherClasse(Ribbon &bouton, std::span<const QStringView> vocabulaire, qint64 code) {
     if (code < 0 || code >= static_cast<qint64>(vocabulaire.size())) {
         throw std::out_of_range("L'indice n'appartient pas à la sélection.");
     }
-    frm.Data(data).SetTag(QString::number(code));
-    frm.Data(data).SetCaption(vocabulaire[static_cast<std::size_t>(code)].toString());
+    bouton.SetTag(QString::number(code));
+    MontrerValeur(bouton, vocabulaire[static_cast<std::size_t>(code)].toString());
+}
+
+void AfficherValeur(Frmmain &frm, Database &base, Recordset &recette, const Valeur &valeur) {
+    Ribbon &bouton = valeur.Bouton(frm);
+    const Field champ = recette.Fields(store::Position(valeur.champ));
+    if (valeur.forme == Forme::Code) {
+        AfficherClasse(bouton, valeur.vocabulaire, champ.Number());
+    } else if (const store::Table *table = valeur.Table()) {
+        AfficherTexteDe(bouton, TexteDe(base, *table, champ, u"asc").value_or(QString()));
+    } else {
+        AfficherTexteDe(bouton, champ.Text());
+    }
 }
 
 /// The picture in a file; a null one where the file holds none that can be shown, so that the recipe still
@@ -103,7 +102,7 @@ void AfficherTexte(RichTextBox &saisie, const QString &texte) {
 }
 
 void AfficherComplements(Frmmain &frm, const QString &texte) {
-    RichTextBox &saisie = frm.Saisie(1);
+    RichTextBox &saisie = frm.Saisie(kComplements.saisie);
     AfficherTexte(saisie, texte);
     if (store::SansBlancs(saisie.Text()).isEmpty()) {
         // What the cook types into empty remarks comes out white. It is no change of the recipe.
@@ -136,22 +135,19 @@ void AfficherPartie(Ribbon &bouton, const std::optional<QString> &texte) {
 
 /// Shows one column of a line. A damaged reference leaves a gap in its column only.
 template <class Affichage>
-void AfficherColonne(Database &base, Ribbon &bouton, QStringView requete, const Field &reference,
-                     QStringView fin, Affichage afficher) {
+void AfficherColonne(Database &base, Ribbon &bouton, const store::Table &table, const Field &reference,
+                     Affichage afficher) {
     try {
-        afficher(bouton, TexteDe(base, requete, reference, fin));
+        afficher(bouton, TexteDe(base, table, reference, u"desc"));
     } catch (const DatabaseError &) {
         bouton.show();
     }
 }
 
 void AfficherLigne(Frmmain &frm, Database &base, Recordset &lignes, int i) {
-    AfficherColonne(base, frm.Ingre(i), u"SELECT * From Ingredient where NIngredient = ",
-                    lignes.Fields(u"NIngre"), u" order by Ingredient desc", AfficherIngredient);
-    AfficherColonne(base, frm.Quantite(i), u"SELECT * From Quantite where NQuantite = ",
-                    lignes.Fields(u"NQuantite"), u" order by Quantite desc", AfficherPartie);
-    AfficherColonne(base, frm.Mesure(i), u"SELECT * From Mesure where NMesure = ", lignes.Fields(u"NMesure"),
-                    u" order by Mesure desc", AfficherPartie);
+    AfficherColonne(base, frm.Ingre(i), store::kIngredient, lignes.Fields(u"NIngre"), AfficherIngredient);
+    AfficherColonne(base, frm.Quantite(i), store::kQuantite, lignes.Fields(u"NQuantite"), AfficherPartie);
+    AfficherColonne(base, frm.Mesure(i), store::kMesure, lignes.Fields(u"NMesure"), AfficherPartie);
 }
 
 void ViderLignes(Frmmain &frm) {
@@ -202,16 +198,16 @@ void ChargerRecette(Frmmain &frm, qint64 numero) {
     if (recette.RecordCount() == 0) {
         return;
     }
+    const auto texte = [&recette](store::ChampRecette champ) {
+        return recette.Fields(store::Position(champ)).Text();
+    };
     for (const Valeur &valeur : kValeurs) {
         AfficherValeur(frm, base, recette, valeur);
     }
-    AfficherPhoto(frm, recette.Fields(u"Photo").Text());
-    AfficherTexte(frm.Saisie(0), recette.Fields(u"preparation").Text());
-    AfficherComplements(frm, recette.Fields(u"Deco").Text());
-    AfficherClasse(frm, 2, store::Cout, recette.Fields(u"Cout").Number());
-    AfficherClasse(frm, 3, store::Difficulte, recette.Fields(u"difficulte").Number());
-    AfficherValeur(frm, base, recette, kVin);
-    frm.Scroll(0).SetScrollableHeight(frm.Saisie(1).Bottom() + kMargeFiche);
+    AfficherPhoto(frm, texte(store::ChampRecette::Photo));
+    AfficherTexte(frm.Saisie(kPreparation.saisie), texte(kPreparation.champ));
+    AfficherComplements(frm, texte(kComplements.champ));
+    frm.Scroll(0).SetScrollableHeight(frm.Saisie(kComplements.saisie).Bottom() + kMargeFiche);
 }
 
 void AfficherIngredients(Frmmain &frm, qint64 numero) {
@@ -229,30 +225,26 @@ void AfficherIngredients(Frmmain &frm, qint64 numero) {
 }
 
 void ChargerLesListesCombo(Frmmain &frm) {
-    store::ChargerCombo(frm.LCategorie, QStringLiteral("Categorie"), QStringLiteral("Categorie"));
-    frm.LCategorie.SetText(frm.Data(6).Caption());
-    store::ChargerCombo(frm.LVerre, QStringLiteral("Verre"), QStringLiteral("Verre"));
-    frm.LVerre.SetText(frm.Data(0).Caption());
-    store::ChargerCombo(frm.LMateriel, QStringLiteral("Realisation"), QStringLiteral("Realisation"));
-    frm.LMateriel.SetText(frm.Data(1).Caption());
-    store::ChargerCombo(frm.LMesure, QStringLiteral("Mesure"), QStringLiteral("Mesure"));
-    store::ChargerCombo(frm.LQuantite, QStringLiteral("Quantite"), QStringLiteral("Quantite"));
-    store::ChargerCombo(frm.LIngre, QStringLiteral("Ingredient"), QStringLiteral("Ingredient"));
-    store::ChargerCombo(frm.LDureeReal, QStringLiteral("DureeReal"), QStringLiteral("DureeReal"));
-    store::ChargerCombo(frm.LTeneur, QStringLiteral("Vin"), QStringLiteral("vin"));
+    const auto charger = [](DropList &liste, const store::Table &table) {
+        store::ChargerCombo(liste, table.nom.toString(), table.Texte().toString());
+    };
+    for (const Valeur &valeur : kValeurs) {
+        if (const store::Table *table = valeur.Table()) {
+            charger(valeur.Liste(frm), *table);
+        }
+        if (valeur.texte != Texte::AOuverture) {
+            valeur.Liste(frm).SetText(valeur.Bouton(frm).Caption());
+        }
+    }
+    charger(frm.LMesure, store::kMesure);
+    charger(frm.LQuantite, store::kQuantite);
+    charger(frm.LIngre, store::kIngredient);
 }
 
 void CacherListeModif(Frmmain &frm) {
     for (DropList *liste : frm.ListesModif()) {
         liste->hide();
     }
-}
-
-void QuitterFiche(Frmmain &frm) {
-    CacherListeModif(frm);
-    frm.Scroll(0).hide();
-    frm.Outils(2).hide();
-    frm.LBtn(2).hide();
 }
 
 } // namespace browser

@@ -2,6 +2,8 @@
 
 #include "platform/geometry/Twips.h"
 
+#include "store/Schema.h"
+
 #include <QString>
 
 namespace browser {
@@ -9,8 +11,8 @@ namespace browser {
 class Frmmain;
 
 /// The table of the recipes and its key.
-inline const QString kTableRecettes = QStringLiteral("Cocktails");
-inline const QString kCleRecette = QStringLiteral("Numero");
+inline const QString kTableRecettes = store::kCocktails.nom.toString();
+inline const QString kCleRecette = store::kCocktails.Cle().toString();
 
 /// Between the rows of the detail and at its right and lower edge.
 inline constexpr platform::geometry::Twips kMargeFiche{400};
@@ -31,8 +33,5 @@ void ChargerLesListesCombo(Frmmain &frm);
 
 /// Hides the drop lists of the detail.
 void CacherListeModif(Frmmain &frm);
-
-/// Puts the recipe away, and the tool that opens its sheet.
-void QuitterFiche(Frmmain &frm);
 
 } // namespace browser

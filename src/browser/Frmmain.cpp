@@ -3,6 +3,8 @@
 #include "Fiche.h"
 #include "Lignes.h"
 #include "Operations.h"
+#include "TableDesOutils.h"
+#include "TableDesValeurs.h"
 #include "TableDesVues.h"
 #include "Valeurs.h"
 #include "Vues.h"
@@ -12,8 +14,6 @@
 #include "platform/controls/ToolWindow.h"
 #include "platform/controls/WhenPressed.h"
 #include "platform/images/ResourcePicture.h"
-#include "store/Configuration.h"
-#include "store/Vocabulaires.h"
 
 #include <array>
 
@@ -34,30 +34,6 @@ constexpr std::array kControles{
     ControlRow{"LPatch", 6180, 15, 3000, 540, u"", u"", u"Mode d'affichage"},
     ControlRow{"Btn_Min", 14190, 120, 360, 360, u"", u"Minimiser"},
     ControlRow{"Btn_Quit", 14760, 120, 360, 360, u"", u"Fermer"},
-
-    ControlRow{"Outils(0)", 150, 660, 1350, 570, u"", u"Ajouter manuellement une recette"},
-    ControlRow{"Outils(1)", 1521, 660, 1350, 570, u"", u"Ajouter une recette avec " SAVOREL_PARTENAIRE},
-    ControlRow{"Outils(2)", 2892, 660, 1350, 570, u"", u"Consulter les fiches"},
-    ControlRow{"Outils(3)", 4263, 660, 1350, 570, u"", u"Acquérir une image"},
-    ControlRow{"Outils(4)", 5634, 660, 1350, 570, u"", u"Rechercher une recette"},
-    ControlRow{"Outils(5)", 7005, 660, 1350, 570, u"", u"Sauvegarder la base"},
-    ControlRow{"Outils(6)", 8376, 660, 1350, 570, u"", u"Restaurer une base"},
-    ControlRow{"Outils(7)", 9747, 660, 1350, 570, u"", u"Visiter le site de " SAVOREL_PARTENAIRE},
-    ControlRow{"Outils(8)", 11118, 660, 1350, 570, u"", u"Visiter le site de l'auteur"},
-    ControlRow{"Outils(9)", 12489, 660, 1350, 570, u"", u"A Propos"},
-    ControlRow{"Outils(10)", 13860, 660, 1350, 570, u"", u"Aide"},
-    ControlRow{"LBtn(0)", 150, 1230, 1350, 435, u"Création manuelle"},
-    ControlRow{"LBtn(1)", 1521, 1230, 1350, 435, u"Création facile"},
-    ControlRow{"LBtn(2)", 2892, 1230, 1350, 435, u"Fiches de recettes"},
-    ControlRow{"LBtn(3)", 4263, 1230, 1350, 435, u"Acquisition des images"},
-    ControlRow{"LBtn(4)", 5634, 1230, 1350, 435, u"Recherche multicritères"},
-    ControlRow{"LBtn(5)", 7005, 1230, 1350, 435, u"Sauvegarde"},
-    ControlRow{"LBtn(6)", 8376, 1230, 1350, 435, u"Restauration"},
-    ControlRow{"LBtn(7)", 9747, 1230, 1350, 435, u"Site du          partenaire"},
-    ControlRow{"LBtn(8)", 11118, 1230, 1350, 435, u"Site de l'auteur"},
-    ControlRow{"LBtn(9)", 12489, 1230, 1350, 435, u"A Propos"},
-    ControlRow{"LBtn(10)", 13860, 1230, 1350, 435, u"Aide"},
-    ControlRow{"LBtn(11)", 13860, 1230, 1350, 435, u"Restauration"},
 
     ControlRow{"Bouton(0)", 150, 1770, 1800, 1065, u"Alphabétique"},
     ControlRow{"Bouton(1)", 150, 2898, 1800, 1065, u"Durée Cuisson"},
@@ -121,31 +97,59 @@ constexpr std::array kControles{
     ControlRow{"Pb", 150, 450, 3450, 300},
 };
 
-/// What each tool does, in the words of a status line.
-constexpr std::array<QStringView, 11> kPhrases{
-    u"Créer une nouvelle recette ",
-    u"Ajouter des nouvelles recettes à partir du site " SAVOREL_PARTENAIRE_ACCUEIL,
-    u"Imprimer les recettes ",
-    u"Acquérir de nouvelles images ",
-    u"Rechercher une recette avec plusieurs critères ",
-    u"Sauvegarder la base ",
-    u"Restaurer une ancienne base ",
-    u"Visiter le site de notre partenaire " SAVOREL_PARTENAIRE,
-    u"Visiter le site de l'auteur ",
-    u"A Propos ...",
-    u"Aide de Savorel ... "};
-
 constexpr Rectangle kBarreOutils{Twips(90), Twips(645), Twips(15180), Twips(1050)};
 
-QString ImageNommee(const char *dossier, int numero) {
-    return QStringLiteral(":/%1-%2").arg(QLatin1String(dossier)).arg(numero);
+// The tools share the width of the window, in twips.
+constexpr int kGaucheOutils = 150;
+constexpr int kEntreOutils = 21;
+constexpr int kPasOutils = (15060 + kEntreOutils) / static_cast<int>(kNombreOutils);
+
+/// One element for each tool, side by side; textes adds to the row of each what it shows.
+template <class Controle, class Textes>
+Frmmain::Array<Controle> RangeeOutils(QWidget *fenetre, const char *nom, int haut, int hauteur,
+                                      Textes textes) {
+    Frmmain::Array<Controle> elements(fenetre, {}, nom);
+    for (const AspectOutil &aspect : kAspects) {
+        ControlRow rangee{nom, kGaucheOutils + elements.Count() * kPasOutils, haut, kPasOutils - kEntreOutils,
+                          hauteur};
+        textes(rangee, aspect);
+        elements.Load(rangee);
+    }
+    return elements;
+}
+
+Frmmain::Array<Ribbon> BoutonsDesOutils(QWidget *fenetre) {
+    return RangeeOutils<Ribbon>(
+        fenetre, "Outils", 660, 570,
+        [](ControlRow &rangee, const AspectOutil &aspect) { rangee.toolTip = aspect.bulle; });
+}
+
+Frmmain::Array<Panel> PanneauxDesOutils(QWidget *fenetre) {
+    auto panneaux =
+        RangeeOutils<Panel>(fenetre, "LBtn", 1230, 435, [](ControlRow &rangee, const AspectOutil &aspect) {
+            rangee.caption = aspect.legende;
+        });
+    // The toolbar has a panel too many, which stands for no tool.
+    panneaux
+        .Load({.name = "LBtn",
+               .left = kGaucheOutils + (panneaux.Count() - 1) * kPasOutils,
+               .top = 1230,
+               .width = kPasOutils - kEntreOutils,
+               .height = 435,
+               .caption = u"Restauration"})
+        .hide();
+    return panneaux;
+}
+
+QPixmap Icone(const QString &dessin) {
+    return resourcePicture(QStringLiteral(":/icones/%1.argb").arg(dessin));
 }
 
 std::vector<QPixmap> ImagesDesVues() {
     std::vector<QPixmap> images;
     images.reserve(kNombreDeVues);
     for (int vue = 0; vue < kNombreDeVues; ++vue) {
-        images.push_back(resourcePicture(ImageNommee("icones/vue", vue) + QStringLiteral(".argb")));
+        images.push_back(Icone(QStringLiteral("vue-%1").arg(vue)));
     }
     return images;
 }
@@ -177,8 +181,8 @@ Frmmain::Frmmain()
       LPatch(this, rowNamed(kControles, "LPatch")),
       Btn_Min(this, rowNamed(kControles, "Btn_Min")),
       Btn_Quit(this, rowNamed(kControles, "Btn_Quit")),
-      Outils(this, kControles, "Outils"),
-      LBtn(this, kControles, "LBtn"),
+      Outils(BoutonsDesOutils(this)),
+      LBtn(PanneauxDesOutils(this)),
       Bouton(this, kControles, "Bouton"),
       LTGauche(this, rowNamed(kControles, "LTGauche")),
       Liste(this, rowNamed(kControles, "Liste")),
@@ -256,15 +260,14 @@ void Frmmain::PeindreOutils() {
     for (int index = 0; index < Outils.Count(); ++index) {
         Ribbon &outil = Outils(index);
         outil.SetLook(Look::Tool);
-        outil.setStatusTip(kPhrases.at(static_cast<std::size_t>(index)).toString());
-        outil.SetPicture(resourcePicture(ImageNommee("icones/outil", index) + QStringLiteral(".argb")));
+        const AspectOutil &aspect = kAspects[static_cast<std::size_t>(index)];
+        outil.setStatusTip(QStringView(aspect.phrase).toString());
+        outil.SetPicture(Icone(QLatin1String(aspect.dessin)));
     }
     LBtn.ForEach([](Panel &panneau) {
         panneau.setFont(interfaceFont(Face::SansSerif, 8.25));
         panneau.SetForeColor(Qt::blue);
     });
-    // The toolbar has a panel too many, which stands for no tool.
-    LBtn(Outils.Count()).hide();
 
     for (int vue = 0; vue < Bouton.Count(); ++vue) {
         Ribbon &bouton = Bouton(vue);
@@ -301,9 +304,12 @@ void Frmmain::PeindreFiche() {
     }
 }
 
-std::array<Frmmain::DropList *, 10> Frmmain::ListesModif() {
-    return {&LCategorie, &LDureeReal, &LVerre,    &LMateriel, &LCout,
-            &LDiff,      &LTeneur,    &LQuantite, &LMesure,   &LIngre};
+std::vector<Frmmain::DropList *> Frmmain::ListesModif() {
+    std::vector<DropList *> listes{&LQuantite, &LMesure, &LIngre};
+    for (const Valeur &valeur : kValeurs) {
+        listes.push_back(&valeur.Liste(*this));
+    }
+    return listes;
 }
 
 void Frmmain::PreparerListes() {
@@ -314,20 +320,16 @@ void Frmmain::PreparerListes() {
 }
 
 void Frmmain::RemplirVocabulaires() {
-    // The sixth class of cost is empty and not offered.
-    for (std::size_t code = 0; code + 1 < store::Cout.size(); ++code) {
-        LCout.AddItems({store::Cout[code].toString()});
+    for (const Valeur &valeur : kValeurs) {
+        for (const QStringView classe : valeur.vocabulaire) {
+            if (!classe.isEmpty()) {
+                valeur.Liste(*this).AddItems({classe.toString()});
+            }
+        }
+        if (valeur.forme == Forme::Code) {
+            valeur.Liste(*this).SetListIndex(0);
+        }
     }
-    for (const QStringView classe : store::Difficulte) {
-        LDiff.AddItems({classe.toString()});
-    }
-    LCout.SetListIndex(0);
-    LDiff.SetListIndex(0);
-}
-
-void Frmmain::MontrerTheme(int vue) {
-    Cadre(1).SetPicture(resourcePicture(ImageNommee("themes/vue", vue) + QStringLiteral(".png")).toImage());
-    Cadre(1).show();
 }
 
 void Frmmain::SetCouleurSelection(const QColor &couleur) {

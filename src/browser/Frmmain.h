@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Volet.h"
+
 #include "platform/controls/ControlArray.h"
 #include "platform/controls/DropList.h"
 #include "platform/controls/Labels.h"
@@ -10,7 +12,6 @@
 #include "platform/controls/ScrollPanel.h"
 #include "platform/controls/SkinnedWindow.h"
 
-#include <array>
 #include <vector>
 
 namespace browser {
@@ -34,9 +35,6 @@ public:
 
     /// The hand that points at a row.
     const QCursor &CurseurMain() const { return m_main; }
-
-    /// Shows the theme picture of a view in Cadre(1).
-    void MontrerTheme(int vue);
 
 private:
     std::vector<QPixmap> m_img;
@@ -92,8 +90,9 @@ public:
     Label Label1;
     Panel Pb;
 
-    /// Key of the row of Liste that ListeHaute last acted on; empty after a sort button.
-    QString CleCourante;
+    /// What the place of the recipe shows.
+    browser::Volet Volet{*this};
+
     /// Text and number of the selected row of Liste.
     QString TitreCourant;
     qint64 NumeroCourant = 0;
@@ -105,7 +104,7 @@ public:
     void SetCouleurSelection(const QColor &couleur);
 
     /// The drop lists of the detail.
-    std::array<DropList *, 10> ListesModif();
+    std::vector<DropList *> ListesModif();
 
     /// One further row of the ingredient buttons, as the window's design has them, hidden.
     void ChargerLigne();

@@ -6,6 +6,7 @@
 
 #include "platform/controls/WhenPressed.h"
 #include "store/AccesBase.h"
+#include "store/Schema.h"
 #include "store/Textes.h"
 
 #include <array>
@@ -28,33 +29,33 @@ struct ClesLignes {
 };
 
 /// A column of the lines: its buttons, the list that all its rows share, its lookup table, and its part of a line.
-struct Colonne {
+struct ColonneDeLigne {
     Frmmain::Array<Ribbon> Frmmain::*boutons = nullptr;
     DropList Frmmain::*liste = nullptr;
-    QStringView table, cle;
+    const store::Table *table = nullptr;
     QString TextesLigne::*texte = nullptr;
     qint64 LigneIngre::*numero = nullptr;
 };
 
-constexpr std::array kColonnes{
-    Colonne{&Frmmain::Quantite, &Frmmain::LQuantite, u"Quantite", u"NQuantite", &TextesLigne::quantite,
-            &LigneIngre::quantite},
-    Colonne{&Frmmain::Mesure, &Frmmain::LMesure, u"Mesure", u"NMesure", &TextesLigne::mesure,
-            &LigneIngre::mesure},
-    Colonne{&Frmmain::Ingre, &Frmmain::LIngre, u"Ingredient", u"NIngredient", &TextesLigne::ingredient,
-            &LigneIngre::ingredient},
+constexpr std::array kColonnesDeLigne{
+    ColonneDeLigne{&Frmmain::Quantite, &Frmmain::LQuantite, &store::kQuantite, &TextesLigne::quantite,
+                   &LigneIngre::quantite},
+    ColonneDeLigne{&Frmmain::Mesure, &Frmmain::LMesure, &store::kMesure, &TextesLigne::mesure,
+                   &LigneIngre::mesure},
+    ColonneDeLigne{&Frmmain::Ingre, &Frmmain::LIngre, &store::kIngredient, &TextesLigne::ingredient,
+                   &LigneIngre::ingredient},
 };
 
-void Rechercher(const Colonne &colonne, const QString &texte, qint64 &numero) {
+void Rechercher(const ColonneDeLigne &colonne, const QString &texte, qint64 &numero) {
     store::RechercherNumero(texte == store::LignePointillee ? QStringLiteral(" ") : texte, numero,
-                            colonne.table.toString(), colonne.cle.toString());
+                            colonne.table->nom.toString(), colonne.table->Cle().toString());
 }
 
 /// Finds the numbers of both lines, quantities first, then measures, then ingredients. Dots stand for the row with a
 /// blank. A text that has no row gets one, also if the line is not changed afterwards. Throws DatabaseError.
 ClesLignes RechercherCles(const TextesLigne &ancienne, const TextesLigne &nouvelle) {
     ClesLignes cles{};
-    for (const Colonne &colonne : kColonnes) {
+    for (const ColonneDeLigne &colonne : kColonnesDeLigne) {
         Rechercher(colonne, ancienne.*colonne.texte, cles.ancienne.*colonne.numero);
         Rechercher(colonne, nouvelle.*colonne.texte, cles.nouvelle.*colonne.numero);
     }
@@ -65,7 +66,7 @@ TextesLigne LigneAffichee(const Frmmain &frm, int i) {
     return {frm.Quantite(i).Caption(), frm.Mesure(i).Caption(), frm.Ingre(i).Caption()};
 }
 
-void OuvrirLigne(Frmmain &frm, const Colonne &colonne, int i) {
+void OuvrirLigne(Frmmain &frm, const ColonneDeLigne &colonne, int i) {
     frm.Scroll(0).update();
     CacherListeModif(frm);
     DropList &liste = frm.*colonne.liste;
@@ -78,7 +79,7 @@ void OuvrirLigne(Frmmain &frm, const Colonne &colonne, int i) {
     liste.Open();
 }
 
-void ChoisirLigne(Frmmain &frm, const Colonne &colonne) {
+void ChoisirLigne(Frmmain &frm, const ColonneDeLigne &colonne) {
     DropList &liste = frm.*colonne.liste;
     const int i = liste.Tag().toInt();
     Ribbon &bouton = (frm.*colonne.boutons)(i);
@@ -87,7 +88,7 @@ void ChoisirLigne(Frmmain &frm, const Colonne &colonne) {
     }
     const QString texte = store::SansBlancs(liste.Text());
     liste.SetText(texte);
-    const qint64 recette = NumeroDeLaFiche(frm);
+    const qint64 recette = frm.Volet.Numero();
     const TextesLigne ancienne = LigneAffichee(frm, i);
     TextesLigne nouvelle = ancienne;
     nouvelle.*colonne.texte = texte;
@@ -102,7 +103,7 @@ void ChoisirLigne(Frmmain &frm, const Colonne &colonne) {
 } // namespace
 
 void BrancherListesDeLigne(Frmmain &frm) {
-    for (const Colonne &colonne : kColonnes) {
+    for (const ColonneDeLigne &colonne : kColonnesDeLigne) {
         DropList &liste = frm.*colonne.liste;
         liste.SetOffersTyped(true);
         QObject::connect(&liste, &DropList::Click, &frm, [&frm, &colonne] { ChoisirLigne(frm, colonne); });
@@ -113,7 +114,7 @@ void BrancherListesDeLigne(Frmmain &frm) {
 }
 
 void BrancherLigne(Frmmain &frm, int i) {
-    for (const Colonne &colonne : kColonnes) {
+    for (const ColonneDeLigne &colonne : kColonnesDeLigne) {
         whenPressed((frm.*colonne.boutons)(i), [&frm, &colonne, i] { OuvrirLigne(frm, colonne, i); });
     }
 }

@@ -10,6 +10,7 @@
 #include "platform/dialogs/MessageBox.h"
 #include "store/AccesBase.h"
 #include "store/Programme.h"
+#include "store/Schema.h"
 #include "store/Textes.h"
 
 #include <algorithm>
@@ -22,7 +23,7 @@ namespace {
 using namespace platform::controls;
 namespace dialogs = platform::dialogs;
 
-constexpr int kPositionPhoto = 4;
+constexpr int kPositionPhoto = store::Position(store::ChampRecette::Photo);
 
 /// What a view asks for when a value is added, and how the list is headed and counted then. Some texts date from
 /// other uses of the same tables.
@@ -45,13 +46,9 @@ constexpr std::array<QStringView, kNombreDeVues> kSuffixes{
     u" Recette(s) ...", u" Catégorie(s) ...",  u" Verre(s) ...", u"", u"",
     u" Verre(s) ...",   u" Ingrédient(s) ...", u"  ..."};
 
-bool ListeBasse(const Frmmain &frm) {
-    return frm.Outils(2).Tag() == kBas;
-}
-
 /// True where "Ajouter" makes a recipe and not a value.
 bool AjouteUneRecette(const Frmmain &frm) {
-    return ListeBasse(frm) || VueCourante() == 0;
+    return frm.Volet.EnBas() || VueCourante() == 0;
 }
 
 const Creation *CreationDe(int vue) {
@@ -88,12 +85,9 @@ void SupprimerDuBas(Frmmain &frm) {
         return;
     }
     store::SupprimerFiches(kTableRecettes, NumeroChoisi(liste), kCleRecette);
-    if (!RetirerRangee(liste)) {
-        QuitterFiche(frm);
-        return;
+    if (RetirerRangee(liste)) {
+        frm.Volet.MontrerRecette(kBas, NumeroChoisi(liste), liste.Text(liste.SelectedIndex()));
     }
-    ChargerRecette(frm, NumeroChoisi(liste));
-    frm.LTDroit.SetCaption(liste.Text(liste.SelectedIndex()));
 }
 
 /// Deletes what a row of Liste stands for. False when recipes still use it.
@@ -121,12 +115,12 @@ void SupprimerDuHaut(Frmmain &frm) {
         return;
     }
     if (!RetirerRangee(liste)) {
-        frm.Scroll(0).hide();
         return;
     }
-    ChargerRecette(frm, NumeroChoisi(liste));
     ListeHaute(frm);
-    frm.Scroll(0).show();
+    if (VueCourante() != 0) {
+        frm.Volet.MontrerSansOutil(NumeroChoisi(liste));
+    }
 }
 
 pictures::CadreImage CadreDe(Frmmain &frm) {
@@ -136,7 +130,7 @@ pictures::CadreImage CadreDe(Frmmain &frm) {
 /// Stores the path of the picture chosen last, which is this recipe's unless the choice was broken off.
 void StockerPhoto(Frmmain &frm) {
     QVariant chemin = frm.Photo.Tag();
-    store::ModifierSiRenseigne(chemin, kTableRecettes, NumeroDeLaFiche(frm), kPositionPhoto);
+    store::ModifierSiRenseigne(chemin, kTableRecettes, frm.Volet.Numero(), kPositionPhoto);
 }
 
 /// Asks for a new value of a view and adds it, whether it is there already or not.
@@ -147,10 +141,13 @@ void AjouterValeur(Frmmain &frm, const Creation &creation) {
     }
     const QString table = VueNumero(creation.vue)->table.toString();
     store::AjouterFiche(*texte, table, VueNumero(creation.vue)->cle.toString());
+    const QString avant = frm.Volet.CleCourante();
     ChargerListe(frm, {table, table, creation.entete.toString(), creation.suffixe.toString()}, creation.vue);
+    const QString compte = frm.LBGauche.Caption();
     ListeHaute(frm);
-    // The loading has emptied the lower list, and a row that was selected before is not acted on again.
-    ChargerRecettesVue(frm, creation.vue);
+    if (frm.Volet.CleCourante() == avant) {
+        frm.LBGauche.SetCaption(compte); // of the values, where the group is still the same
+    }
 }
 
 void MontrerChoix(Frmmain &frm) {
@@ -170,10 +167,6 @@ void ChoisirPhoto(Frmmain &frm) {
 
 } // namespace
 
-const List &ListeConcernee(const Frmmain &frm) {
-    return ListeBasse(frm) ? frm.LFilms : frm.Liste;
-}
-
 bool PeutAjouter(const Frmmain &frm) {
     return AjouteUneRecette(frm) || CreationDe(VueCourante()) != nullptr;
 }
@@ -187,14 +180,14 @@ void AjouterRangee(Frmmain &frm) {
 }
 
 void ModifierRangee(Frmmain &frm) {
-    List &liste = ListeBasse(frm) ? frm.LFilms : frm.Liste;
+    List &liste = frm.Volet.Liste();
     liste.SetLabelEdit(List::LabelEditMode::Automatic);
     liste.setFocus();
     liste.StartLabelEdit();
 }
 
 void SupprimerRangee(Frmmain &frm) {
-    if (ListeBasse(frm)) {
+    if (frm.Volet.EnBas()) {
         SupprimerDuBas(frm);
     } else {
         SupprimerDuHaut(frm);
@@ -214,7 +207,7 @@ void SupprimerPhoto(Frmmain &frm) {
         return;
     }
     QVariant aucune = QStringLiteral(" ");
-    store::ModifierSiRenseigne(aucune, kTableRecettes, NumeroDeLaFiche(frm), kPositionPhoto);
+    store::ModifierSiRenseigne(aucune, kTableRecettes, frm.Volet.Numero(), kPositionPhoto);
     frm.Photo.SetPicture({});
     frm.CadrePhoto.SetCaption(QStringLiteral("Pas de photo"));
 }

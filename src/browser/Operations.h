@@ -11,9 +11,6 @@ class Frmmain;
 /// What the entries of the popup menus do. They act on the list named by Outils(2).Tag and throw DatabaseError, and
 /// std::out_of_range when it has no selected row.
 
-/// The list named by Outils(2).Tag.
-const platform::controls::List &ListeConcernee(const Frmmain &frm);
-
 /// Whether something can be added to that list.
 bool PeutAjouter(const Frmmain &frm);
 

@@ -1,7 +1,9 @@
 #include "Fiche.h"
 #include "Frmmain.h"
+#include "TableDesValeurs.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace browser {
 
@@ -20,40 +22,45 @@ void Aligner(Frmmain &frm) {
     };
 
     frm.Ingre.ForEach([&](Ribbon &bouton) { bouton.SetWidth(jusquauBord(bouton)); });
-    const Twips gauche = frm.Libelle(7).Left();
-    const Twips demi = IntegerHalf(largeur - kMargeFiche) - 2 * gauche;
-    for (Ribbon *bouton : {&frm.Data(6), &frm.Data(0)}) {
-        bouton->SetLeft(gauche);
-        bouton->SetWidth(demi);
-    }
-    frm.LCategorie.SetWidth(demi);
-    frm.LVerre.SetWidth(demi);
-    frm.Libelle(1).SetLeft(gauche);
     frm.Saisie.ForEach([&](RichTextBox &saisie) { saisie.SetWidth(jusquauBord(saisie)); });
     frm.CadrePhoto.SetWidth(largeur - 2 * frm.CadrePhoto.Left() - kMargeFiche + kBordCadre);
     frm.CadrePhoto.SetHeight(3 * (frm.CadrePhoto.Width() / 5));
 
-    const Twips seconde = gauche + demi + 2 * gauche;
-    frm.Libelle(5).SetLeft(seconde);
-    frm.Libelle(2).SetLeft(seconde);
-    frm.Data(5).SetLeft(seconde);
-    frm.Data(1).SetLeft(seconde);
-    for (Ribbon *bouton : {&frm.Data(5), &frm.Data(1), &frm.Data(4)}) {
-        bouton->SetWidth(jusquauBord(*bouton));
+    const Twips gauche = frm.Libelle(kValeurs.front().libelle).Left();
+    const Twips demi = IntegerHalf(largeur - kMargeFiche) - 2 * gauche;
+    for (const Valeur &valeur : kValeurs) {
+        if (valeur.cadrage == Cadrage::Fixe) {
+            continue;
+        }
+        Ribbon &bouton = valeur.Bouton(frm);
+        if (valeur.cadrage != Cadrage::JusquauBord) {
+            const bool aGauche = valeur.cadrage == Cadrage::MoitieGauche;
+            bouton.SetLeft(aGauche ? gauche : gauche + demi + 2 * gauche);
+            frm.Libelle(valeur.libelle).SetLeft(bouton.Left());
+        }
+        bouton.SetWidth(valeur.cadrage == Cadrage::MoitieGauche ? demi : jusquauBord(bouton));
+        valeur.Liste(frm).SetWidth(bouton.Width());
     }
-    frm.LDureeReal.SetWidth(frm.Data(5).Width());
-    frm.LMateriel.SetWidth(frm.Data(1).Width());
-    frm.LTeneur.SetWidth(frm.Data(4).Width());
 }
 
-/// Places title labels on one line and their values directly under them; gives where the values end.
-template <class Valeur>
-Twips Rangee(Twips haut, std::initializer_list<std::pair<Label *, Valeur *>> couples) {
-    Twips bas;
-    for (const auto &[titre, valeur] : couples) {
-        titre->SetTop(haut);
-        valeur->SetTop(titre->Bottom());
-        bas = std::max(bas, valeur->Bottom());
+/// Places a control directly under its title; gives where it ends.
+template <class Controle>
+Twips PlacerSous(Twips haut, Label &titre, Controle &controle) {
+    titre.SetTop(haut);
+    controle.SetTop(titre.Bottom());
+    return controle.Bottom();
+}
+
+/// Places the values line by line under what ends at bas; gives where the last line ends.
+Twips RangerValeurs(Frmmain &frm, Twips bas) {
+    Twips haut;
+    int ligne = -1;
+    for (const Valeur &valeur : kValeurs) {
+        if (valeur.ligne != ligne) {
+            ligne = valeur.ligne;
+            haut = bas + kMargeFiche;
+        }
+        bas = std::max(bas, PlacerSous(haut, frm.Libelle(valeur.libelle), valeur.Bouton(frm)));
     }
     return bas;
 }
@@ -73,12 +80,16 @@ Twips RangerLignes(Frmmain &frm, Twips haut) {
 
 /// Tab goes through the detail in reading order, also through rows made later.
 void OrdonnerTabulation(Frmmain &frm) {
-    std::vector<QWidget *> ordre{&frm.Data(6), &frm.Data(5), &frm.Data(0), &frm.Data(1),
-                                 &frm.Data(2), &frm.Data(3), &frm.Data(4)};
+    std::vector<QWidget *> ordre;
+    for (const Valeur &valeur : kValeurs) {
+        ordre.push_back(&valeur.Bouton(frm));
+    }
     for (int i = 0; i < frm.Ingre.Count(); ++i) {
         ordre.insert(ordre.end(), {&frm.Quantite(i), &frm.Mesure(i), &frm.Ingre(i)});
     }
-    ordre.insert(ordre.end(), {&frm.Saisie(0), &frm.Saisie(1)});
+    for (const TexteLong &texte : kTextesLongs) {
+        ordre.push_back(&frm.Saisie(texte.saisie));
+    }
     for (std::size_t i = 1; i < ordre.size(); ++i) {
         QWidget::setTabOrder(ordre[i - 1], ordre[i]);
     }
@@ -89,19 +100,12 @@ void OrdonnerTabulation(Frmmain &frm) {
 void PlacerFiche(Frmmain &frm) {
     frm.Scroll(0).SetScrollableHeight(kMargeFiche);
     Aligner(frm);
-    using Couple = std::pair<Label *, Ribbon *>;
-    const auto titre = [&frm](int index) { return &frm.Libelle(index); };
-    const auto valeur = [&frm](int index) { return &frm.Data(index); };
-
-    Twips bas = frm.CadrePhoto.Bottom();
-    bas = Rangee<Ribbon>(bas + kMargeFiche, {Couple(titre(7), valeur(6)), Couple(titre(5), valeur(5))});
-    bas = Rangee<Ribbon>(bas + kMargeFiche, {Couple(titre(1), valeur(0)), Couple(titre(2), valeur(1))});
-    bas = Rangee<Ribbon>(bas + kMargeFiche, {Couple(titre(8), valeur(2)), Couple(titre(9), valeur(3)),
-                                             Couple(titre(10), valeur(4))});
+    Twips bas = RangerValeurs(frm, frm.CadrePhoto.Bottom());
     bas = RangerLignes(frm, bas + kMargeFiche);
     bas = std::max(bas, frm.CadrePhoto.Bottom());
-    bas = Rangee<RichTextBox>(bas + kMargeFiche, {{titre(3), &frm.Saisie(0)}});
-    bas = Rangee<RichTextBox>(bas + kMargeFiche, {{titre(4), &frm.Saisie(1)}});
+    for (const TexteLong &texte : kTextesLongs) {
+        bas = PlacerSous(bas + kMargeFiche, frm.Libelle(texte.libelle), frm.Saisie(texte.saisie));
+    }
     frm.Scroll(0).SetScrollableHeight(bas + kMargeFiche);
     OrdonnerTabulation(frm);
 }

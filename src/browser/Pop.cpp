@@ -1,6 +1,5 @@
 #include "Pop.h"
 
-#include "Fiche.h"
 #include "Frmmain.h"
 #include "Operations.h"
 #include "TableDesVues.h"
@@ -64,15 +63,15 @@ void Pop::BrancherMenus(Frmmain &frm) {
 
 void Pop::BrancherFenetre(Frmmain &frm) {
     connect(&frm.LFilms, &List::RightClicked, this, [this, &frm](const QPoint &lieu) {
-        frm.Outils(2).SetTag(kBas);
+        frm.Volet.Designer(kBas);
         MenuDesListes(frm, lieu);
     });
     connect(&frm.Liste, &List::RightClicked, this, [this, &frm](const QPoint &lieu) {
         const int vue = VueCourante();
-        frm.Outils(2).SetTag(vue == 0 ? kHaut : QString());
+        frm.Volet.Designer(vue == 0 ? kHaut : QString());
         if (vue != 0) {
             // The row stands for a group from here on, no more for the recipe that may be shown beside it.
-            QuitterFiche(frm);
+            frm.Volet.Quitter();
         }
         const Vue *courante = VueNumero(vue);
         if (courante != nullptr && courante->vocabulaire.empty()) {
@@ -94,8 +93,8 @@ void Pop::mousePressEvent(QMouseEvent * /*event*/) {
     setWindowState(Qt::WindowNoState);
 }
 
-void Pop::MenuDesListes(const Frmmain &frm, const QPoint &lieu) {
-    const bool choisie = ListeConcernee(frm).SelectedIndex() != 0;
+void Pop::MenuDesListes(Frmmain &frm, const QPoint &lieu) {
+    const bool choisie = frm.Volet.Liste().SelectedIndex() != 0;
     Ajouter.setEnabled(PeutAjouter(frm));
     Modifier.setEnabled(choisie);
     Supprimer.setEnabled(choisie);

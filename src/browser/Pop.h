@@ -41,7 +41,7 @@ private:
     void Composer();
     void BrancherMenus(Frmmain &frm);
     void BrancherFenetre(Frmmain &frm);
-    void MenuDesListes(const Frmmain &frm, const QPoint &lieu);
+    void MenuDesListes(Frmmain &frm, const QPoint &lieu);
 };
 
 } // namespace browser

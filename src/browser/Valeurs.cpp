@@ -2,7 +2,7 @@
 
 #include "Fiche.h"
 #include "Frmmain.h"
-#include "Vues.h"
+#include "TableDesValeurs.h"
 
 #include "platform/controls/WhenPressed.h"
 #include "platform/database/DatabaseError.h"
@@ -10,7 +10,6 @@
 #include "store/AccesBase.h"
 #include "store/Textes.h"
 
-#include <array>
 #include <stdexcept>
 
 namespace browser {
@@ -19,120 +18,80 @@ namespace {
 
 using namespace platform::controls;
 
-/// How a choice is stored: as the number of a row of a lookup table, as the row's place in a fixed vocabulary, or as
-/// the number of a wine advice, which is shown before it is stored.
-enum class Forme { Recherche, Code, Vin };
-
-/// When the list takes the text of its button: when it opens, or when the recipe is shown.
-enum class Texte { AOuverture, AAffichage };
-
-/// What Enter in the edit box does.
-enum class Entree { Confirme, SansEffet };
-
-/// The list of a value button: its table and key, the position in Cocktails that it writes.
-struct ListeDeValeur {
-    DropList Frmmain::*liste = nullptr;
-    QStringView table, cle;
-    int position = 0;
-    Forme forme = Forme::Recherche;
-    Texte texte = Texte::AOuverture;
-    Entree entree = Entree::Confirme;
-};
-
-/// In the order of Data.
-constexpr std::array kValeurs{
-    ListeDeValeur{&Frmmain::LVerre, u"Verre", u"NVerre", 3, Forme::Recherche, Texte::AAffichage,
-                  Entree::Confirme},
-    ListeDeValeur{&Frmmain::LMateriel, u"Realisation", u"NRealisation", 5, Forme::Recherche,
-                  Texte::AAffichage, Entree::Confirme},
-    ListeDeValeur{&Frmmain::LCout, u"", u"", 8, Forme::Code, Texte::AOuverture, Entree::SansEffet},
-    ListeDeValeur{&Frmmain::LDiff, u"", u"", 9, Forme::Code, Texte::AOuverture, Entree::SansEffet},
-    ListeDeValeur{&Frmmain::LTeneur, u"Vin", u"NVin", 10, Forme::Vin, Texte::AOuverture, Entree::Confirme},
-    ListeDeValeur{&Frmmain::LDureeReal, u"DureeReal", u"NDureeReal", 11, Forme::Recherche, Texte::AOuverture,
-                  Entree::Confirme},
-    ListeDeValeur{&Frmmain::LCategorie, u"Categorie", u"NCategorie", 2, Forme::Recherche, Texte::AOuverture,
-                  Entree::Confirme},
-};
-
-/// Positions of the two texts in Cocktails: the method, the remarks.
-constexpr std::array kPositionsSaisie{6, 7};
-
-const ListeDeValeur &ValeurDe(int index) {
-    return kValeurs.at(static_cast<std::size_t>(index));
+void EcrireFiche(const Frmmain &frm, QVariant contenu, store::ChampRecette champ) {
+    store::ModifierChamp(kTableRecettes, frm.Volet.Numero(), contenu, kCleRecette, store::Position(champ));
 }
 
-void EcrireFiche(const Frmmain &frm, QVariant valeur, int position) {
-    store::ModifierChamp(kTableRecettes, NumeroDeLaFiche(frm), valeur, kCleRecette, position);
-}
-
-/// Number of the text in the table of the value, which gets a row for it if need be.
-qint64 Rechercher(const ListeDeValeur &valeur, const QString &texte) {
+/// What the column holds for a text: its number in the lookup table, which gets a row for it if need be, or the text.
+QVariant ContenuPour(const Valeur &valeur, const QString &texte) {
+    const store::Table *table = valeur.Table();
+    if (table == nullptr) {
+        return texte;
+    }
     qint64 numero = 0;
-    store::RechercherNumero(texte, numero, valeur.table.toString(), valeur.cle.toString());
+    store::RechercherNumero(texte, numero, table->nom.toString(), table->Cle().toString());
     return numero;
 }
 
-void ChoisirRecherche(Frmmain &frm, const ListeDeValeur &valeur, Ribbon &bouton) {
-    DropList &liste = frm.*valeur.liste;
-    const QString texte = liste.Text();
-    if (texte == bouton.Caption() || store::SansBlancs(texte).isEmpty()) {
+void ChoisirRecherche(Frmmain &frm, const Valeur &valeur) {
+    const QString texte = valeur.Liste(frm).Text();
+    if (texte == valeur.Bouton(frm).Caption() || store::SansBlancs(texte).isEmpty()) {
         return;
     }
-    EcrireFiche(frm, Rechercher(valeur, texte), valeur.position);
-    MontrerValeur(bouton, texte);
-    FermerListe(frm, liste, bouton);
+    EcrireFiche(frm, ContenuPour(valeur, texte), valeur.champ);
+    MontrerValeur(valeur.Bouton(frm), texte);
+    FermerListe(frm, valeur.Liste(frm), valeur.Bouton(frm));
 }
 
-/// Says nothing of a failure: false where the book cannot be written, or no recipe is selected.
-bool EcrireEnSilence(const Frmmain &frm, const QVariant &valeur, int position) {
+/// Says nothing of a failure: false where the book cannot be written, or no recipe is shown.
+bool EcrireEnSilence(const Frmmain &frm, const QVariant &contenu, store::ChampRecette champ) {
     try {
-        EcrireFiche(frm, valeur, position);
+        EcrireFiche(frm, contenu, champ);
         return true;
     } catch (const platform::database::DatabaseError &) {
-    } catch (const std::out_of_range &) { // of NumeroDeLaFiche
+    } catch (const std::out_of_range &) { // of Volet::Numero
     }
     return false;
 }
 
 /// Stores a value that the button shows already. After a failure the list stays open, and the button shows what was
 /// chosen until the recipe is shown again.
-void StockerEnSilence(Frmmain &frm, const ListeDeValeur &valeur, Ribbon &bouton, const QVariant &choix) {
-    if (EcrireEnSilence(frm, choix, valeur.position)) {
-        FermerListe(frm, frm.*valeur.liste, bouton);
+void StockerEnSilence(Frmmain &frm, const Valeur &valeur, const QVariant &contenu) {
+    if (EcrireEnSilence(frm, contenu, valeur.champ)) {
+        FermerListe(frm, valeur.Liste(frm), valeur.Bouton(frm));
     }
 }
 
-void ChoisirVin(Frmmain &frm, const ListeDeValeur &valeur, Ribbon &bouton) {
-    const QString texte = (frm.*valeur.liste).Text();
-    if (texte == bouton.Caption()) {
+void ChoisirVin(Frmmain &frm, const Valeur &valeur) {
+    const QString texte = valeur.Liste(frm).Text();
+    if (texte == valeur.Bouton(frm).Caption()) {
         return;
     }
-    const qint64 numero = Rechercher(valeur, texte);
-    MontrerValeur(bouton, texte);
-    StockerEnSilence(frm, valeur, bouton, numero);
+    const QVariant contenu = ContenuPour(valeur, texte);
+    MontrerValeur(valeur.Bouton(frm), texte);
+    StockerEnSilence(frm, valeur, contenu);
 }
 
 /// The place of the row in the list is the code. It is stored whether it differs or not.
-void ChoisirCode(Frmmain &frm, const ListeDeValeur &valeur, Ribbon &bouton) {
-    const DropList &liste = frm.*valeur.liste;
+void ChoisirCode(Frmmain &frm, const Valeur &valeur) {
+    const DropList &liste = valeur.Liste(frm);
+    Ribbon &bouton = valeur.Bouton(frm);
     MontrerValeur(bouton, liste.Text());
     bouton.SetTag(QString::number(liste.ListIndex()));
-    StockerEnSilence(frm, valeur, bouton, bouton.Tag());
+    StockerEnSilence(frm, valeur, bouton.Tag());
 }
 
-void OuvrirValeur(Frmmain &frm, int index) {
+void OuvrirValeur(Frmmain &frm, const Valeur &valeur) {
     frm.Scroll(0).update();
     CacherListeModif(frm);
-    const ListeDeValeur &valeur = ValeurDe(index);
-    DropList &liste = frm.*valeur.liste;
-    const Ribbon &bouton = frm.Data(index);
-    if (valeur.texte == Texte::AOuverture) {
-        if (liste.Count() > 0) {
-            liste.SetText(bouton.Caption());
-        }
-        liste.SetLeft(bouton.Left());
-    } else if (liste.Count() > 0) {
-        // Over an empty table these two keep the place of their last use.
+    DropList &liste = valeur.Liste(frm);
+    const Ribbon &bouton = valeur.Bouton(frm);
+    const bool aOuverture = valeur.texte != Texte::AAffichage;
+    if (aOuverture && liste.Count() > 0) {
+        liste.SetText(bouton.Caption());
+    }
+    // Over an empty table, a list whose text was set before keeps the place of its last use.
+    if (aOuverture || liste.Count() > 0) {
         liste.SetLeft(bouton.Left());
     }
     liste.SetTop(bouton.Top());
@@ -140,13 +99,12 @@ void OuvrirValeur(Frmmain &frm, int index) {
 }
 
 /// After a failure the text stays in the box, and its next change tries again.
-void EnregistrerSaisie(Frmmain &frm, int index) {
-    EcrireEnSilence(frm, frm.Saisie(index).TextRTF(), kPositionsSaisie.at(static_cast<std::size_t>(index)));
+void EnregistrerSaisie(Frmmain &frm, const TexteLong &texte) {
+    EcrireEnSilence(frm, frm.Saisie(texte.saisie).TextRTF(), texte.champ);
 }
 
 /// Black leaves the selection as it is.
-void ColorerSelection(Frmmain &frm, int index) {
-    RichTextBox &saisie = frm.Saisie(index);
+void ColorerSelection(Frmmain &frm, RichTextBox &saisie) {
     if (saisie.SelLength() == 0) {
         return;
     }
@@ -156,55 +114,47 @@ void ColorerSelection(Frmmain &frm, int index) {
     }
 }
 
-void BrancherValeur(Frmmain &frm, int index) {
-    Ribbon &bouton = frm.Data(index);
-    DropList &liste = frm.*ValeurDe(index).liste;
-    const auto choisir = [&frm, index] { ChoisirValeur(frm, index); };
-    whenPressed(bouton, [&frm, index] { OuvrirValeur(frm, index); });
+void BrancherValeur(Frmmain &frm, const Valeur &valeur) {
+    DropList &liste = valeur.Liste(frm);
+    const auto choisir = [&frm, &valeur] { ChoisirValeur(frm, valeur); };
+    whenPressed(valeur.Bouton(frm), [&frm, &valeur] { OuvrirValeur(frm, valeur); });
     QObject::connect(&liste, &DropList::Click, &frm, choisir);
-    if (ValeurDe(index).entree == Entree::Confirme) {
+    if (valeur.entree == Entree::Confirme) {
         QObject::connect(&liste, &DropList::EnterPressed, &frm, choisir);
     }
     QObject::connect(&liste, &DropList::Escaped, &frm,
-                     [&frm, &liste, &bouton] { FermerListe(frm, liste, bouton); });
+                     [&frm, &valeur] { FermerListe(frm, valeur.Liste(frm), valeur.Bouton(frm)); });
 }
 
-void BrancherSaisie(Frmmain &frm, int index) {
-    RichTextBox &saisie = frm.Saisie(index);
-    QObject::connect(&saisie, &RichTextBox::Change, &frm, [&frm, index] { EnregistrerSaisie(frm, index); });
+void BrancherSaisie(Frmmain &frm, const TexteLong &texte) {
+    RichTextBox &saisie = frm.Saisie(texte.saisie);
+    QObject::connect(&saisie, &RichTextBox::Change, &frm, [&frm, &texte] { EnregistrerSaisie(frm, texte); });
     QObject::connect(&saisie, &RichTextBox::Clicked, &frm, [&frm] { frm.Scroll(0).update(); });
     QObject::connect(&saisie, &RichTextBox::RightReleased, &frm,
-                     [&frm, index] { ColorerSelection(frm, index); });
+                     [&frm, &saisie] { ColorerSelection(frm, saisie); });
 }
 
 } // namespace
 
-qint64 NumeroDeLaFiche(const Frmmain &frm) {
-    const List &liste = ListeDeLaFiche(frm);
-    return store::NumeroDeCle(liste.Key(liste.SelectedIndex()));
-}
-
 void BrancherValeurs(Frmmain &frm) {
-    for (int index = 0; index < frm.Data.Count(); ++index) {
-        BrancherValeur(frm, index);
+    for (const Valeur &valeur : kValeurs) {
+        BrancherValeur(frm, valeur);
     }
-    for (int index = 0; index < frm.Saisie.Count(); ++index) {
-        BrancherSaisie(frm, index);
+    for (const TexteLong &texte : kTextesLongs) {
+        BrancherSaisie(frm, texte);
     }
 }
 
-void ChoisirValeur(Frmmain &frm, int index) {
-    const ListeDeValeur &valeur = ValeurDe(index);
-    Ribbon &bouton = frm.Data(index);
+void ChoisirValeur(Frmmain &frm, const Valeur &valeur) {
     switch (valeur.forme) {
     case Forme::Recherche:
-        ChoisirRecherche(frm, valeur, bouton);
+        ChoisirRecherche(frm, valeur);
         break;
     case Forme::Code:
-        ChoisirCode(frm, valeur, bouton);
+        ChoisirCode(frm, valeur);
         break;
     case Forme::Vin:
-        ChoisirVin(frm, valeur, bouton);
+        ChoisirVin(frm, valeur);
         break;
     }
 }

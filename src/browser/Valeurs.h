@@ -6,17 +6,14 @@
 namespace browser {
 
 class Frmmain;
-
-/// Number of the recipe shown, on which every change acts: that of the selected row of the list named by Outils(2).Tag.
-/// Throws std::out_of_range when no row is selected.
-qint64 NumeroDeLaFiche(const Frmmain &frm);
+struct Valeur;
 
 /// Connects the value buttons of the recipe and their lists, and the two texts.
 void BrancherValeurs(Frmmain &frm);
 
-/// Stores what the list of Data(index) holds, as the user's choice for it. Throws DatabaseError for values of a
+/// Stores what the list of a value holds, as the user's choice for it. Throws DatabaseError for values of a
 /// lookup table; for the others a failed store is silent.
-void ChoisirValeur(Frmmain &frm, int index);
+void ChoisirValeur(Frmmain &frm, const Valeur &valeur);
 
 /// Hides a list after a choice; the keyboard goes back to the button that it lay over.
 void FermerListe(Frmmain &frm, platform::controls::DropList &liste, platform::controls::Ribbon &bouton);

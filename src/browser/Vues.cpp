@@ -97,26 +97,10 @@ void DeplacerSurlignage(Frmmain &frm) {
     frm.LTDroit.SetTag(QString::number(choisie));
 }
 
-void MontrerOutilFiche(Frmmain &frm, bool visible) {
-    frm.Outils(2).setVisible(visible);
-    frm.LBtn(2).setVisible(visible);
-}
-
 void MontrerGroupe(Frmmain &frm, int vue) {
     ChargerRecettesVue(frm, vue);
     frm.LBGauche.SetCaption(QString::number(frm.LFilms.Count()) + QStringLiteral(" Recette(s) ..."));
-    frm.MontrerTheme(vue);
-    frm.Scroll(1).setToolTip(QStringLiteral("Une photo illustrant le thème"));
-    MontrerOutilFiche(frm, false);
-}
-
-/// Shows a recipe that a row of a list names; which list, is noted in the toolbar.
-void MontrerRecette(Frmmain &frm, qint64 numero, const QString &liste) {
-    ChargerRecette(frm, numero);
-    frm.Outils(2).SetTag(liste);
-    MontrerOutilFiche(frm, true);
-    ChargerLesListesCombo(frm);
-    frm.Scroll(0).show();
+    frm.Volet.MontrerGroupe(vue, frm.TitreCourant);
 }
 
 void Renommer(const List &liste, int index, const QString &texte, const QString &table, const QString &cle) {
@@ -143,7 +127,6 @@ void PresserBouton(Frmmain &frm, int vue) {
     if (courante != kVueAucune) {
         frm.Bouton(courante).SetForeColor(Qt::white);
     }
-    frm.CleCourante.clear();
     TrierListe(frm, vue);
     EnregistrerVue(vue);
     frm.Bouton(vue).SetForeColor(Qt::black);
@@ -151,23 +134,20 @@ void PresserBouton(Frmmain &frm, int vue) {
 
 void TrierListe(Frmmain &frm, int vue) {
     frm.LTCentre2.hide();
-    frm.Scroll(0).hide();
+    frm.Volet.Quitter();
     if (const Vue *choisie = VueNumero(vue)) {
         const QString table = choisie->table.toString();
         ChargerListe(frm,
                      {table, ChampTexte(vue, table), choisie->entete.toString(), choisie->suffixe.toString()},
                      vue);
         ListeHaute(frm);
-        if (vue == 0) {
-            frm.Scroll(0).setVisible(frm.Liste.Count() > 0);
-        }
     }
     frm.Liste.raise();
     if (frm.Liste.Count() > 0) {
         frm.Liste.viewport()->setCursor(frm.CurseurMain());
         frm.LFilms.viewport()->setCursor(frm.CurseurMain());
     } else {
-        frm.MontrerTheme(vue);
+        frm.Volet.MontrerTheme(vue);
         frm.Liste.viewport()->unsetCursor();
     }
 }
@@ -195,25 +175,22 @@ void ListeHaute(Frmmain &frm) {
         frm.LTDroit.SetCaption({});
     }
     const int choisie = frm.Liste.SelectedIndex();
-    if (choisie == 0 || frm.CleCourante == frm.Liste.Key(choisie)) {
+    if (choisie == 0 || frm.Volet.CleCourante() == frm.Liste.Key(choisie)) {
         return;
     }
-    frm.Scroll(0).hide();
-    frm.CleCourante = frm.Liste.Key(choisie);
-    frm.LTDroit.SetCaption(frm.Liste.Text(choisie));
+    frm.Volet.Quitter();
+    frm.Volet.Retenir(frm.Liste.Key(choisie));
     frm.Icone_DEco.SetPicture(
         frm.Img().at(static_cast<std::size_t>(frm.Liste.SmallIcon(choisie) - 1)).toImage());
     DeplacerSurlignage(frm);
     frm.TitreCourant = frm.Liste.Text(choisie);
-    frm.NumeroCourant = store::NumeroDeCle(frm.CleCourante);
+    frm.NumeroCourant = store::NumeroDeCle(frm.Volet.CleCourante());
     const int vue = frm.Liste.Tag().toInt();
     if (vue != 0) {
         MontrerGroupe(frm, vue);
         return;
     }
-    frm.Scroll(1).setToolTip({});
-    frm.Cadre(1).hide();
-    MontrerRecette(frm, frm.NumeroCourant, kHaut);
+    frm.Volet.MontrerRecette(kHaut, frm.NumeroCourant, frm.TitreCourant);
 }
 
 void ClicListe(Frmmain &frm) {
@@ -234,19 +211,13 @@ void ClicFilms(Frmmain &frm) {
     if (choisie == 0) {
         return;
     }
-    frm.LTDroit.SetCaption(frm.LFilms.Text(choisie));
-    MontrerRecette(frm, store::NumeroDeCle(frm.LFilms.Key(choisie)), kBas);
-}
-
-const List &ListeDeLaFiche(const Frmmain &frm) {
-    return frm.Outils(2).Tag() == kBas ? frm.LFilms : frm.Liste;
+    frm.Volet.MontrerRecette(kBas, store::NumeroDeCle(frm.LFilms.Key(choisie)), frm.LFilms.Text(choisie));
 }
 
 void AllerAuVoisin(Frmmain &frm, int pas) {
-    const bool bas = frm.Outils(2).Tag() == kBas;
-    List &liste = bas ? frm.LFilms : frm.Liste;
+    List &liste = frm.Volet.Liste();
     liste.Select(liste.SelectedIndex() + pas);
-    if (bas) {
+    if (frm.Volet.EnBas()) {
         ClicFilms(frm);
     } else {
         FlecheListe(frm);

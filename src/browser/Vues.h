@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/controls/ListView.h"
+#include <QString>
 
 namespace browser {
 
@@ -11,10 +11,6 @@ inline constexpr int kNombreDeVues = 8;
 
 /// The view of the ingredients, whose recipes are found through the lines.
 inline constexpr int kVueIngredients = 6;
-
-/// What Outils(2).Tag holds: which list names the current recipe.
-inline const QString kHaut = QStringLiteral("H");
-inline const QString kBas = QStringLiteral("B");
 
 /// Stored instead of a view while a first view is being loaded.
 inline constexpr int kVueAucune = 99;
@@ -54,9 +50,7 @@ void ChargerRecettesIngredient(Frmmain &frm);
 void ClicListe(Frmmain &frm);
 void FlecheListe(Frmmain &frm);
 void ClicFilms(Frmmain &frm);
-/// The list whose selected row is the recipe shown, as Outils(2).Tag says.
-const platform::controls::List &ListeDeLaFiche(const Frmmain &frm);
-/// Selects the neighbour of that row, 1 below or -1 above it, which must exist, and shows its recipe as the user's choice
+/// Selects the neighbour of the row that names the recipe shown, 1 below or -1 above it, which must exist, and shows its recipe as the user's choice
 /// of it does. Throws DatabaseError.
 void AllerAuVoisin(Frmmain &frm, int pas);
 /// Stores the new text of a row edited in place, if it differs.

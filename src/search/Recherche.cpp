@@ -70,8 +70,6 @@ void AnnoncerNombre(FrmFind &fenetre) {
 
 /// Loads a view and marks its button as the current one.
 void ChangerDeVue(browser::Frmmain &frm, int ancienne, int vue) {
-    // A group and a recipe may have the same key: the first row of the view must count as another one.
-    frm.CleCourante.clear();
     browser::TrierListe(frm, vue);
     if (ancienne != browser::kVueAucune) {
         frm.Bouton(ancienne).SetForeColor(Qt::white);

@@ -4,6 +4,7 @@
 #include "Impression.h"
 
 #include "browser/Frmmain.h"
+#include "browser/TableDesValeurs.h"
 #include "browser/Vues.h"
 #include "pictures/AjusterPhoto.h"
 #include "platform/controls/Fonts.h"
@@ -22,6 +23,8 @@ namespace sheets {
 namespace {
 
 using namespace platform::controls;
+using browser::ValeurDe;
+using store::ChampRecette;
 
 constexpr Extent kTaille{FicheAlbum::kLargeurInterieure + Twips(60), Twips(9360)};
 
@@ -62,6 +65,22 @@ constexpr std::array kControles{
     ControlRow{"Deco", 240, 10845, 14055, 1815, u"", u"", u"Compléments"},
 };
 
+/// What the fields of the page repeat.
+struct Copie {
+    Ribbon FicheAlbum::*champ = nullptr;
+    browser::Valeur valeur;
+};
+
+constexpr std::array kCopies{
+    Copie{&FicheAlbum::Cout, ValeurDe(ChampRecette::Cout)},
+    Copie{&FicheAlbum::Diff, ValeurDe(ChampRecette::difficulte)},
+    Copie{&FicheAlbum::Teneur, ValeurDe(ChampRecette::Teneur)},
+};
+
+// The first stands under the title of the preparation time, but it repeats the cooking time.
+constexpr std::array kCopiesData{ValeurDe(ChampRecette::NCategorie), ValeurDe(ChampRecette::NCategorie),
+                                 ValeurDe(ChampRecette::Nverre), ValeurDe(ChampRecette::Nreal)};
+
 /// Pictures of Navi.
 constexpr std::array kDessins{
     ":/icones/facile-precedent.argb",
@@ -85,7 +104,7 @@ void PreparerChamp(Ribbon &champ) {
     champ.SetForeColor(kInk);
     champ.setFocusPolicy(Qt::NoFocus);
     champ.setAttribute(Qt::WA_TransparentForMouseEvents);
-    QObject::connect(&champ, &Ribbon::toggled, &champ, [&champ] { champ.SetValue(false); });
+    whenPressed(champ, [] {});
 }
 
 } // namespace
@@ -167,7 +186,7 @@ void FicheAlbum::Brancher() {
 }
 
 void FicheAlbum::ChargerFiche() {
-    const List &liste = browser::ListeDeLaFiche(m_frm);
+    const List &liste = m_frm.Volet.Liste();
     const int choisie = liste.SelectedIndex();
     MontrerTitre(liste.Text(choisie));
     RemplirFiche();
@@ -204,18 +223,16 @@ void FicheAlbum::MontrerTitre(const QString &titre) {
 
 void FicheAlbum::RemplirFiche() {
     Scroll(0).SetScrollableHeight(kEntreBlocs);
-    const auto copier = [this](Ribbon &champ, int index) { champ.SetCaption(m_frm.Data(index).Caption()); };
-    copier(Cout, 2);
-    copier(Diff, 3);
-    copier(Teneur, 4);
-    copier(Data(1), 6);
-    copier(Data(2), 0);
-    copier(Data(3), 1);
-    // The sheet has always shown the cooking time here, too, under the label of the preparation time.
-    copier(Data(0), 6);
-    DureeReal = m_frm.Data(5).Caption();
-    Prepa.SetTextRTF(m_frm.Saisie(0).TextRTF());
-    Deco.SetTextRTF(m_frm.Saisie(1).TextRTF());
+    const auto texte = [this](const browser::Valeur &valeur) { return valeur.Bouton(m_frm).Caption(); };
+    for (const Copie &copie : kCopies) {
+        (this->*copie.champ).SetCaption(texte(copie.valeur));
+    }
+    for (std::size_t index = 0; index < kCopiesData.size(); ++index) {
+        Data(static_cast<int>(index)).SetCaption(texte(kCopiesData[index]));
+    }
+    DureeReal = texte(ValeurDe(ChampRecette::NDureeReal));
+    Prepa.SetTextRTF(m_frm.Saisie(browser::kPreparation.saisie).TextRTF());
+    Deco.SetTextRTF(m_frm.Saisie(browser::kComplements.saisie).TextRTF());
     CopierLignes();
     Empiler();
 }

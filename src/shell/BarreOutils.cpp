@@ -1,83 +1,61 @@
 #include "BarreOutils.h"
 
+#include "Commandes.h"
 #include "Fenetres.h"
-#include "OuvrirAdresse.h"
-#include "Sauvegarde.h"
 
 #include "platform/dialogs/MessageBox.h"
 #include "platform/webview/LoadEngine.h"
-#include "store/Configuration.h"
 #include "store/Programme.h"
-
-#include <array>
 
 namespace shell {
 
 namespace {
 
 using namespace platform::controls;
+using browser::Outil;
 
-constexpr int kOutilCreation = 0;
-
-/// The main window makes room for a tool window, and comes back after it.
-void OuvrirOutil(Fenetres &fenetres, SkinnedWindow &fenetre) {
-    fenetres.Principale.hide();
-    fenetre.ShowModal();
-    fenetres.Principale.show();
-}
-
-void CreerUneRecette(Fenetres &fenetres) {
-    OuvrirOutil(fenetres, fenetres.Creation());
-    fenetres.OublierCreation();
-}
-
-// Its picture is gone with the window.
-void OuvrirAtelier(Fenetres &fenetres) {
-    OuvrirOutil(fenetres, fenetres.Atelier());
-    fenetres.OublierAtelier();
-}
-
-void OuvrirFiches(Fenetres &fenetres) {
-    fenetres.Fiches().ChargerFiche();
-    OuvrirOutil(fenetres, fenetres.Fiches());
-}
-
-/// The one tool that needs what may not be there.
-void OuvrirImport(Fenetres &fenetres) {
-    webimport::facile::Facile *fenetre = nullptr;
+/// The window of a tool; null, with a message, where what it needs is not there.
+ToolWindow *FenetrePossible(Fenetres &fenetres, Outil outil) {
     try {
-        fenetre = &fenetres.Import();
+        return &fenetres.Fenetre(outil);
     } catch (const platform::webview::WebViewError &obstacle) {
         platform::dialogs::Message(
             &fenetres.Principale, store::TitreProgramme.toString(),
             QStringLiteral("Le navigateur de la création facile n'est pas disponible.\n\n") +
                 QString::fromUtf8(obstacle.what()),
             platform::dialogs::Icon::Exclamation);
-        return;
+        return nullptr;
     }
-    OuvrirOutil(fenetres, *fenetre);
 }
 
-using Action = void (*)(Fenetres &);
+/// The main window makes room for a tool window that takes its place, and comes back after it.
+void OuvrirOutil(Fenetres &fenetres, const Commande &commande) {
+    ToolWindow *fenetre = FenetrePossible(fenetres, commande.outil);
+    if (fenetre == nullptr) {
+        return;
+    }
+    if (commande.preparer != nullptr) {
+        commande.preparer(*fenetre);
+    }
+    if (commande.remplace) {
+        fenetres.Principale.hide();
+    }
+    fenetre->ShowModal();
+    if (commande.remplace) {
+        fenetres.Principale.show();
+    }
+    fenetres.Oublier(commande.outil);
+}
 
-/// What each tool does; a tool without an action is disabled.
-constexpr std::array<Action, 11> kActions{
-    CreerUneRecette,
-    OuvrirImport,
-    OuvrirFiches,
-    OuvrirAtelier,
-    [](Fenetres &fenetres) { OuvrirOutil(fenetres, fenetres.Recherche()); },
-    [](Fenetres &fenetres) { SauvegarderBase(fenetres.Principale); },
-    [](Fenetres &fenetres) { RestaurerBase(fenetres.Principale); },
-    [](Fenetres &fenetres) { OuvrirAdresse(fenetres.Principale, store::PartnerSiteHome); },
-    [](Fenetres &fenetres) { OuvrirAdresse(fenetres.Principale, store::AuteurSite); },
-    [](Fenetres &fenetres) { fenetres.Accueil().ShowModal(); },
-    [](Fenetres &fenetres) { OuvrirAdresse(fenetres.Principale, u"aide/index.htm"); },
-};
-
-void PresserOutil(Fenetres &fenetres, int index) {
-    fenetres.Pop.FenetreOuverte = index;
-    kActions.at(static_cast<std::size_t>(index))(fenetres);
+/// What a press of the tool does; noted first, so that its window comes back when it is minimised.
+void Executer(Fenetres &fenetres, Outil outil) {
+    fenetres.Pop.FenetreOuverte = static_cast<int>(outil);
+    const Commande &commande = CommandeDe(outil);
+    if (commande.agir != nullptr) {
+        commande.agir(fenetres);
+    } else {
+        OuvrirOutil(fenetres, commande);
+    }
 }
 
 // Black under the pointer, blue at rest.
@@ -89,9 +67,6 @@ void Survoler(Panel &panneau, const Ribbon &outil) {
 void BrancherOutil(browser::Frmmain &frm, int index) {
     Ribbon &outil = frm.Outils(index);
     Panel &panneau = frm.LBtn(index);
-    const bool existe = kActions.at(static_cast<std::size_t>(index)) != nullptr;
-    outil.setEnabled(existe);
-    panneau.setEnabled(existe);
     const auto entrer = [&panneau, &outil] { Survoler(panneau, outil); };
     const auto sortir = [&panneau] { panneau.SetForeColor(Qt::blue); };
     QObject::connect(&outil, &Ribbon::Entered, &panneau, entrer);
@@ -109,12 +84,9 @@ void BrancherBarreOutils(Fenetres &fenetres) {
         BrancherOutil(frm, index);
     }
     QObject::connect(&frm, &browser::Frmmain::OutilPresse, &frm,
-                     [&fenetres](int index) { PresserOutil(fenetres, index); });
-    QObject::connect(&frm, &browser::Frmmain::CreationDemandee, &frm, [&fenetres] {
-        // As the tool does, so that the window comes back when it is minimised.
-        fenetres.Pop.FenetreOuverte = kOutilCreation;
-        CreerUneRecette(fenetres);
-    });
+                     [&fenetres](int index) { Executer(fenetres, static_cast<Outil>(index)); });
+    QObject::connect(&frm, &browser::Frmmain::CreationDemandee, &frm,
+                     [&fenetres] { Executer(fenetres, Outil::CreationManuelle); });
 }
 
 } // namespace shell

@@ -172,7 +172,7 @@ void Brancher(Fenetres &fenetres) {
 // open by itself.
 void AccueillirSiVoulu(Fenetres &fenetres) {
     if (store::LireReglage(store::kSplashAuto) == QStringLiteral("Vrai")) {
-        fenetres.Accueil().ShowModal();
+        fenetres.Fenetre(browser::Outil::APropos).ShowModal();
     }
 }
 

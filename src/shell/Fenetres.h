@@ -1,58 +1,49 @@
 #pragma once
 
-#include "Patch.h"
-#include "Splash.h"
-
 #include "browser/Frmmain.h"
 #include "browser/Pop.h"
-#include "entry/Manuelle.h"
-#include "pictures/atelier/Acquisition.h"
+#include "browser/TableDesOutils.h"
+#include "platform/controls/ToolWindow.h"
 #include "platform/scandialogs/ImageSource.h"
-#include "search/FrmFind.h"
-#include "sheets/FicheAlbum.h"
-#include "webimport/facile/Facile.h"
 
-#include <optional>
+#include <array>
+#include <memory>
+#include <vector>
 
 namespace shell {
 
-/// The windows of the program. The tool windows are made when they are first opened, take the display mode then, and
-/// stay for the run, but for the window of creation.
+/// The windows of the program. The tool windows are made as the rows of Commandes.cpp say, when they are first opened,
+/// and take the display mode then.
 class Fenetres {
 public:
+    using ToolWindow = platform::controls::ToolWindow;
+
     Fenetres();
 
     browser::Frmmain Principale;
     browser::Pop Pop;
+    /// The scanner chosen in the picture workshop.
+    platform::scandialogs::ImageSource Scanner;
 
-    Splash &Accueil();
-    search::FrmFind &Recherche();
-    sheets::FicheAlbum &Fiches();
+    /// The window of a tool that has one. Throws what making it throws.
+    ToolWindow &Fenetre(browser::Outil outil);
 
-    /// The picture workshop; unlike the others it is made anew after it was forgotten.
-    pictures::atelier::Acquisition &Atelier();
-    void OublierAtelier();
+    /// The same by its class.
+    template <class Classe>
+    Classe &FenetreDe(browser::Outil outil) {
+        return dynamic_cast<Classe &>(Fenetre(outil));
+    }
 
-    /// Made anew after each OublierCreation, and in a display mode of its own.
-    entry::Manuelle &Creation();
-
-    /// Unloads the window of creation, unless it is open: then the one who opened it does.
-    void OublierCreation();
-
-    /// Opened in a display mode of its own. Throws platform::webview::WebViewError where the browser cannot be had.
-    webimport::facile::Facile &Import();
+    /// Unloads the window of a tool if it is made anew each time, unless it is open: then the one who opened it does.
+    void Oublier(browser::Outil outil);
 
     /// The tool windows made so far.
-    std::vector<platform::controls::ToolWindow *> Outils();
+    std::vector<ToolWindow *> Faites() const;
 
 private:
-    std::optional<Splash> m_accueil;
-    std::optional<search::FrmFind> m_recherche;
-    std::optional<sheets::FicheAlbum> m_fiches;
-    platform::scandialogs::ImageSource m_scanner;
-    std::optional<pictures::atelier::Acquisition> m_atelier;
-    std::optional<entry::Manuelle> m_creation;
-    std::optional<webimport::facile::Facile> m_import;
+    std::unique_ptr<ToolWindow> Faire(browser::Outil outil);
+
+    std::array<std::unique_ptr<ToolWindow>, browser::kNombreOutils> m_faites;
 };
 
 } // namespace shell

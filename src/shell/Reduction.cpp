@@ -1,6 +1,6 @@
 #include "Reduction.h"
 
-#include "BarreOutils.h"
+#include "Commandes.h"
 #include "Fenetres.h"
 
 #include "platform/database/DatabaseError.h"
@@ -9,31 +9,11 @@
 
 #include <QGuiApplication>
 
-#include <array>
-
 namespace shell {
 
 namespace {
 
 using platform::controls::SkinnedWindow;
-
-using Ouverture = SkinnedWindow &(*)(Fenetres &);
-
-/// The window that each value of FenetreOuverte brings back. The values are tools of the toolbar, but the table is off by
-/// one from the search on: a backup brings the search window, the search window itself none.
-struct Retour {
-    int outil;
-    Ouverture ouvrir;
-};
-
-constexpr std::array kRetours{
-    Retour{0, [](Fenetres &fenetres) -> SkinnedWindow & { return fenetres.Creation(); }},
-    Retour{1, [](Fenetres &fenetres) -> SkinnedWindow & { return fenetres.Import(); }},
-    Retour{2, [](Fenetres &fenetres) -> SkinnedWindow & { return fenetres.Fiches(); }},
-    Retour{3, [](Fenetres &fenetres) -> SkinnedWindow & { return fenetres.Atelier(); }},
-    Retour{5, [](Fenetres &fenetres) -> SkinnedWindow & { return fenetres.Recherche(); }},
-    Retour{8, [](Fenetres &fenetres) -> SkinnedWindow & { return fenetres.Accueil(); }},
-};
 
 // Wayland tells no program that its window was minimised or brought back.
 bool AnnonceLeRetour() {
@@ -41,17 +21,15 @@ bool AnnonceLeRetour() {
 }
 
 void RouvrirFenetre(Fenetres &fenetres) {
-    for (const Retour &retour : kRetours) {
-        if (retour.outil == fenetres.Pop.FenetreOuverte) {
-            retour.ouvrir(fenetres).ShowModal();
-            fenetres.OublierCreation();
-        }
+    if (const Commande *commande = CommandeDuRetour(fenetres.Pop.FenetreOuverte)) {
+        fenetres.Fenetre(commande->outil).ShowModal();
+        fenetres.Oublier(commande->outil);
     }
 }
 
 /// A window that was minimised while it was open, and that the table does not bring back, is closed: its opener waits.
 void FermerLesOubliees(Fenetres &fenetres) {
-    for (SkinnedWindow *fenetre : fenetres.Outils()) {
+    for (SkinnedWindow *fenetre : fenetres.Faites()) {
         if (fenetre->IsModal() && !fenetre->isVisible()) {
             fenetre->Unload();
         }

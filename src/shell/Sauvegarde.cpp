@@ -77,7 +77,6 @@ void RestaurerCopie(const QString &fichier) {
 void RechargerListes(browser::Frmmain &frm) {
     // A file that is no book of ours fails again, and loudly, at the next query.
     try {
-        frm.CleCourante.clear();
         TrierListe(frm, browser::VueCourante());
     } catch (const platform::database::DatabaseError &) {
     } catch (const platform::settings::ConversionError &) {

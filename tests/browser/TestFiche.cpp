@@ -170,6 +170,7 @@ private Q_SLOTS:
         // Twice as wide as high, in the middle of a frame of 5 to 3.
         show(u"Photo = 'tarte.jpg'"_qs);
         QCOMPARE(m_window->Photo.Width().value(), m_window->CadrePhoto.Width().value() - 400);
+        QCOMPARE(m_window->ImageTemp.Picture(), m_window->Photo.Picture());
         QCOMPARE(m_window->Photo.Height().value(), m_window->Photo.Width().value() / 2);
         QCOMPARE(m_window->Photo.Left().value(), 200.0F);
     }

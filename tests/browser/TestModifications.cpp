@@ -2,6 +2,7 @@
 #include "LivreEssai.h"
 
 #include "browser/Fiche.h"
+#include "browser/TableDesValeurs.h"
 #include "browser/Valeurs.h"
 #include "store/Textes.h"
 #include "store/Vocabulaires.h"
@@ -172,12 +173,12 @@ private Q_SLOTS:
 
     void withoutARecipe() {
         LivreEssai::execute({u"DELETE From Cocktails"_qs});
-        m_window->CleCourante.clear();
         TrierListe(*m_window, 0);
         choose(m_window->LCout, store::Cout[4].toString()); // shown, not stored, not told
         QCOMPARE(m_window->Data(2).Caption(), store::Cout[4].toString());
         typeInto(m_window->LCategorie, u"3 heures"_qs);
-        QVERIFY_THROWS_EXCEPTION(std::out_of_range, ChoisirValeur(*m_window, 6));
+        QVERIFY_THROWS_EXCEPTION(std::out_of_range,
+                                 ChoisirValeur(*m_window, ValeurDe(store::ChampRecette::NCategorie)));
         QCOMPARE(count(u"SELECT * From Categorie where Categorie = '3 heures'"_qs), 1);
     }
 

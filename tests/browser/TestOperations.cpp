@@ -132,13 +132,24 @@ private Q_SLOTS:
         pick(groups.LFilms, 1, m_menus->Supprimer);
         QCOMPARE(groups.LFilms.Count(), 0);
         QVERIFY(!groups.Scroll(0).isVisible());
+        QVERIFY(!groups.Outils(2).isVisible());
+        QCOMPARE(groups.LTDroit.Caption(), u"10 mn"_qs);
         QCOMPARE(count(u"SELECT * From Cocktails"_qs), 1);
         QCOMPARE(count(u"SELECT * From Ingre where Numero = 2"_qs), 1);
 
         Frmmain &last = opened(0);
         const Reponse agreed(u"Oui"_qs);
         pick(last.Liste, 1, m_menus->Supprimer);
-        QVERIFY(last.Liste.Count() == 0 && !last.Scroll(0).isVisible());
+        QCOMPARE(last.Liste.Count(), 0);
+        QVERIFY(!last.Scroll(0).isVisible());
+        QVERIFY(!last.LBtn(2).isVisible());
+        QCOMPARE(last.LTDroit.Caption(), QString());
+
+        // The number of the deleted recipe is the next one.
+        LivreEssai::execute(
+            {u"INSERT INTO Cocktails VALUES (3, 'Riz', 1, 1, NULL, 1, 'Laver', '', 1, 2, 1, 1)"_qs});
+        TrierListe(last, 0);
+        QCOMPARE(last.Saisie(0).Text(), u"Laver"_qs);
     }
 
     void aValueInUseStays() {
@@ -172,6 +183,7 @@ private Q_SLOTS:
         QCOMPARE(drop.dropAction(), Qt::CopyAction); // the cook's file stays where it is
         QTRY_VERIFY(frm.Photo.isVisible());
         QCOMPARE(frm.CadrePhoto.Caption(), QString());
+        QCOMPARE(frm.ImageTemp.Picture(), frm.Photo.Picture());
         QCOMPARE(LivreEssai::text(u"SELECT Numero, Photo From Cocktails where Numero = 2"_qs), photo);
 
         clickRow(frm.Liste, 2);

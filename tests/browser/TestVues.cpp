@@ -144,6 +144,24 @@ private Q_SLOTS:
         QCOMPARE(texts(frm.Liste) + frm.Saisie(0).Text(), u"Éclair, Potage, TarteServir"_qs);
     }
 
+    void aReloadForgetsTheRowOfBefore() {
+        fill();
+        Frmmain &frm = opened(1);
+        clickRow(frm.LFilms, 1);
+        TrierListe(frm, 1); // as after a creation
+        QCOMPARE(texts(frm.LFilms), u"Éclair"_qs);
+        QVERIFY(!frm.Outils(2).isVisible());
+        QCOMPARE(frm.LTDroit.Caption(), u"1 heure"_qs);
+
+        clickRow(frm.LFilms, 1);
+        LivreEssai::execute({u"DELETE From Verre"_qs});
+        QTest::mouseClick(&frm.Bouton(2), Qt::LeftButton);
+        QVERIFY(!frm.Scroll(0).isVisible());
+        QVERIFY(!frm.LBtn(2).isVisible());
+        QVERIFY(frm.Cadre(1).isVisible());
+        QCOMPARE(frm.LTDroit.Caption(), QString());
+    }
+
     void arrowsMoveTheRecipeAndTheHighlight() {
         fill();
         Frmmain &frm = opened(0);

@@ -7,6 +7,7 @@
 #include "platform/controls/ListView.h"
 #include "platform/controls/Picture.h"
 #include "platform/controls/RibbonButton.h"
+#include "platform/controls/WhenPressed.h"
 #include "platform/images/LoadPicture.h"
 
 #include <QApplication>
@@ -19,6 +20,7 @@
 #include <QTemporaryDir>
 
 #include <memory>
+#include <stdexcept>
 
 using namespace platform::controls;
 
@@ -107,24 +109,30 @@ private Q_SLOTS:
         QVERIFY_THROWS_EXCEPTION(std::out_of_range, titles(3));
     }
 
+    void ribbonIsReleasedHoweverItsActionEnds() {
+        auto &button = shown<Ribbon>();
+        whenPressed(button, [] { throw std::runtime_error("refusé"); });
+        QVERIFY_THROWS_EXCEPTION(std::runtime_error, button.SetValue(true));
+        QVERIFY(!button.Value());
+
+        auto &kept = shown<Ribbon>();
+        whenPressed(kept, [] {}, Release::ByAction);
+        kept.SetValue(true);
+        QVERIFY(kept.Value());
+    }
+
     void ribbonRaisesItsEventOnBothChanges() {
         auto &button = shown<Ribbon>();
         int pressed = 0;
-        int raised = 0;
-        connect(&button, &Ribbon::toggled, &button, [&] {
-            ++raised;
-            if (button.Value()) {
-                ++pressed;
-                button.SetValue(false);
-            }
-        });
+        whenPressed(button, [&] { ++pressed; });
+        const QSignalSpy raised(&button, &Ribbon::toggled);
         button.SetValue(true);
         QTest::mouseClick(&button, Qt::LeftButton);
         QTest::keyClick(&button, Qt::Key_Space);
         QTest::keyClick(&button, Qt::Key_Return);
         QTest::keyClick(&button, Qt::Key_Enter);
         QCOMPARE(pressed, 5);
-        QCOMPARE(raised, 10);
+        QCOMPARE(raised.count(), 10);
         QVERIFY(!button.Value());
 
         button.SetCaption(u"Sel & poivre"_qs);
@@ -178,6 +186,24 @@ private Q_SLOTS:
         QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, QPoint(5, list.viewport()->height() - 2));
         QCOMPARE(raised,
                  QStringList({u"clic 2"_qs, u"flèche 3"_qs, u"flèche 2"_qs, u"clic 1"_qs, u"droit 1"_qs}));
+    }
+
+    void oneRowOfAListStaysSelected() {
+        List &list = shownList();
+        list.Select(2);
+        const QPoint row = list.visualRect(list.model()->index(1, 0)).center();
+        const QPoint below(row.x(), list.viewport()->height() - 2);
+        for (const Qt::MouseButton button : {Qt::LeftButton, Qt::MiddleButton, Qt::RightButton}) {
+            QTest::mouseClick(list.viewport(), button, {}, below);
+            QCOMPARE(list.SelectedIndex(), 2);
+            QTest::mouseClick(list.viewport(), button, Qt::ControlModifier, row);
+            QCOMPARE(list.SelectedIndex(), 2);
+        }
+        QTest::keyClick(&list, Qt::Key_Space, Qt::ControlModifier);
+        QCOMPARE(list.SelectedIndex(), 2);
+        const QSignalSpy chosen(&list, &List::DblClick);
+        QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, below);
+        QCOMPARE(chosen.count(), 0);
     }
 
     void listKeepsItsRowsApart() {

@@ -85,7 +85,6 @@ private:
 
     void change(const QString &columns) {
         LivreEssai::execute({u"UPDATE Cocktails SET %1 WHERE Numero = 1"_qs.arg(columns)});
-        m_open->window.CleCourante.clear();
         TrierListe(m_open->window, 0);
     }
 

@@ -2,6 +2,8 @@
 #include "Reponse.h"
 
 #include "platform/settings/Conversion.h"
+#include "shell/Patch.h"
+#include "shell/Splash.h"
 
 #include <QScreen>
 
@@ -28,7 +30,7 @@ class TestFenetres : public QObject {
     Q_OBJECT
 
 private:
-    Splash &about() const { return m_test->windows->Accueil(); }
+    Splash &about() const { return m_test->windows->FenetreDe<Splash>(browser::Outil::APropos); }
 
     /// Minimises, brings the program back as the task bar does, and ends the window that came back.
     void minimiseAndReturn(Ribbon &button) const {

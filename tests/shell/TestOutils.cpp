@@ -1,10 +1,13 @@
 #include "EssaiCoque.h"
 
 #include "browser/Operations.h"
+#include "entry/Manuelle.h"
+#include "pictures/atelier/Acquisition.h"
+#include "sheets/FicheAlbum.h"
 
 #include <functional>
 
-using shell::Fenetres;
+using browser::Outil;
 
 /// How the windows that take the place of the main window are opened, minimised, brought back and closed.
 class TestOutils : public QObject {
@@ -17,11 +20,11 @@ private:
 
     /// Opens a window, does something with it and closes it.
     template <class Window, class Act>
-    void use(const std::function<void()> &open, Window &(Fenetres::*window)(), Act act) {
+    void use(const std::function<void()> &open, Outil outil, Act act) {
         const browser::Frmmain &frm = m_program->main();
         bool seen = false;
         QTimer::singleShot(0, this, [&] {
-            Window &opened = (m_program->windows.get()->*window)();
+            auto &opened = m_program->windows->FenetreDe<Window>(outil);
             seen = opened.isVisible() && !frm.isVisible();
             act(opened);
             opened.Quit.SetValue(true);
@@ -61,29 +64,39 @@ private Q_SLOTS:
     void creationAndWorkshopAreMadeAnewEachTime() {
         for (int turn = 0; turn < 2; ++turn) {
             LivreEssai::execute({u"INSERT INTO Quantite VALUES (%1, 'q')"_qs.arg(turn + 1)});
-            use(tool(0), &Fenetres::Creation, [&](entry::Manuelle &window) {
+            use<entry::Manuelle>(tool(0), Outil::CreationManuelle, [&](entry::Manuelle &window) {
                 QCOMPARE(window.Mode(), 0); // and not the one of the main window
                 QCOMPARE(window.LQte.Count(), turn + 1);
                 QCOMPARE(window.TitreRecette.Text(), QString());
                 window.TitreRecette.SetText(u"Riz"_qs);
             });
-            use(tool(3), &Fenetres::Atelier, [](pictures::atelier::Acquisition &window) {
-                QVERIFY(window.PhotoScan.Picture().isNull() && window.Btn_ScanS(0).isEnabled());
-                window.PhotoScan.SetPicture(QImage(4, 4, QImage::Format_RGB32));
-                window.AttendreUneImage();
-            });
-            QVERIFY(m_program->windows->Outils().empty());
+            use<pictures::atelier::Acquisition>(
+                tool(3), Outil::Acquisition, [](pictures::atelier::Acquisition &window) {
+                    QVERIFY(window.PhotoScan.Picture().isNull() && window.Btn_ScanS(0).isEnabled());
+                    window.PhotoScan.SetPicture(QImage(4, 4, QImage::Format_RGB32));
+                    window.AttendreUneImage();
+                });
+            QVERIFY(m_program->windows->Faites().empty());
         }
+    }
+
+    void eachToolHasItsDrawing() {
+        browser::Frmmain &frm = m_program->main();
+        for (int index = 0; index < frm.Outils.Count(); ++index) {
+            QVERIFY2(!frm.Outils(index).Picture().isNull(), qPrintable(frm.LBtn(index).Caption()));
+        }
+        QVERIFY(frm.LBtn(frm.Outils.Count()).isHidden());
     }
 
     void theSheetShowsTheRecipeOfTheList() {
         for (const auto &[row, title, lines] :
              {std::tuple(1, u"Aïoli"_qs, 1), std::tuple(2, u"Tarte"_qs, 3)}) {
             clickRow(m_program->main().Liste, row);
-            use(tool(2), &Fenetres::Fiches, [&, &title = title, &lines = lines](sheets::FicheAlbum &window) {
-                QCOMPARE(window.Recette.Caption(), title);
-                QCOMPARE(window.Qte.Count(), lines);
-            });
+            use<sheets::FicheAlbum>(tool(2), Outil::Fiches,
+                                    [&, &title = title, &lines = lines](sheets::FicheAlbum &window) {
+                                        QCOMPARE(window.Recette.Caption(), title);
+                                        QCOMPARE(window.Qte.Count(), lines);
+                                    });
         }
     }
 
@@ -94,7 +107,8 @@ private Q_SLOTS:
         QTRY_VERIFY(pop.Menu1.isVisible());
         pop.Menu1.close();
         QVERIFY(pop.Ajouter.isEnabled());
-        use([&] { pop.Ajouter.trigger(); }, &Fenetres::Creation, [](const entry::Manuelle & /*window*/) {});
+        use<entry::Manuelle>([&] { pop.Ajouter.trigger(); }, Outil::CreationManuelle,
+                             [](const entry::Manuelle & /*window*/) {});
 
         frm.Outils(2).SetTag(browser::kBas);
         browser::EnregistrerVue(5);
@@ -107,7 +121,7 @@ private Q_SLOTS:
         const std::function<void()> byMenu = [this] { Q_EMIT m_program->main().CreationDemandee(); };
         for (const auto &open : {tool(0), byMenu}) {
             m_program->windows->Pop.FenetreOuverte = browser::Pop::kSeule;
-            use(open, &Fenetres::Creation, [this](entry::Manuelle &window) {
+            use<entry::Manuelle>(open, Outil::CreationManuelle, [this](entry::Manuelle &window) {
                 window.TitreRecette.SetText(u"Riz"_qs);
                 window.Ingre(10).SetText(u"Sel"_qs);
                 window.Saisie(1).setFocus();
@@ -116,12 +130,14 @@ private Q_SLOTS:
                 QCOMPARE(window.focusWidget(), &window.Saisie(1));
             });
         }
-        use(tool(2), &Fenetres::Fiches, [this](sheets::FicheAlbum &window) { minimise(window); });
-        use(tool(3), &Fenetres::Atelier, [this](pictures::atelier::Acquisition &window) {
-            window.PhotoScan.SetPicture(QImage(4, 4, QImage::Format_RGB32));
-            minimise(window);
-            QCOMPARE(window.PhotoScan.Picture().width(), 4);
-        });
+        use<sheets::FicheAlbum>(tool(2), Outil::Fiches,
+                                [this](sheets::FicheAlbum &window) { minimise(window); });
+        use<pictures::atelier::Acquisition>(
+            tool(3), Outil::Acquisition, [this](pictures::atelier::Acquisition &window) {
+                window.PhotoScan.SetPicture(QImage(4, 4, QImage::Format_RGB32));
+                minimise(window);
+                QCOMPARE(window.PhotoScan.Picture().width(), 4);
+            });
     }
 };
 

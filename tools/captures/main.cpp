@@ -5,9 +5,13 @@
 #include "browser/Vues.h"
 #include "platform/desktop/SingleInstance.h"
 #include "platform/webview/Engine.h"
+#include "search/FrmFind.h"
+#include "sheets/FicheAlbum.h"
 #include "shell/Demarrage.h"
 #include "shell/Fenetres.h"
+#include "shell/Patch.h"
 #include "store/Programme.h"
+#include "webimport/facile/Facile.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -27,6 +31,7 @@
 namespace {
 
 using browser::Frmmain;
+using browser::Outil;
 
 /// A screen with room for a whole window; the default one of the offscreen platform would shrink it.
 constexpr auto kScreens = R"({"screens": [{"name": "captures", "x": 0, "y": 0, "width": 1600, "height": 1200,
@@ -102,16 +107,18 @@ void captureRecipes(Frmmain &frm, const QString &pictures) {
 
 /// The tool windows as they open, each alone.
 void captureTools(shell::Fenetres &fenetres, const QString &pictures) {
-    fenetres.Fiches().ChargerFiche();
-    fenetres.Recherche().Saisie.SetText(QStringLiteral("p"));
-    fenetres.Recherche().Creer.SetValue(true);
+    fenetres.FenetreDe<sheets::FicheAlbum>(Outil::Fiches).ChargerFiche();
+    auto &recherche = fenetres.FenetreDe<search::FrmFind>(Outil::Recherche);
+    recherche.Saisie.SetText(QStringLiteral("p"));
+    recherche.Creer.SetValue(true);
     shell::Patch patch(fenetres.Principale);
-    const std::array<std::pair<const char *, QWidget *>, 6> windows{{{"creation", &fenetres.Creation()},
-                                                                     {"fiche", &fenetres.Fiches()},
-                                                                     {"atelier", &fenetres.Atelier()},
-                                                                     {"recherche", &fenetres.Recherche()},
-                                                                     {"accueil", &fenetres.Accueil()},
-                                                                     {"affichage", &patch}}};
+    const std::array<std::pair<const char *, QWidget *>, 6> windows{
+        {{"creation", &fenetres.Fenetre(Outil::CreationManuelle)},
+         {"fiche", &fenetres.Fenetre(Outil::Fiches)},
+         {"atelier", &fenetres.Fenetre(Outil::Acquisition)},
+         {"recherche", &recherche},
+         {"accueil", &fenetres.Fenetre(Outil::APropos)},
+         {"affichage", &patch}}};
     for (const auto &[name, window] : windows) {
         window->show();
         QCoreApplication::processEvents();
@@ -138,7 +145,7 @@ void waitFor(Condition holds) {
 
 /// The import on a page of the demonstration site, and with the recipe that it has read there.
 void captureImport(shell::Fenetres &fenetres, const QString &pictures) {
-    webimport::facile::Facile &facile = fenetres.Import();
+    auto &facile = fenetres.FenetreDe<webimport::facile::Facile>(Outil::CreationFacile);
     facile.show();
     facile.Navigateur->navigate(
         QUrl::fromLocalFile(store::DossierProgramme() + QStringLiteral("/facile/langoustines.htm")));

@@ -150,10 +150,10 @@ void MiroirVertical(Acquisition &fenetre) {
 }
 
 void OuvrirImage(Acquisition &fenetre) {
-    const QString nom = dialogs::ShowOpen(&fenetre, QStringLiteral("Ouvrir un fichier image"),
-                                          QStringLiteral("Tous les fichiers images (*.bmp;*.jpg;*.wmf;*.ico)|"
-                                                         "*.bmp;*.jpg;*.wmf;*.ico"),
-                                          Depart(fenetre));
+    const QString motifs = platform::images::PicturePatterns();
+    const QString nom =
+        dialogs::ShowOpen(&fenetre, QStringLiteral("Ouvrir un fichier image"),
+                          u"Tous les fichiers images (" + motifs + u")|" + motifs, Depart(fenetre));
     OuvrirFichier(fenetre, nom);
 }
 

@@ -165,7 +165,7 @@ void ListBox::mouseReleaseEvent(QMouseEvent *event) {
 
 void ListBox::mouseDoubleClickEvent(QMouseEvent *event) {
     QListView::mouseDoubleClickEvent(event);
-    if (event->button() == Qt::LeftButton) {
+    if (event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid()) {
         Q_EMIT DblClick();
     }
 }
@@ -185,6 +185,13 @@ void ListBox::contextMenuEvent(QContextMenuEvent *event) {
     if (event->reason() == QContextMenuEvent::Keyboard) {
         Q_EMIT RightClicked(viewport()->mapToGlobal(visualRect(currentIndex()).center()));
     }
+}
+
+QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex &index,
+                                                              const QEvent *event) const {
+    const auto command = QListView::selectionCommand(index, event);
+    const bool empties = !index.isValid() || command.testFlag(QItemSelectionModel::Deselect);
+    return empties ? QItemSelectionModel::NoUpdate : command;
 }
 
 int ListBox::checked(int index) const {

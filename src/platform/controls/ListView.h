@@ -9,7 +9,7 @@
 namespace platform::controls {
 
 /// A list view of one column. Rows have a key, count from 1 as their Index, and can be highlighted; 0 stands
-/// for no row. Adding happens inside a Loading.
+/// for no row. The user selects another row, never none. Adding happens inside a Loading.
 class ListBox : public QListView {
     Q_OBJECT
 
@@ -83,7 +83,7 @@ public:
 Q_SIGNALS:
     /// The user clicked a row.
     void ItemClicked();
-    /// The user clicked twice into the list, on no row perhaps, or pressed Enter on the selected row.
+    /// The user clicked twice on a row, or pressed Enter on the selected row.
     void DblClick();
     /// The user chose a row by the keyboard; raised when the key is let go.
     void ArrowReleased();
@@ -102,6 +102,8 @@ protected:
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
+                                                         const QEvent *event) const override;
 
 private:
     int checked(int index) const;

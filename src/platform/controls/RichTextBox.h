@@ -38,8 +38,6 @@ public:
     /// Colour of the selection, or of what is typed next where nothing is selected.
     void SetSelColor(const QColor &colour);
 
-    bool SelBold() const { return textCursor().charFormat().fontWeight() >= QFont::Bold; }
-
     void SetSelBold(bool bold);
 
 Q_SIGNALS:

@@ -2,7 +2,6 @@
 
 #include "RibbonButton.h"
 
-#include <QPointer>
 #include <QScopeGuard>
 
 namespace platform::controls {
@@ -10,12 +9,7 @@ namespace platform::controls {
 namespace {
 
 void runAndRelease(RibbonButton &button, const std::function<void()> &action) {
-    // The action may close the window that the button stands in.
-    const auto release = qScopeGuard([pressed = QPointer<RibbonButton>(&button)] {
-        if (pressed) {
-            pressed->SetValue(false);
-        }
-    });
+    const auto release = qScopeGuard([&button] { button.SetValue(false); });
     action();
 }
 

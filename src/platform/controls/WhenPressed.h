@@ -12,7 +12,7 @@ enum class Release {
     ByAction,    ///< the action alone: without that the button stays down
 };
 
-/// Runs an action at each press of a button.
+/// Runs an action, which must not destroy the button, at each press of it.
 void whenPressed(RibbonButton &button, const std::function<void()> &action,
                  Release release = Release::AfterAction);
 

@@ -14,10 +14,10 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// Endings of the picture files that LoadPicture reads wherever the program runs, in the order of the alphabet. Plugins
-/// of the toolkit may add others.
-inline constexpr std::array<QStringView, 7> kPictureEndings{u"bmp", u"gif", u"ico", u"jpeg",
-                                                            u"jpg", u"png", u"wmf"};
+/// Endings of the picture files that LoadPicture reads wherever the program runs. Plugins of the toolkit may
+/// add others.
+inline constexpr std::array<QStringView, 7> kPictureEndings{u"bmp", u"jpg", u"jpeg", u"png",
+                                                            u"gif", u"wmf", u"ico"};
 
 /// Those endings as the patterns of a file dialog: "*.bmp;*.gif" and so on.
 QString PicturePatterns();

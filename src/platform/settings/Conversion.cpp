@@ -22,22 +22,14 @@ double toDouble(const QString &text) {
     return number;
 }
 
-template <class Number>
-Number inRange(double number) {
-    if (number < std::numeric_limits<Number>::lowest() || number > std::numeric_limits<Number>::max()) {
-        throw ConversionError(kOverflow);
-    }
-    return static_cast<Number>(number);
-}
-
 } // namespace
 
 qint16 ToInteger(const QString &text) {
-    return inRange<qint16>(std::nearbyint(toDouble(text)));
-}
-
-qint32 ToLong(const QString &text) {
-    return inRange<qint32>(std::nearbyint(toDouble(text)));
+    const double number = std::nearbyint(toDouble(text));
+    if (number < std::numeric_limits<qint16>::lowest() || number > std::numeric_limits<qint16>::max()) {
+        throw ConversionError(kOverflow);
+    }
+    return static_cast<qint16>(number);
 }
 
 float ToSingle(const QString &text) {

@@ -16,9 +16,6 @@ public:
 /// range.
 qint16 ToInteger(const QString &text);
 
-/// As ToInteger, for 32 bits.
-qint32 ToLong(const QString &text);
-
 /// As ToInteger, for a 32-bit float, not rounded.
 float ToSingle(const QString &text);
 
