@@ -148,6 +148,7 @@ void AjouterValeur(Frmmain &frm, const Creation &creation) {
 }
 
 void MontrerChoix(Frmmain &frm) {
+    frm.LecteurPhoto.Oublier();
     frm.ImageTemp.SetPicture(frm.Photo.Picture());
     frm.CadrePhoto.SetCaption({});
 }
@@ -204,6 +205,7 @@ void SupprimerPhoto(Frmmain &frm) {
         return;
     }
     store::ModifierSiRenseigne(frm.Volet.Numero(), store::ChampRecette::Photo, QStringLiteral(" "));
+    frm.LecteurPhoto.Oublier();
     frm.Photo.SetPicture({});
     frm.CadrePhoto.SetCaption(QStringLiteral("Pas de photo"));
 }

@@ -116,7 +116,7 @@ private Q_SLOTS:
             {u"Le Poulet"_qs, u"Poulet (Le)"_qs, u"Le Poulet.jpg"_qs},
             {u"le  poulet "_qs, u"poulet (Le)"_qs, u"le  poulet.jpg"_qs},
             {u"Le "_qs, u" (Le)"_qs, u"Le.jpg"_qs},
-            {u"Le"_qs, u"Le"_qs, u"Le.jpg"_qs},
+            {u"Le"_qs, u"Le"_qs, u"Le (2).jpg"_qs},
             {u" Le riz"_qs, u" Le riz"_qs, u"Le riz.jpg"_qs},
             {u"Les La L'"_qs, u"Les La L'"_qs, u"Les La L'.jpg"_qs},
             {u"\"Le\" \"riz\""_qs, u"riz (Le)"_qs, u"Le riz (2).jpg"_qs},
