@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtGlobal>
+#include <limits>
 
 class QColor;
 class QMimeData;
@@ -19,6 +20,7 @@ bool holdsText(const QMimeData &data);
 /// line breaks, and colours that can be read on the ground of the box; all the rest is left to the document.
 /// Plain text takes the format of the cursor. Data without text changes nothing. Reads no file and no network. Returns
 /// false, and changes nothing, for more than `longest` characters.
-bool paste(QTextCursor &cursor, const QMimeData &data, const QColor &ground, qsizetype longest);
+bool paste(QTextCursor &cursor, const QMimeData &data, const QColor &ground,
+           qsizetype longest = std::numeric_limits<qsizetype>::max());
 
 } // namespace platform::richtext
