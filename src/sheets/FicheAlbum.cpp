@@ -131,7 +131,7 @@ FicheAlbum::FicheAlbum(browser::Frmmain &frm)
       Deco(Scroll(0).Content(), rowNamed(kControles, "Deco")),
       m_frm(frm) {
     SetHeading(QStringLiteral("Fiche Recette"));
-    Quit.setToolTip(QStringLiteral("Revenir au menu principal"));
+    NameQuit(QStringLiteral("Revenir au menu principal"));
     Peindre();
     Brancher();
     Navi(1).setFocus();
@@ -275,6 +275,7 @@ void FicheAlbum::Empiler() {
 }
 
 void FicheAlbum::MontrerPhoto() {
+    m_frm.LecteurPhoto.Attendre();
     const QImage &image = m_frm.Photo.Picture();
     CadrePhoto.SetCaption(m_frm.CadrePhoto.Caption());
     Photo.setVisible(!image.isNull());
