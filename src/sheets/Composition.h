@@ -12,7 +12,7 @@ namespace sheets {
 /// A rectangle of the printed page, in device pixels from the corner of the printable area. Right and bottom are
 /// edges, not last pixels.
 struct Rect {
-    qint32 left, top, right, bottom;
+    qint32 left = 0, top = 0, right = 0, bottom = 0;
 
     friend bool operator==(const Rect &, const Rect &) = default;
 };
@@ -59,9 +59,9 @@ struct Metrique {
 
 /// A text of the page and its rectangle; the index counts labels, Data or ingredient rows.
 struct Bloc {
-    Champ champ;
-    int index;
-    Rect rect;
+    Champ champ = Champ::Recette;
+    int index = 0;
+    Rect rect{};
     Morceau morceau{};  ///< of Prepa and Deco
     bool suite = false; ///< a label above what began on a page before
 };
@@ -70,7 +70,7 @@ struct Bloc {
 /// empty where there is none.
 struct Page {
     std::vector<Bloc> blocs;
-    Rect photo;
+    Rect photo{};
 };
 
 /// Lays the sheet out. One factor takes the window's width to the printable one; distances that the factor does not

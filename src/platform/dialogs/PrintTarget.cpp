@@ -189,9 +189,8 @@ QString PrintTarget::Print(QWidget *parent, const QString &title, const Pages &p
         printPages(title, pages);
         return {};
     }
-    const QString path =
-        ShowSave(parent, QStringLiteral("Imprimer dans un fichier PDF"), QStringLiteral("Fichiers PDF|*.pdf"),
-                 proposedFile(title), QStringLiteral("pdf"));
+    QString path = ShowSave(parent, QStringLiteral("Imprimer dans un fichier PDF"),
+                            QStringLiteral("Fichiers PDF|*.pdf"), proposedFile(title), QStringLiteral("pdf"));
     if (!path.isEmpty()) {
         writePdf(path, title, pages);
         m_folder = QFileInfo(path).absolutePath();
