@@ -4,6 +4,7 @@
 #include "Fenetres.h"
 #include "FinDuProgramme.h"
 #include "Modes.h"
+#include "Patch.h"
 #include "Reduction.h"
 #include "Sauvegarde.h"
 
