@@ -122,7 +122,8 @@ void measureCreation(const GeneratedBook &book, Report &report) {
     const Times save = alternate(
         [&] {
             store::RecetteSaisie recipe = newRecipe(++oursTurn);
-            store::EnregistrerRecette(recipe, store::kSaisieManuelle, [](const QString & /*name*/) {});
+            store::EnregistrerRecette(recipe, store::kSaisieManuelle,
+                                      [](const QString &name) { return name; });
         },
         [&] { saveBare(bare, newRecipe(++bareTurn)); }, kTurns);
     report.add({QStringLiteral("recipe of 11 new lines saved"), book.name(), save.ours, save.bare,

@@ -40,8 +40,8 @@ QString pageOfSize(const QString &recipe, qsizetype size) {
 void analyse(const QString &captured) {
     const webimport::PageCapturee page{
         webimport::TexteDuFichier(webimport::EnregistrementDuTexte(captured)),
-        QStringLiteral("http://www.margaux.example/r.asp?id=1&groupid=18"),
-        {QStringLiteral("http://www.margaux.example"), QStringLiteral("margaux.example")}};
+        QStringLiteral("http://www.latablededemain.example/r.asp?id=1&groupid=18"),
+        {QStringLiteral("http://www.latablededemain.example"), QStringLiteral("latablededemain.example")}};
     if (webimport::EstPageDebutFin(captured)) {
         webimport::MemoireImport memory;
         webimport::ExtrairePageDebutFin(page, memory);

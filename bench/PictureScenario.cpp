@@ -43,7 +43,7 @@ void measureTurn(Report &report) {
     Surface source;
     source.setPicture(picture);
     Surface destination;
-    const pictures::SuiviRotation nobody{[](double) {}, [] {}};
+    const pictures::SuiviRotation nobody{[](double) {}, [] { return true; }};
     volatile long long result = 0;
     const Times times =
         alternate([&] { pictures::TournerUnQuart(source, destination, pictures::kQuartGauche, nobody); },

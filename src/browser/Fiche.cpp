@@ -70,30 +70,35 @@ void AfficherValeur(Frmmain &frm, Database &base, Recordset &recette, const Vale
     }
 }
 
-/// The picture in a file; a null one where the file holds none that can be shown, so that the recipe still
-/// opens.
-QImage PhotoLisible(const QString &chemin) {
-    try {
-        return chemin.isEmpty() ? QImage() : platform::images::LoadPicture(chemin);
-    } catch (const platform::images::PictureError &) {
-        return {};
-    }
+/// The frame without a picture, and what it says.
+void MontrerCadreVide(Frmmain &frm, const QString &texte) {
+    frm.Photo.hide();
+    frm.Photo.SetPicture({});
+    frm.CadrePhoto.SetCaption(texte);
+    frm.CadrePhoto.SetTag({});
 }
 
-void AfficherPhoto(Frmmain &frm, const QString &valeur) {
-    const QString chemin = pictures::CheminPhoto(valeur);
-    const QImage photo = PhotoLisible(chemin);
+/// A null picture is one that cannot be shown; the recipe opens without it.
+void MontrerPhoto(Frmmain &frm, const QString &chemin, const QImage &photo) {
     if (photo.isNull()) {
-        frm.Photo.hide();
-        frm.Photo.SetPicture({});
-        frm.CadrePhoto.SetCaption(QStringLiteral("Pas de photo"));
-        frm.CadrePhoto.SetTag({});
+        MontrerCadreVide(frm, QStringLiteral("Pas de photo"));
         return;
     }
     frm.CadrePhoto.SetCaption({});
     frm.CadrePhoto.SetTag(chemin);
     frm.ImageTemp.SetPicture(photo);
     pictures::MontrerPhoto({frm.CadrePhoto.Width(), frm.CadrePhoto.Height()}, frm.Photo, photo);
+}
+
+void AfficherPhoto(Frmmain &frm, const QString &valeur) {
+    frm.LecteurPhoto.Oublier();
+    const QString chemin = pictures::CheminPhoto(valeur);
+    if (chemin.isEmpty()) {
+        MontrerPhoto(frm, {}, {});
+    } else if (!frm.LecteurPhoto.Lire(
+                   chemin, [&frm, chemin](const QImage &photo) { MontrerPhoto(frm, chemin, photo); })) {
+        MontrerCadreVide(frm, QStringLiteral("Lecture de la photo ..."));
+    }
 }
 
 void AfficherTexte(RichTextBox &saisie, const QString &texte) {
@@ -104,7 +109,7 @@ void AfficherTexte(RichTextBox &saisie, const QString &texte) {
 void AfficherComplements(Frmmain &frm, const QString &texte) {
     RichTextBox &saisie = frm.Saisie(kComplements.saisie);
     AfficherTexte(saisie, texte);
-    if (store::SansBlancs(saisie.Text()).isEmpty()) {
+    if (store::SansBlancs(saisie.toPlainText()).isEmpty()) {
         // What the cook types into empty remarks comes out white. It is no change of the recipe.
         const QSignalBlocker silence(&saisie);
         saisie.Select(0, 1);

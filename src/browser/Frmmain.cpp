@@ -66,13 +66,13 @@ constexpr std::array kControles{
     ControlRow{"Libelle(4)", 150, 0, 3600, 270, u"Compléments"},
     ControlRow{"Libelle(5)", 3955, 0, 3655, 270, u"Durée Réalisation"},
     ControlRow{"Libelle(7)", 150, 0, 3505, 270, u"Durée Cuisson"},
-    ControlRow{"Libelle(8)", 150, 0, 1600, 270, u"Coût"},
-    ControlRow{"Libelle(9)", 2055, 0, 1600, 270, u"Difficulté"},
+    ControlRow{"Libelle(8)", 150, 0, 1700, 270, u"Coût"},
+    ControlRow{"Libelle(9)", 1955, 0, 1700, 270, u"Difficulté"},
     ControlRow{"Libelle(10)", 3955, 0, 3655, 270, u"Conseil Vin"},
     ControlRow{"Data(0)", 150, 0, 3505, 345, u"", u"", u"Nombre de Personnes"},
     ControlRow{"Data(1)", 3955, 0, 3655, 345, u"", u"", u"Type de Plat"},
-    ControlRow{"Data(2)", 150, 0, 1600, 345, u"", u"", u"Coût"},
-    ControlRow{"Data(3)", 2055, 0, 1600, 345, u"", u"", u"Difficulté"},
+    ControlRow{"Data(2)", 150, 0, 1700, 345, u"", u"", u"Coût"},
+    ControlRow{"Data(3)", 1955, 0, 1700, 345, u"", u"", u"Difficulté"},
     ControlRow{"Data(4)", 3955, 0, 3655, 345, u"", u"", u"Conseil Vin"},
     ControlRow{"Data(5)", 3955, 0, 3655, 345, u"", u"", u"Durée Réalisation"},
     ControlRow{"Data(6)", 150, 0, 3505, 345, u"", u"", u"Durée Cuisson"},
@@ -85,8 +85,8 @@ constexpr std::array kControles{
     ControlRow{"LDureeReal", 3955, 0, 3655, 345, u"", u"", u"Durée Réalisation"},
     ControlRow{"LVerre", 150, 0, 3505, 345, u"", u"", u"Nombre de Personnes"},
     ControlRow{"LMateriel", 3955, 0, 3655, 345, u"", u"", u"Type de Plat"},
-    ControlRow{"LCout", 150, 0, 1600, 345, u"", u"", u"Coût"},
-    ControlRow{"LDiff", 2055, 0, 1600, 345, u"", u"", u"Difficulté"},
+    ControlRow{"LCout", 150, 0, 1700, 345, u"", u"", u"Coût"},
+    ControlRow{"LDiff", 1955, 0, 1700, 345, u"", u"", u"Difficulté"},
     ControlRow{"LTeneur", 3955, 0, 3655, 345, u"", u"", u"Conseil Vin"},
     ControlRow{"LQuantite", 150, 0, 1200, 345, u"", u"", u"Quantité"},
     ControlRow{"LMesure", 1545, 0, 2100, 345, u"", u"", u"Mesure"},
@@ -317,6 +317,11 @@ void Frmmain::PreparerListes() {
         liste->SetColumn(QStringLiteral("Titre"), liste->Width() - Twips(300));
         liste->SetImageList(m_img);
     }
+    Liste.SetEmptyText(
+        QStringLiteral("Cette liste est vide.\n« Création manuelle » et « Création facile », en haut, "
+                       "ajoutent une recette au livre."));
+    LFilms.SetEmptyText(
+        QStringLiteral("Aucune recette dans ce groupe.\nUn clic sur un autre groupe montre les siennes."));
 }
 
 void Frmmain::RemplirVocabulaires() {
@@ -383,7 +388,7 @@ void Frmmain::BrancherFiche() {
         connect(panneau, &ScrollPanel::Clicked, this, [this] { CacherListeModif(*this); });
     }
     connect(&CadrePhoto, &Panel::Clicked, this, [this] { ClicCadrePhoto(*this); });
-    auto *depot = new FileDrop(CadrePhoto);
+    auto *depot = new FileDrop(*Scroll(0).Content());
     connect(
         depot, &FileDrop::Dropped, this, [this](const QString &fichier) { DeposerPhoto(*this, fichier); },
         Qt::QueuedConnection);

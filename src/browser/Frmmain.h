@@ -2,6 +2,7 @@
 
 #include "Volet.h"
 
+#include "pictures/LecteurPhoto.h"
 #include "platform/controls/ControlArray.h"
 #include "platform/controls/DropList.h"
 #include "platform/controls/Labels.h"
@@ -78,6 +79,8 @@ public:
     Image Photo;
     /// Hidden; the photo last shown in any window, in its natural size.
     Image ImageTemp;
+    /// Reads Photo's picture.
+    pictures::LecteurPhoto LecteurPhoto;
     Array<Label> Libelle;
     Array<Ribbon> Data;
     Array<Ribbon> Quantite, Mesure, Ingre;

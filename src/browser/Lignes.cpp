@@ -70,13 +70,13 @@ void OuvrirLigne(Frmmain &frm, const ColonneDeLigne &colonne, int i) {
     frm.Scroll(0).update();
     CacherListeModif(frm);
     DropList &liste = frm.*colonne.liste;
-    const Ribbon &bouton = (frm.*colonne.boutons)(i);
+    Ribbon &bouton = (frm.*colonne.boutons)(i);
     liste.SetText(bouton.Caption());
     liste.SetLeft(bouton.Left());
     liste.SetTop(bouton.Top());
     liste.SetWidth(bouton.Width());
     liste.SetTag(QString::number(i));
-    liste.Open();
+    liste.Open(&bouton);
 }
 
 void ChoisirLigne(Frmmain &frm, const ColonneDeLigne &colonne) {

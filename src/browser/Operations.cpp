@@ -151,6 +151,7 @@ void AjouterValeur(Frmmain &frm, const Creation &creation) {
 }
 
 void MontrerChoix(Frmmain &frm) {
+    frm.LecteurPhoto.Oublier();
     frm.ImageTemp.SetPicture(frm.Photo.Picture());
     frm.CadrePhoto.SetCaption({});
 }
@@ -208,6 +209,7 @@ void SupprimerPhoto(Frmmain &frm) {
     }
     QVariant aucune = QStringLiteral(" ");
     store::ModifierSiRenseigne(aucune, kTableRecettes, frm.Volet.Numero(), kPositionPhoto);
+    frm.LecteurPhoto.Oublier();
     frm.Photo.SetPicture({});
     frm.CadrePhoto.SetCaption(QStringLiteral("Pas de photo"));
 }

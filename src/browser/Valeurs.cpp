@@ -85,7 +85,7 @@ void OuvrirValeur(Frmmain &frm, const Valeur &valeur) {
     frm.Scroll(0).update();
     CacherListeModif(frm);
     DropList &liste = valeur.Liste(frm);
-    const Ribbon &bouton = valeur.Bouton(frm);
+    Ribbon &bouton = valeur.Bouton(frm);
     const bool aOuverture = valeur.texte != Texte::AAffichage;
     if (aOuverture && liste.Count() > 0) {
         liste.SetText(bouton.Caption());
@@ -95,7 +95,7 @@ void OuvrirValeur(Frmmain &frm, const Valeur &valeur) {
         liste.SetLeft(bouton.Left());
     }
     liste.SetTop(bouton.Top());
-    liste.Open();
+    liste.Open(&bouton);
 }
 
 /// After a failure the text stays in the box, and its next change tries again.

@@ -19,7 +19,7 @@ void CreerRecette(Manuelle &fenetre) {
     store::RecetteSaisie saisie = LireChamps(fenetre);
     const store::TextesNouveaux nouveaux =
         store::EnregistrerRecette(saisie, store::kSaisieManuelle, [&fenetre](const QString &nom) {
-            pictures::EnregistrerPhoto(fenetre.Photo.Picture(), nom);
+            return pictures::EnregistrerPhoto(fenetre.Photo.Picture(), nom);
         });
     fenetre.TitreRecette.SetText(saisie.titre);
     fenetre.DReal.SetText(saisie.dureeReal);

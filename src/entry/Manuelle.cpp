@@ -5,7 +5,7 @@
 
 #include "browser/Frmmain.h"
 #include "browser/Vues.h"
-#include "pictures/ChoisirImage.h"
+#include "platform/controls/FileDrop.h"
 #include "platform/controls/Fonts.h"
 #include "platform/controls/WhenPressed.h"
 
@@ -159,8 +159,7 @@ void Manuelle::Peindre() {
     }
     Creer.SetLook(Look::Command);
     Creer.setFont(interfaceFont(Face::Verdana, 10, true));
-    Quit.setToolTip(QStringLiteral("Revenir au menu principal"));
-    Quit.setAccessibleName(Quit.toolTip());
+    NameQuit(QStringLiteral("Revenir au menu principal"));
 }
 
 std::vector<Manuelle::DropList *> Manuelle::Listes() {
@@ -186,13 +185,26 @@ void Manuelle::Brancher() {
     connect(&Scroll, &ScrollPanel::Clicked, this, [this] { CacherListes(*this); });
     connect(&Photo, &Image::Pressed, this, [this] { CacherListesDesLignes(*this); });
     connect(&CadrePhoto, &Panel::Clicked, this, &Manuelle::ChoisirPhoto);
+    const auto *depot = new FileDrop(*Scroll.Content());
+    connect(depot, &FileDrop::Dropped, this, &Manuelle::DeposerPhoto, Qt::QueuedConnection);
     whenPressed(Creer, [this] { PresserCreer(*this); });
     connect(this, &SkinnedWindow::CloseRequested, this, &Manuelle::Quitter);
 }
 
+pictures::CadreImage Manuelle::CadreDeLaPhoto() {
+    return {*this, {CadrePhoto.Width(), CadrePhoto.Height()}, Photo};
+}
+
 void Manuelle::ChoisirPhoto() {
-    const pictures::CadreImage cadre{*this, {CadrePhoto.Width(), CadrePhoto.Height()}, Photo};
-    if (pictures::ChoisirImage(cadre, Principale.DossierImages) == pictures::Choix::Faite) {
+    Poser(pictures::ChoisirImage(CadreDeLaPhoto(), Principale.DossierImages));
+}
+
+void Manuelle::DeposerPhoto(const QString &fichier) {
+    Poser(pictures::PoserImage(CadreDeLaPhoto(), fichier));
+}
+
+void Manuelle::Poser(pictures::Choix choix) {
+    if (choix == pictures::Choix::Faite) {
         Principale.ImageTemp.SetPicture(Photo.Picture());
     }
     LegenderPhoto();

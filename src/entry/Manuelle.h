@@ -1,5 +1,6 @@
 #pragma once
 
+#include "pictures/ChoisirImage.h"
 #include "platform/controls/ControlArray.h"
 #include "platform/controls/DropList.h"
 #include "platform/controls/Labels.h"
@@ -77,7 +78,10 @@ private:
     void ChargerLignes();
     void Peindre();
     void Brancher();
+    pictures::CadreImage CadreDeLaPhoto();
     void ChoisirPhoto();
+    void DeposerPhoto(const QString &fichier);
+    void Poser(pictures::Choix choix);
     void Quitter();
     std::vector<QWidget *> Ordre();
 };

@@ -2,6 +2,7 @@
 
 #include "store/Programme.h"
 
+#include <QFileInfo>
 #include <QImageWriter>
 #include <QPainter>
 #include <QTemporaryFile>
@@ -30,9 +31,23 @@ bool EstNomDeFichier(const QString &nom) {
     return !nom.contains(u'/') && !nom.contains(u'\\') && !nom.contains(QChar::Null);
 }
 
+bool Existe(const QString &chemin) {
+    const QFileInfo fichier(chemin);
+    return fichier.exists() || fichier.isSymLink(); // a link that leads nowhere does not exist
+}
+
+QString NomLibre(const QString &dossier, const QString &nom) {
+    const QFileInfo morceaux(nom);
+    QString libre = nom;
+    for (int n = 2; Existe(dossier + libre); ++n) {
+        libre = QStringLiteral("%1 (%2).%3").arg(morceaux.completeBaseName()).arg(n).arg(morceaux.suffix());
+    }
+    return libre;
+}
+
 } // namespace
 
-void EnregistrerPhoto(const QImage &image, const QString &nom) {
+QString EnregistrerPhoto(const QImage &image, const QString &nom) {
     if (image.isNull() || !EstNomDeFichier(nom)) {
         throw PhotoError(nom + QStringLiteral(" : cette photo ne peut pas être enregistrée."));
     }
@@ -51,13 +66,15 @@ void EnregistrerPhoto(const QImage &image, const QString &nom) {
         throw PhotoError(nom + QStringLiteral(" : ") + brouillon.errorString());
     }
     brouillon.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+    QString libre = NomLibre(dossier, nom);
     std::error_code echec;
-    std::filesystem::rename(brouillon.fileName().toStdU16String(), QString(dossier + nom).toStdU16String(),
+    std::filesystem::rename(brouillon.fileName().toStdU16String(), QString(dossier + libre).toStdU16String(),
                             echec);
     if (echec) {
         throw PhotoError(nom + QStringLiteral(" : ") + QString::fromLocal8Bit(echec.message().c_str()));
     }
     brouillon.setAutoRemove(false);
+    return libre;
 }
 
 } // namespace pictures

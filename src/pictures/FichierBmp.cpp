@@ -23,6 +23,9 @@ namespace {
 } // namespace
 
 void EcrireBmp(const Surface &surface, const QString &chemin) {
+    if (surface.picture().isNull()) {
+        Refuser(chemin, QStringLiteral("il n'y a pas d'image"));
+    }
     // Renamed over a device or a pipe, the new file would take its place.
     if (const QFileInfo ancien(chemin); ancien.exists() && !ancien.isFile()) {
         Refuser(chemin, QStringLiteral("ce n'est pas un fichier"));

@@ -8,7 +8,7 @@ namespace pictures {
 
 /// Writes the surface as a bitmap file (BMP, 24 bits), whatever the ending of the name. A file that was there
 /// stays as it was when writing fails.
-/// @throws platform::images::PictureError when the file cannot be written
+/// @throws platform::images::PictureError for a surface without a picture and a file that cannot be written
 void EcrireBmp(const platform::surface::Surface &surface, const QString &chemin);
 
 /// Path of the file through which a drawn bitmap becomes a picture again.

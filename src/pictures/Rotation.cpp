@@ -105,7 +105,7 @@ void TournerUnPas(const Memoire<const QRgb> &source, const Memoire<QRgb> &destin
 
 } // namespace
 
-void Rotation(const Surface &source, Surface &destination, float angle, const SuiviRotation &suivi) {
+bool Rotation(const Surface &source, Surface &destination, float angle, const SuiviRotation &suivi) {
     const Centres centres{Centre(source), Centre(destination)};
     const int dernier = std::max(centres.destination.x, centres.destination.y) - 1;
     const Tour tour(angle);
@@ -118,13 +118,16 @@ void Rotation(const Surface &source, Surface &destination, float angle, const Su
         const Memoire<const QRgb> lue{source.points(), source.width(), source.height()};
         const Memoire<QRgb> ecrite{destination.points(), destination.width(), destination.height()};
         TournerUnPas(lue, ecrite, centres, i, dernier, tour);
-        suivi.finDePas();
+        if (!suivi.finDePas()) {
+            return false;
+        }
     }
+    return true;
 }
 
-void TournerUnQuart(const Surface &source, Surface &destination, float angle, const SuiviRotation &suivi) {
+bool TournerUnQuart(const Surface &source, Surface &destination, float angle, const SuiviRotation &suivi) {
     destination.clear(source.height(), source.width());
-    Rotation(source, destination, angle, suivi);
+    return Rotation(source, destination, angle, suivi);
 }
 
 } // namespace pictures

@@ -81,8 +81,7 @@ FrmFind::FrmFind(browser::Frmmain &frm)
 
 void FrmFind::Peindre() {
     SetStrips({kCriteres});
-    Quit.setToolTip(QStringLiteral("Revenir au menu principal"));
-    Quit.setAccessibleName(Quit.toolTip());
+    NameQuit(QStringLiteral("Revenir au menu principal"));
     const auto peindre = [](auto &controle) {
         controle.setFont(interfaceFont(Face::Verdana, 8.25));
         controle.SetForeColor(kInk);
@@ -113,6 +112,9 @@ void FrmFind::PreparerListes(const browser::Frmmain &frm) {
     Liste.SetBackColor(kListGround);
     Liste.SetImageList(frm.Img());
     Liste.SetColumn(QStringLiteral("Titre"), Liste.Width() - Twips(200));
+    Liste.SetEmptyText(
+        QStringLiteral("Les résultats se montrent ici.\nChoisir à gauche ce qui est cherché, puis "
+                       "appuyer sur « Rechercher »."));
 }
 
 void FrmFind::Brancher(browser::Frmmain &frm) {

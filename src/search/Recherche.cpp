@@ -63,6 +63,9 @@ QString Requete(const FrmFind &fenetre) {
 void AnnoncerNombre(FrmFind &fenetre) {
     const int nombre = fenetre.Liste.Count();
     const QString chiffre = nombre == 0 ? QStringLiteral("Aucun") : QLocale(QLocale::French).toString(nombre);
+    fenetre.Liste.SetEmptyText(
+        QStringLiteral("Aucun résultat.\nEssayer un texte plus court, « contient », ou moins "
+                       "de critères."));
     fenetre.LNombre.SetCaption(chiffre + (nombre > 1 ? u" résultats" : u" résultat"));
     fenetre.LSuite.SetCaption(nombre == 0 ? QString()
                                           : QStringLiteral("Double-clic ou Entrée : montrer dans le livre"));

@@ -36,6 +36,7 @@ constexpr std::array kControles{
     ControlRow{"Navi(1)", 1720, 150, 1575, 705, u"   Suivant"},
     ControlRow{"Navi(3)", 3360, 150, 1815, 705, u"  Imprimer  ", u"Imprimer la recette"},
     ControlRow{"Navi(2)", 13080, 120, 1815, 705, u" Configurer  ", u"Configurer l'imprimante"},
+    ControlRow{"Avis", 5400, 330, 7500, 345},
     ControlRow{"Scroll(0)", 230, 1680, 14900, 7430, u"", u"", u"Fiche"},
 
     ControlRow{"Recette", 240, 165, 14175, 435},
@@ -113,6 +114,7 @@ FicheAlbum::FicheAlbum(browser::Frmmain &frm)
     : ToolWindow(QStringLiteral("FicheAlbum"), kTaille),
       CadreBouton(this, rowNamed(kControles, "CadreBouton")),
       Navi(&CadreBouton, kControles, "Navi"),
+      Avis(&CadreBouton, rowNamed(kControles, "Avis")),
       Scroll(this, kControles, "Scroll"),
       Recette(Scroll(0).Content(), rowNamed(kControles, "Recette")),
       CadrePhoto(Scroll(0).Content(), rowNamed(kControles, "CadrePhoto")),
@@ -129,7 +131,7 @@ FicheAlbum::FicheAlbum(browser::Frmmain &frm)
       Deco(Scroll(0).Content(), rowNamed(kControles, "Deco")),
       m_frm(frm) {
     SetHeading(QStringLiteral("Fiche Recette"));
-    Quit.setToolTip(QStringLiteral("Revenir au menu principal"));
+    NameQuit(QStringLiteral("Revenir au menu principal"));
     Peindre();
     Brancher();
     Navi(1).setFocus();
@@ -144,6 +146,8 @@ void FicheAlbum::Peindre() {
         bouton.setFont(interfaceFont(Face::Verdana, kPointsLibelle));
         bouton.SetForeColor(kInk);
     }
+    Avis.setFont(interfaceFont(Face::Verdana, kPointsValeur));
+    Avis.SetForeColor(Qt::white);
     Scroll(0).SetBackColor(kPapier);
     Recette.SetForeColor(kInk);
     Recette.SetBackColor(kPaleGround);
@@ -173,7 +177,7 @@ void FicheAlbum::Brancher() {
     const std::array<std::function<void()>, 4> actions{
         [this] { Naviguer(-1); },
         [this] { Naviguer(1); },
-        [this] { m_imprimante.ShowPrinter(this, Recette.Caption()); },
+        [this] { m_imprimante.ShowPrinter(this); },
         [this] { ImprimerFiche(); },
     };
     for (int index = 0; index < Navi.Count(); ++index) {
@@ -192,6 +196,7 @@ void FicheAlbum::ChargerFiche() {
     RemplirFiche();
     MontrerPhoto();
     OuvrirAuxBouts(choisie, liste.Count());
+    Annoncer({});
 }
 
 /// Closes the way past the ends of the list. A button held down lets go there, and the focus goes to the other one, not
@@ -270,6 +275,7 @@ void FicheAlbum::Empiler() {
 }
 
 void FicheAlbum::MontrerPhoto() {
+    m_frm.LecteurPhoto.Attendre();
     const QImage &image = m_frm.Photo.Picture();
     CadrePhoto.SetCaption(m_frm.CadrePhoto.Caption());
     Photo.setVisible(!image.isNull());
@@ -287,15 +293,25 @@ void FicheAlbum::Naviguer(int pas) {
 }
 
 void FicheAlbum::ImprimerFiche() {
+    Annoncer({});
     try {
-        m_imprimante.Print(this, Recette.Caption(), [this](QPainter &feuille) {
-            const WaitPointer sablier;
-            Imprimer(*this, feuille);
-        });
+        const QString fichier =
+            m_imprimante.Print(this, Recette.Caption(), [this](QPainter &feuille, QPagedPaintDevice &papier) {
+                const WaitPointer sablier;
+                Imprimer(*this, feuille, papier);
+            });
+        Annoncer(fichier.isEmpty() ? QString() : QStringLiteral("Imprimé dans ") + fichier);
     } catch (const platform::dialogs::PrintError &echec) {
         platform::dialogs::Message(this, store::TitreProgramme.toString(), QString::fromUtf8(echec.what()),
                                    platform::dialogs::Icon::Exclamation);
     }
+}
+
+/// Shows a notice until the next recipe; of one that is too long its two ends.
+void FicheAlbum::Annoncer(const QString &avis) {
+    Avis.SetCaption(QFontMetrics(Avis.font()).elidedText(avis, Qt::ElideMiddle, Avis.width()));
+    Avis.setToolTip(avis);
+    Avis.setAccessibleName(avis);
 }
 
 } // namespace sheets

@@ -40,6 +40,7 @@ public:
 
     Panel CadreBouton;
     Array<Ribbon> Navi;
+    Label Avis;
     Array<ScrollPanel> Scroll;
 
     // The page, in Scroll(0).
@@ -66,6 +67,7 @@ private:
     void OuvrirAuxBouts(int index, int nombre);
     void Naviguer(int pas);
     void ImprimerFiche();
+    void Annoncer(const QString &avis);
 
     browser::Frmmain &m_frm;
     platform::dialogs::PrintTarget m_imprimante;

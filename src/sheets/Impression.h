@@ -1,5 +1,6 @@
 #pragma once
 
+class QPagedPaintDevice;
 class QPainter;
 
 namespace sheets {
@@ -10,8 +11,8 @@ struct Mesures;
 /// The places and sizes of the sheet as it stands.
 Mesures MesuresDe(const FicheAlbum &fiche);
 
-/// Prints the sheet on the painter's device, on one page. A text that does not fit into its place is set smaller, down to
-/// kPointsMin, and runs on below its place when it still does not fit.
-void Imprimer(const FicheAlbum &fiche, QPainter &feuille);
+/// Prints the sheet on a paper, on as many pages as it takes; the painter draws on that paper. Throws
+/// platform::dialogs::PrintError.
+void Imprimer(const FicheAlbum &fiche, QPainter &feuille, QPagedPaintDevice &papier);
 
 } // namespace sheets

@@ -22,7 +22,8 @@ ToolWindow *FenetrePossible(Fenetres &fenetres, Outil outil) {
         platform::dialogs::Message(
             &fenetres.Principale, store::TitreProgramme.toString(),
             QStringLiteral("Le navigateur de la création facile n'est pas disponible.\n\n") +
-                QString::fromUtf8(obstacle.what()),
+                QString::fromUtf8(obstacle.what()) +
+                QStringLiteral("\n\nEn attendant, « Création manuelle » permet de saisir une recette."),
             platform::dialogs::Icon::Exclamation);
         return nullptr;
     }

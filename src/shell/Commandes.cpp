@@ -13,6 +13,7 @@
 #include "store/Configuration.h"
 #include "store/Programme.h"
 #include "webimport/facile/Facile.h"
+#include "webimport/facile/FichiersDePassage.h"
 
 namespace shell {
 
@@ -42,6 +43,11 @@ std::unique_ptr<ToolWindow> FaireImport(Fenetres &fenetres) {
     return std::make_unique<webimport::facile::Facile>(fenetres.Principale, moteur);
 }
 
+// A page must not be read with the tail of another, whose analysis ended badly.
+void OterRestes(ToolWindow & /*import*/) {
+    webimport::facile::OterFichiersDePassage();
+}
+
 void ChargerFiche(ToolWindow &fenetre) {
     static_cast<sheets::FicheAlbum &>(fenetre).ChargerFiche();
 }
@@ -53,7 +59,8 @@ constexpr std::array kCommandes{
              .faire = Faire<entry::Manuelle>,
              .mode = ModeCreation,
              .ephemere = true},
-    Commande{.outil = Outil::CreationFacile, .faire = FaireImport, .mode = ModeCreation},
+    Commande{
+        .outil = Outil::CreationFacile, .faire = FaireImport, .preparer = OterRestes, .mode = ModeCreation},
     Commande{.outil = Outil::Fiches, .faire = Faire<sheets::FicheAlbum>, .preparer = ChargerFiche},
     Commande{.outil = Outil::Acquisition, .faire = FaireAtelier, .ephemere = true},
     Commande{.outil = Outil::Recherche, .faire = Faire<search::FrmFind>, .retour = Outil::Sauvegarde},

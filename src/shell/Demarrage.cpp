@@ -19,6 +19,7 @@
 #include "store/Programme.h"
 #include "store/Reglages.h"
 #include "store/Textes.h"
+#include "webimport/facile/FichiersDePassage.h"
 
 #include <QApplication>
 #include <QDir>
@@ -26,6 +27,7 @@
 #include <QIcon>
 #include <QProxyStyle>
 #include <QScreen>
+#include <QThreadPool>
 #include <algorithm>
 #include <cstdlib>
 #include <stdexcept>
@@ -108,7 +110,7 @@ void Placer(browser::Frmmain &frm) {
     }
 }
 
-// A background picture has no place in the window any more; a picture that cannot be read must not stop the start.
+// A background picture has no place in the window; one that is slow or cannot be read must not hold up the start.
 void LireFondEcran() {
     const QString fichier = store::LireReglage(store::kFondScreen);
     const QString dossier =
@@ -116,10 +118,12 @@ void LireFondEcran() {
     if (fichier.isEmpty() || store::SansBlancs(fichier).endsWith(QDir::separator())) {
         return;
     }
-    try {
-        platform::images::LoadPicture(dossier + fichier);
-    } catch (const platform::images::PictureError &) {
-    }
+    QThreadPool::globalInstance()->start([chemin = dossier + fichier] {
+        try {
+            platform::images::LoadPicture(chemin);
+        } catch (const platform::images::PictureError &) {
+        }
+    });
 }
 
 // Storing that no view is loaded is what makes the press take effect: a sort button ignores a press of the
@@ -216,6 +220,7 @@ void ChargerFrmmain(Fenetres &fenetres, const platform::desktop::SingleInstance 
     }
     VerifierEcran();
     VerifierInstance(instance);
+    webimport::facile::OterFichiersDePassage();
     frm.PreparerListes();
     frm.SetCouleurSelection(Qt::blue);
     LireFondEcran();

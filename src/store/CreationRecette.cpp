@@ -117,7 +117,7 @@ public:
     }
 
     void EcrireValeurs();
-    void EcrirePhoto(const std::function<void(const QString &nom)> &enregistrerPhoto);
+    void EcrirePhoto(const std::function<QString(const QString &nom)> &enregistrerPhoto);
     void EcrireSuite();
     TextesNouveaux EcrireLignes();
 
@@ -218,12 +218,12 @@ void Creation::EcrireValeurs() {
 }
 
 /// The name of the picture is stored whether there is a picture or not.
-void Creation::EcrirePhoto(const std::function<void(const QString &nom)> &enregistrerPhoto) {
+void Creation::EcrirePhoto(const std::function<QString(const QString &nom)> &enregistrerPhoto) {
     m_saisie.titre.remove(QStringLiteral("<BR>"));
     const QString nom = SansBlancs(m_saisie.titre) + QStringLiteral(".jpg");
     Ecrire(u"Photo", nom);
     m_tolerante = m_mode.echecsIgnores;
-    Executer([&] { enregistrerPhoto(nom); });
+    Executer([&] { Ecrire(u"Photo", enregistrerPhoto(nom)); });
 }
 
 void Creation::EcrireSuite() {
@@ -274,7 +274,7 @@ void Creation::EcrireLigne(std::optional<Recordset> &lignes, const LigneSaisie &
 } // namespace
 
 TextesNouveaux EnregistrerRecette(RecetteSaisie &saisie, const ModeDeCreation &mode,
-                                  const std::function<void(const QString &nom)> &enregistrerPhoto) {
+                                  const std::function<QString(const QString &nom)> &enregistrerPhoto) {
     Creation creation(saisie, mode);
     creation.EcrireValeurs();
     creation.EcrirePhoto(enregistrerPhoto);

@@ -42,9 +42,10 @@ struct TextesNouveaux {
 
 /// Stores a recipe under the next number, with its lines, and makes the rows that its texts lack. The book is open
 /// from the beginning to the end. Title and preparation time come back in `saisie` as the fields hold them afterwards.
-/// @param enregistrerPhoto gets the name of the picture file; it may throw, and must not open the book
+/// @param enregistrerPhoto gets the name meant for the picture file and gives the one to store; it may throw, and must
+/// not open the book
 /// @throws DatabaseError; in a mode that ignores failures only until the picture
 TextesNouveaux EnregistrerRecette(RecetteSaisie &saisie, const ModeDeCreation &mode,
-                                  const std::function<void(const QString &nom)> &enregistrerPhoto);
+                                  const std::function<QString(const QString &nom)> &enregistrerPhoto);
 
 } // namespace store

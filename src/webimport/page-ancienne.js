@@ -1,7 +1,6 @@
-// The page in its legacy form: the text that innerHTML gave for the document element in the browser control
-// for which the pages of the partner's site were made, and in which their markers are searched. The value of
-// this script is the function; called with document.documentElement, in any world of the page, it returns the
-// text and changes nothing.
+// The page in the form for which the pages of the partner's site are made, and in which their markers are searched:
+// that of an old browser control, as its innerHTML gives it for the document element. The value of this script is the
+// function; called with document.documentElement, in any world of the page, it returns the text and changes nothing.
 //
 // Rules
 //  1. Names of elements in upper case, of attributes in lower case, attributes in the order of the source.
@@ -13,8 +12,9 @@
 //     styles first.
 //  5. The line ends of the source stay. The document knows them as line feeds; here each is a carriage return
 //     and a line feed.
-//  6. Elements that are always empty have no end tag. LI, DT, DD, P and OPTION have none where the next node
-//     is an element of the same name.
+//  6. Elements that are always empty have no end tag. LI, DT, DD, P and OPTION have none where the next element
+//     has the same name, whatever text lies between. Of LI, DT and DD, the blanks behind them stand before their
+//     end tag: so a list reads the same whether its source has end tags or not.
 //
 // The walk is a loop: no page nests too deep for it.
 (function () {
@@ -29,7 +29,9 @@
     const WITHOUT_MARKUP = new Set(['SCRIPT', 'STYLE', 'XMP', 'IFRAME', 'NOEMBED', 'NOFRAMES', 'NOSCRIPT',
         'PLAINTEXT']);
     const END_LEFT_OUT = new Set(['LI', 'DT', 'DD', 'P', 'OPTION']);
+    const ITEMS = new Set(['LI', 'DT', 'DD']);
     const ADDRESSES = new Set(['src', 'href']);
+    const BLANKS = /^[ \t\n\f\r]*$/;
     const PLAIN_VALUE = /^[A-Za-z0-9\-_.:#%]+$/;
 
     // A form gives the control of a name in the place of its own property of that name: a walk by node.nextSibling
@@ -41,6 +43,7 @@
     const typeOf = reader(Node, 'nodeType');
     const firstOf = reader(Node, 'firstChild');
     const nextOf = reader(Node, 'nextSibling');
+    const nextElementOf = reader(Element, 'nextElementSibling');
     const parentOf = reader(Node, 'parentNode');
     const dataOf = reader(Node, 'nodeValue');
     const attributesOf = reader(Element, 'attributes');
@@ -67,9 +70,16 @@
 
     function endTag(element) {
         const name = nameOf(element);
-        const next = nextOf(element);
-        const leftOut = END_LEFT_OUT.has(name) && next && typeOf(next) === ELEMENT && nameOf(next) === name;
+        const next = nextElementOf(element);
+        const leftOut = END_LEFT_OUT.has(name) && next && nameOf(next) === name;
         return EMPTY.has(name) || leftOut ? '' : '</' + name + '>';
+    }
+
+    // The blanks that count as the element's own; null for none.
+    function blanksBehind(element) {
+        const next = nextOf(element);
+        const own = ITEMS.has(nameOf(element)) && next && typeOf(next) === TEXT && BLANKS.test(dataOf(next));
+        return own ? next : null;
     }
 
     function opening(node) {
@@ -96,10 +106,13 @@
             }
             let closed = node;
             for (node = null; !node && closed !== root; closed = parentOf(closed)) {
+                let last = closed;
                 if (typeOf(closed) === ELEMENT) {
-                    parts.push(endTag(closed));
+                    const blanks = blanksBehind(closed);
+                    parts.push(blanks ? opening(blanks) : '', endTag(closed));
+                    last = blanks || closed;
                 }
-                node = nextOf(closed);
+                node = nextOf(last);
             }
         }
         return parts.join('').replace(/\r?\n/g, '\r\n');

@@ -7,13 +7,18 @@
 #include "platform/controls/ListView.h"
 #include "platform/controls/Picture.h"
 #include "platform/controls/RibbonButton.h"
+#include "platform/controls/TextBox.h"
 #include "platform/controls/WhenPressed.h"
 #include "platform/images/LoadPicture.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QBuffer>
+#include <QClipboard>
+#include <QDragEnterEvent>
 #include <QLineEdit>
 #include <QListView>
+#include <QMimeData>
 #include <QPainter>
 #include <QPointer>
 #include <QSignalSpy>
@@ -149,8 +154,12 @@ private Q_SLOTS:
         QCOMPARE(list.Text(), u"farine"_qs);
         QCOMPARE(clicks.count(), 0);
 
-        QTest::keyClick(&list, Qt::Key_Down); // opens the list
+        QTest::keyClick(&list, Qt::Key_PageDown); // opens the list and moves in it
         QTRY_VERIFY(list.view()->isVisible());
+        for (const Qt::Key key : {Qt::Key_End, Qt::Key_PageUp, Qt::Key_Home, Qt::Key_Down}) {
+            QTest::keyClick(list.view(), key);
+        }
+        QCOMPARE(clicks.count(), 0);
         QTest::keyClick(list.view(), Qt::Key_Return);
         QCOMPARE(clicks.count(), 1); // also for the row that was chosen already
         QCOMPARE(list.Text(), u"farine"_qs);
@@ -162,6 +171,99 @@ private Q_SLOTS:
         QCOMPARE(list.Count(), 3);
         QCOMPARE(enter.count(), 1);
         QCOMPARE(clicks.count(), 1);
+    }
+
+    void anOpenedListIsAsWideAsItsLongestEntry() {
+        auto &list = shown<DropList>();
+        m_window->resize(400, 300);
+        list.AddItems({u"une personne"_qs, QString(855, u'.')});
+        const auto width = [&list] {
+            list.showPopup();
+            const QWidget &opened = *list.view()->window();
+            const int overEdge = opened.geometry().right() - list.mapToGlobal(QPoint(400, 0)).x();
+            list.hidePopup();
+            return overEdge >= 0 ? -1 : opened.width();
+        };
+        QCOMPARE(width(), list.width());
+        list.AddItems({u"pour une tablée de douze à quinze convives"_qs});
+        QVERIFY(width() > list.width());
+        QVERIFY(width() < 400);
+        list.AddItems({QString(300, u'm')});
+        QCOMPARE(width(), 400);
+        list.SetLeft(Twips(1500));
+        QCOMPARE(width(), 400);
+    }
+
+    void whatIsBroughtIntoALineStaysOnIt() {
+        QApplication::clipboard()->setText(u"1 heure\r\n20\n"_qs);
+        auto &box = shown<TextBox>();
+        box.SetText(u"a\nb"_qs); // set by the programme: it stays
+        QTest::keyClick(&box, Qt::Key_Home);
+        QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(box.Text(), u"1 heure 20 a\nb"_qs);
+        QCOMPARE(box.cursorPosition(), 11);
+        auto &list = shown<DropList>();
+        QTest::keyClick(&list, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(list.Text(), u"1 heure 20 "_qs);
+
+        auto *file = new QMimeData;
+        file->setUrls({QUrl::fromLocalFile(u"/tarte.jpg"_qs)});
+        QDragEnterEvent enters(QPoint(5, 5), Qt::CopyAction, file, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(list.lineEdit(), &enters);
+        QVERIFY(!enters.isAccepted());
+        QApplication::clipboard()->setMimeData(file);
+        QTest::keyClick(&list, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(list.Text(), u"1 heure 20 "_qs);
+    }
+
+    void whatIsCutIsWholeInItsToolTip() {
+        const QString text = u"Un titre bien trop long pour tenir sur une ligne"_qs;
+        auto &value = shown<Ribbon>();
+        value.SetLook(Look::Value);
+        for (const auto &[caption, ofLabel, ofValue] : {std::tuple(text, text, text),
+                                                        {u"Court"_qs, QString(), u"Court"_qs},
+                                                        {QString(855, u'.'), QString(), QString()}}) {
+            Label fresh(m_window.get(), kRow);
+            fresh.SetCaption(caption);
+            value.SetCaption(caption);
+            QCOMPARE(fresh.toolTip(), ofLabel);
+            QCOMPARE(value.toolTip(), ofValue);
+        }
+    }
+
+    void screenReadersHearWhatControlsAre() {
+        auto &button = shown<Ribbon>();
+        QAccessibleInterface &told = *QAccessible::queryAccessibleInterface(&button);
+        QCOMPARE(told.role(), QAccessible::Button);
+        QVERIFY(!told.state().checkable);
+        button.SetLook(Look::Sort);
+        QCOMPARE(told.role(), QAccessible::RadioButton);
+        button.SetForeColor(Qt::black);
+        QVERIFY(told.state().checked);
+        QSignalSpy presses(&button, &Ribbon::toggled);
+        told.actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(presses.count(), 1);
+    }
+
+    void aLabelEditIsDroppedByAnyOtherAct() {
+        QApplication::setDoubleClickInterval(60);
+        List &list = shownList();
+        list.SetLabelEdit(List::LabelEditMode::Automatic);
+        list.Select(2);
+        QWidget other(m_window.get());
+        other.setGeometry(0, 300, 50, 50);
+        other.show();
+        const auto edits = [&list](const std::function<void()> &act) {
+            const QRect row = list.visualRect(list.model()->index(1, 0));
+            QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, row.center());
+            act();
+            QTest::qWait(120);
+            return list.viewport()->findChild<QLineEdit *>() != nullptr;
+        };
+        QVERIFY(!edits([&] { QTest::mousePress(&other, Qt::LeftButton); }));
+        QVERIFY(!edits([&] { QTest::keyClick(&list, Qt::Key_Shift); }));
+        QVERIFY(!edits([&] { list.clearFocus(); }));
+        QVERIFY(edits([] {}));
     }
 
     void listRaisesWithTheRowSelected() {
@@ -221,7 +323,11 @@ private Q_SLOTS:
             rows.Add(u"N 2"_qs, u"Deux"_qs, 1);
         }
         QCOMPARE(list.Count(), 2);
-        QCOMPARE(list.Text(1) + list.Text(2), u"UnDeux"_qs);
+        QCOMPARE(list.Text(2), u"Deux"_qs);
+        list.SetEmptyText(u"Vide"_qs);
+        QCOMPARE(list.accessibleDescription(), QString());
+        list.Clear();
+        QCOMPARE(list.accessibleDescription(), u"Vide"_qs);
     }
 
     void escapeGivesUpTheEditOfARow() {

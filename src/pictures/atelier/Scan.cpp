@@ -61,6 +61,7 @@ void Montrer(Acquisition &fenetre, Ajustement ajuster) {
 void ReprendreDessin(Acquisition &fenetre) {
     if (!EstVide(fenetre.PhotoScan2)) {
         PasserParTempBmp(fenetre.PhotoScan2, fenetre.PhotoScan1);
+        fenetre.AEnregistrer = true;
         AjusterPhotoScan(fenetre);
     }
 }
@@ -83,11 +84,16 @@ void Tourner(Acquisition &fenetre, float angle) {
     const WaitPointer attente;
     fenetre.PhotoScan1.setPicture(fenetre.PhotoScan.Picture());
     MontrerAvancement(fenetre, true);
-    TournerUnQuart(
-        fenetre.PhotoScan1, fenetre.PhotoScan2, angle,
-        {[&fenetre](double part) { Avancer(fenetre, part); }, [] { QCoreApplication::processEvents(); }});
+    const bool finie = TournerUnQuart(fenetre.PhotoScan1, fenetre.PhotoScan2, angle,
+                                      {[&fenetre](double part) { Avancer(fenetre, part); },
+                                       [&fenetre] {
+                                           QCoreApplication::processEvents();
+                                           return !fenetre.Quittee;
+                                       }});
     MontrerAvancement(fenetre, false);
-    ReprendreDessin(fenetre);
+    if (finie) {
+        ReprendreDessin(fenetre);
+    }
 }
 
 using Miroir = void (*)(const Surface &, Surface &);
@@ -110,15 +116,13 @@ QString Depart(const Acquisition &fenetre) {
     return QFileInfo(images).isDir() ? images : store::DossierProgramme();
 }
 
+/// @throws PictureError when it can't
 void Enregistrer(Acquisition &fenetre, const QString &nom) {
     const WaitPointer attente;
     fenetre.PhotoScan2.setPicture(fenetre.PhotoScan.Picture());
-    try {
-        EcrireBmp(fenetre.PhotoScan2, nom);
-        fenetre.PhotoScan.SetPicture(LoadPicture(nom));
-    } catch (const PictureError &) {
-        // The picture stays on screen.
-    }
+    EcrireBmp(fenetre.PhotoScan2, nom);
+    fenetre.PhotoScan.SetPicture(LoadPicture(nom));
+    fenetre.AEnregistrer = false;
 }
 
 /// The picture of the clipboard, or else the one before, as one that was scanned.
@@ -127,6 +131,7 @@ void PrendrePressePapiers(Acquisition &fenetre) {
     fenetre.PermettreOperations();
     if (!image.isNull()) {
         fenetre.PhotoScan1.setPicture(image);
+        fenetre.AEnregistrer = true;
     }
     Montrer(fenetre, PlaceNumerisation);
 }
@@ -163,6 +168,7 @@ void OuvrirFichier(Acquisition &fenetre, const QString &nom) {
     fenetre.PhotoScan.SetTag(nom);
     try {
         fenetre.PhotoScan1.setPicture(nom.isEmpty() ? QImage() : LoadPicture(nom));
+        fenetre.AEnregistrer = false;
     } catch (const PictureError &) {
         // The picture before is shown again.
     } catch (const std::bad_alloc &) { // a picture larger than the memory, likewise
@@ -174,7 +180,7 @@ void OuvrirFichier(Acquisition &fenetre, const QString &nom) {
 bool SauverImage(Acquisition &fenetre) {
     QString filtre = QStringLiteral("Tous les fichiers images (*.bmp;*.wmf;*.ico)|*.bmp;*.wmf;*.ico");
     QString &propose = fenetre.NomDeFichier;
-    // A picture that came as a JPEG file must not go back into it as a bitmap. Only this spelling ever counted.
+    // A picture that came as a JPEG file must not go back into it as a bitmap. Only this spelling counts.
     if (propose.endsWith(QLatin1String("jpg"))) {
         filtre = QStringLiteral("Format Bitmap (*.bmp)|*.bmp");
         propose.replace(propose.size() - 3, 3, QStringLiteral("bmp"));
@@ -186,7 +192,13 @@ bool SauverImage(Acquisition &fenetre) {
         return false;
     }
     propose = nom;
-    Enregistrer(fenetre, nom);
+    try {
+        Enregistrer(fenetre, nom);
+    } catch (const PictureError &echec) {
+        dialogs::Message(&fenetre, store::TitreProgramme.toString(), QString::fromUtf8(echec.what()),
+                         dialogs::Icon::Exclamation);
+        return false;
+    }
     return true;
 }
 

@@ -9,7 +9,8 @@ class Acquisition;
 // The operations of the picture workshop. Each takes PhotoScan as it is and leaves its result there; there is no way
 // back. Without a picture, turns and mirrors do nothing.
 
-/// A quarter turn, with its progress shown; runs the events of the program meanwhile. Leaves temp.bmp behind.
+/// A quarter turn, with its progress shown; runs the events of the program meanwhile. It stops, and changes nothing,
+/// when one of them leaves the window. Leaves temp.bmp behind.
 /// @throws what pictures::Rotation and pictures::PasserParTempBmp throw
 void RotationGauche(Acquisition &fenetre);
 void RotationDroite(Acquisition &fenetre);
@@ -24,9 +25,9 @@ void OuvrirImage(Acquisition &fenetre);
 /// Opens a file; a name without a file takes the picture away, and one that is no picture leaves the one before.
 void OuvrirFichier(Acquisition &fenetre, const QString &nom);
 
-/// Asks for a name and saves the picture under it as a bitmap, in its full size. A failure is passed over: the file
-/// that was there stays.
-/// @return whether a name was chosen
+/// Asks for a name and saves the picture under it as a bitmap, in its full size. A failure is reported in a box; the
+/// file that was there stays, and the picture too.
+/// @return whether the picture was saved
 bool SauverImage(Acquisition &fenetre);
 
 /// Lets the user choose a scanner and takes a picture from it, by way of the clipboard.

@@ -1,10 +1,13 @@
 #include "DropList.h"
 
+#include "CutText.h"
 #include "Fonts.h"
+#include "LineInput.h"
+#include "ProposalList.h"
+#include "RowDelegate.h"
 #include "SkinnedWindow.h"
 
 #include <QApplication>
-#include <QCompleter>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
@@ -17,14 +20,9 @@ namespace platform::controls {
 
 namespace {
 
-constexpr int kMargin = 2;        // pixels that bring the text where a text box has it
-constexpr int kMeasuredRows = 20; // longer lists keep the width of their field
-
-/// A key that an opened list acts on.
-bool isListKey(int key) {
-    return key == Qt::Key_Escape || key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Up ||
-           key == Qt::Key_Down;
-}
+constexpr int kMargin = 2;    // pixels that bring the text where a text box has it
+constexpr int kMostRows = 10; // of an opened list that are seen at once
+constexpr Twips kRowHeight{285};
 
 } // namespace
 
@@ -35,6 +33,8 @@ DropBox::DropBox(QWidget *parent) : QComboBox(parent), m_rows(this) {
     lineEdit()->setTextMargins(kMargin, 0, 0, 0);
     setInsertPolicy(QComboBox::NoInsert);
     setCompleter(nullptr);
+    setMaxVisibleItems(kMostRows);
+    new LineInput(*lineEdit());
     setFont(interfaceFont(Face::Verdana, 8.25));
     // The width is that of the field; measuring thousands of rows for a size hint would be wasted.
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -55,13 +55,13 @@ void DropBox::SetListIndex(int index) {
 }
 
 void DropBox::SetProposes() {
-    auto *proposals = new QCompleter(&m_rows, this);
-    proposals->setCompletionMode(QCompleter::PopupCompletion);
-    proposals->setCaseSensitivity(Qt::CaseInsensitive);
-    setCompleter(proposals);
+    m_proposals = new ProposalList(*this, m_rows);
+    connect(lineEdit(), &QLineEdit::textEdited, m_proposals, &ProposalList::Propose);
+    connect(m_proposals, &ProposalList::Chosen, this, &QComboBox::setEditText);
 }
 
-void DropBox::Open() {
+void DropBox::Open(QWidget *covered) {
+    m_covered = covered;
     show();
     raise();
     setFocus();
@@ -83,25 +83,65 @@ void DropBox::offerTyped(const QString &written) {
     }
 }
 
-void DropBox::showPopup() {
-    // The list opens at the row of the text, which may have been set or typed since a row was last chosen.
+/// The list opens at the row of the text, which may have been set or typed since a row was last chosen.
+void DropBox::openAtText() {
     const QString written = currentText();
-    {
-        const QSignalBlocker quiet(this);
-        offerTyped(written);
-        setCurrentIndex(findText(written, Qt::MatchExactly | Qt::MatchCaseSensitive));
-        setEditText(written);
-    }
-    view()->installEventFilter(this); // once: a filter that is installed again only moves to the front
-    // The list of the drop list is made when it is first needed; thousands of rows of one height need no
-    // measuring.
-    if (auto *rows = qobject_cast<QListView *>(view())) {
-        rows->setUniformItemSizes(true);
-        if (count() <= kMeasuredRows) {
-            rows->setMinimumWidth(rows->sizeHintForColumn(0) + rows->verticalScrollBar()->sizeHint().width());
+    const QSignalBlocker quiet(this);
+    offerTyped(written);
+    setCurrentIndex(findText(written, Qt::MatchExactly | Qt::MatchCaseSensitive));
+    setEditText(written);
+}
+
+void DropBox::showPopup() {
+    openAtText();
+    if (m_delegate == nullptr) {
+        // The list of the drop list is made when it is first needed.
+        m_delegate = new RowDelegate(kRowHeight, this);
+        setItemDelegate(m_delegate);
+        view()->installEventFilter(this);
+        view()->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        if (auto *rows = qobject_cast<QListView *>(view())) {
+            rows->setUniformItemSizes(true);
         }
     }
+    widenList();
     QComboBox::showPopup();
+    keepListInPanel();
+}
+
+int DropBox::longestRow(int limit) const {
+    const QFontMetrics metrics = view()->fontMetrics();
+    const int widestLetter = metrics.horizontalAdvance(QLatin1Char('W'));
+    int longest = 0;
+    for (const QString &row : m_rows.stringList()) {
+        // Of thousands of rows few can be longer than the longest so far, and only those are measured.
+        if (row.size() * widestLetter > longest && !isDotted(row)) {
+            longest = std::max(longest, metrics.horizontalAdvance(row.left(limit)));
+        }
+        if (longest >= limit) {
+            return limit;
+        }
+    }
+    return longest;
+}
+
+void DropBox::widenList() {
+    const QWidget &list = *view()->window();
+    const int margins = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, view()) + 1);
+    const int frames = 2 * view()->frameWidth() + list.width() - list.contentsRect().width();
+    const int bar = count() > maxVisibleItems() ? view()->verticalScrollBar()->sizeHint().width() : 0;
+    const int panel = parentWidget()->width();
+    const int wanted = std::min(longestRow(panel) + margins + bar + frames, panel);
+    view()->setMinimumWidth(wanted > width() ? wanted - frames : 0);
+}
+
+void DropBox::keepListInPanel() {
+    QWidget &list = *view()->window();
+    const int left = parentWidget()->mapToGlobal(QPoint()).x();
+    const int farthest = left + parentWidget()->width() - list.width();
+    if (list.x() > farthest) {
+        list.move(std::max(left, farthest), list.y());
+    }
 }
 
 /// The opened list keeps Tab to itself, where it would do nothing.
@@ -139,14 +179,8 @@ void DropBox::paintEvent(QPaintEvent *event) {
     paintFocusRing(painter, *this);
 }
 
-bool DropBox::isProposing() const {
-    return completer() != nullptr && completer()->popup()->isVisible();
-}
-
 void DropBox::keyPressEvent(QKeyEvent *event) {
-    if (isProposing() && isListKey(event->key())) {
-        // The list of proposals hands its keys on to here first, and acts on those that are not taken.
-        event->ignore();
+    if (m_proposals != nullptr && m_proposals->TakeKey(*event)) {
         return;
     }
     switch (event->key()) {
@@ -160,6 +194,11 @@ void DropBox::keyPressEvent(QKeyEvent *event) {
     case Qt::Key_Up:
     case Qt::Key_Down:
         showPopup();
+        break;
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        showPopup();
+        QApplication::sendEvent(view(), event);
         break;
     default:
         QComboBox::keyPressEvent(event);
@@ -177,6 +216,23 @@ void DropBox::focusOutEvent(QFocusEvent *event) {
     if (QApplication::activePopupWidget() == nullptr && event->reason() != Qt::ActiveWindowFocusReason) {
         Q_EMIT LostFocus();
     }
+    if (m_proposals != nullptr) {
+        m_proposals->hide();
+    }
+}
+
+void DropBox::hideEvent(QHideEvent *event) {
+    QComboBox::hideEvent(event);
+    if (m_proposals != nullptr) {
+        m_proposals->hide();
+    }
+}
+
+bool DropBox::focusNextPrevChild(bool next) {
+    if (m_covered != nullptr) {
+        m_covered->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    }
+    return QComboBox::focusNextPrevChild(next);
 }
 
 } // namespace platform::controls

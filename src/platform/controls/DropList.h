@@ -3,12 +3,17 @@
 #include "Placed.h"
 
 #include <QComboBox>
+#include <QPointer>
 #include <QStringListModel>
 
 namespace platform::controls {
 
+class ProposalList;
+class RowDelegate;
+
 /// An edit box with a drop list. Texts set by code raise no event; a row chosen by the user does, also the
-/// row that was chosen already. The wheel chooses nothing, and Up and Down open the list.
+/// row that was chosen already. The wheel chooses nothing; Up, Down, Page Up and Page Down open the list, in which they
+/// and Home and End move. The list is as wide as the box, or as its longest row up to what the box stands in.
 class DropBox : public QComboBox {
     Q_OBJECT
 
@@ -36,8 +41,9 @@ public:
     /// Proposes the rows that begin with what is typed, whatever the case, in a list below the box.
     void SetProposes();
 
-    /// Shows the box over its neighbours, takes the keyboard and selects the text.
-    void Open();
+    /// Shows the box over its neighbours, takes the keyboard and selects the text. Tab then goes on from the control
+    /// that the box covers, if one is given.
+    void Open(QWidget *covered = nullptr);
 
     void showPopup() override;
 
@@ -57,12 +63,20 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
-    bool isProposing() const;
     void offerTyped(const QString &written);
+    void openAtText();
+    void widenList();
+    void keepListInPanel();
+    int longestRow(int limit) const;
 
     QStringListModel m_rows;
+    RowDelegate *m_delegate = nullptr;  // once the list was opened
+    QPointer<ProposalList> m_proposals; // belongs to the window
+    QPointer<QWidget> m_covered;
     bool m_offersTyped = false;
     bool m_typedOnTop = false; // the first row is a text that was typed
 };

@@ -6,7 +6,8 @@ class QWidget;
 
 namespace platform::controls {
 
-/// Lets a file of this computer be dropped onto a widget and all that stands in it; belongs to the widget.
+/// Lets a file of this computer be dropped onto a widget and all that stands in it, text boxes too, which take no
+/// files; belongs to the widget.
 class FileDrop : public QObject {
     Q_OBJECT
 

@@ -1,5 +1,7 @@
 #include "Labels.h"
 
+#include "Accessible.h"
+#include "CutText.h"
 #include "SkinnedWindow.h"
 
 #include <QContextMenuEvent>
@@ -24,17 +26,48 @@ void TextLabel::SetForeColor(const QColor &colour) {
     setPalette(colours);
 }
 
+void TextLabel::SetCaption(const QString &caption) {
+    setText(caption);
+    tellWhole();
+}
+
+void TextLabel::tellWhole() {
+    if (toolTip() == m_wholeTip) {
+        m_wholeTip = isCut(text(), fontMetrics(), width()) ? text() : QString();
+        setToolTip(m_wholeTip);
+    }
+}
+
+bool TextLabel::event(QEvent *event) {
+    return showsPlainTip(*event, *this) || QLabel::event(event);
+}
+
+void TextLabel::resizeEvent(QResizeEvent *event) {
+    QLabel::resizeEvent(event);
+    tellWhole();
+}
+
+void TextLabel::changeEvent(QEvent *event) {
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::FontChange) {
+        tellWhole();
+    }
+}
+
 void TextLabel::paintEvent(QPaintEvent * /*event*/) {
     QPainter painter(this);
     painter.setPen(palette().color(foregroundRole()));
-    painter.drawText(rect(), static_cast<int>(alignment()) | Qt::TextSingleLine, text().left(width()));
+    painter.drawText(rect(), static_cast<int>(alignment()) | Qt::TextSingleLine,
+                     fitted(text(), painter.fontMetrics(), width()));
 }
 
 void TextLabel::mouseDoubleClickEvent(QMouseEvent * /*event*/) {
     Q_EMIT DoubleClicked();
 }
 
-CaptionPanel::CaptionPanel(QWidget *parent) : QWidget(parent) {}
+CaptionPanel::CaptionPanel(QWidget *parent) : QWidget(parent) {
+    announceControls();
+}
 
 void CaptionPanel::SetCaption(const QString &caption) {
     m_caption = caption;

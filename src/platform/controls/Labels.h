@@ -6,7 +6,8 @@
 
 namespace platform::controls {
 
-/// A line of plain text, cut at its edge.
+/// A line of plain text. One that is cut ends in an ellipsis, and has the whole text as tool tip where it has none of
+/// its own.
 class TextLabel : public QLabel {
     Q_OBJECT
 
@@ -15,16 +16,23 @@ public:
 
     QString Caption() const { return text(); }
 
-    void SetCaption(const QString &caption) { setText(caption); }
-
+    void SetCaption(const QString &caption);
     void SetForeColor(const QColor &colour);
 
 Q_SIGNALS:
     void DoubleClicked();
 
 protected:
+    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
+
+private:
+    void tellWhole();
+
+    QString m_wholeTip; // the tool tip that a cut caption got
 };
 
 /// A block with a caption in its middle that can be pressed and can fill up as a progress bar.

@@ -1,12 +1,14 @@
 #include "ListView.h"
 
 #include "Fonts.h"
+#include "RowDelegate.h"
 #include "Skin.h"
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QStyledItemDelegate>
+#include <QPainter>
 
 namespace platform::controls {
 
@@ -15,29 +17,25 @@ namespace {
 constexpr Twips kRowHeight{330};
 constexpr Twips kPictureSide{270};
 
-/// Rows of one height, so that a list of thousands needs no measuring, with the width of the column.
-class RowDelegate : public QStyledItemDelegate {
+constexpr int kEmptyMargin = 12; // pixels around what an empty list says
+
+/// The row that the keyboard stands on keeps the writing and the picture of its own.
+class ListRowDelegate : public RowDelegate {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    void setWidth(int width) { m_width = width; }
-
-    QSize sizeHint(const QStyleOptionViewItem & /*option*/, const QModelIndex & /*index*/) const override {
-        return {m_width, kRowHeight.pixels()};
-    }
+    using RowDelegate::RowDelegate;
 
 protected:
-    // The row that the keyboard stands on keeps the writing and the picture of its own.
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override {
-        QStyledItemDelegate::initStyleOption(option, index);
-        // Cut at the edge. No letter is narrower than a pixel, and a text of millions must not be shaped whole.
-        option->text = option->text.left(m_width);
+        RowDelegate::initStyleOption(option, index);
         option->palette.setColor(QPalette::HighlightedText, option->palette.color(QPalette::Text));
     }
-
-private:
-    int m_width = 0;
 };
+
+/// What shows that the user turns to something else.
+constexpr bool isAct(QEvent::Type type) {
+    return type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick ||
+           type == QEvent::KeyPress || type == QEvent::FocusIn || type == QEvent::FocusOut;
+}
 
 constexpr bool movesInList(int key) {
     return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown ||
@@ -48,9 +46,8 @@ constexpr bool movesInList(int key) {
 
 ListBox::ListBox(QWidget *parent) : QListView(parent), m_model(this) {
     setModel(&m_model);
-    setItemDelegate(new RowDelegate(this));
+    setItemDelegate(new ListRowDelegate(kRowHeight, this));
     setUniformItemSizes(true);
-    setTextElideMode(Qt::ElideNone);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     setIconSize({kPictureSide.pixels(), kPictureSide.pixels()});
@@ -58,6 +55,13 @@ ListBox::ListBox(QWidget *parent) : QListView(parent), m_model(this) {
     SetLabelEdit(LabelEditMode::Manual);
     connect(&m_model, &ListModel::labelEdited, this,
             [this](int row, const QString &text) { Q_EMIT AfterLabelEdit(row + 1, text); });
+    connect(&m_model, &ListModel::modelReset, this, &ListBox::sayWhetherEmpty);
+    connect(&m_model, &ListModel::rowsRemoved, this, &ListBox::sayWhetherEmpty);
+    m_labelEdit.setSingleShot(true);
+    connect(&m_labelEdit, &QTimer::timeout, this, [this] {
+        dropLabelEdit();
+        StartLabelEdit();
+    });
 }
 
 void ListBox::SetColumn(const QString &heading, Twips width) {
@@ -108,6 +112,9 @@ void ListBox::Select(int index) {
 void ListBox::SetLabelEdit(LabelEditMode mode) {
     setEditTriggers(mode == LabelEditMode::Automatic ? QAbstractItemView::SelectedClicked
                                                      : QAbstractItemView::NoEditTriggers);
+    if (mode == LabelEditMode::Manual) {
+        dropLabelEdit();
+    }
 }
 
 void ListBox::StartLabelEdit() {
@@ -184,6 +191,51 @@ void ListBox::focusOutEvent(QFocusEvent *event) {
 void ListBox::contextMenuEvent(QContextMenuEvent *event) {
     if (event->reason() == QContextMenuEvent::Keyboard) {
         Q_EMIT RightClicked(viewport()->mapToGlobal(visualRect(currentIndex()).center()));
+    }
+}
+
+bool ListBox::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) {
+    if (trigger != SelectedClicked) {
+        return QListView::edit(index, trigger, event);
+    }
+    // The toolkit would wait, too, but nothing could hold it up.
+    if (editTriggers().testFlag(SelectedClicked)) {
+        m_labelEdit.start(QApplication::doubleClickInterval());
+        qApp->installEventFilter(this);
+    }
+    return false;
+}
+
+bool ListBox::eventFilter(QObject *watched, QEvent *event) {
+    if (isAct(event->type())) {
+        dropLabelEdit();
+    }
+    return QListView::eventFilter(watched, event);
+}
+
+void ListBox::dropLabelEdit() {
+    m_labelEdit.stop();
+    qApp->removeEventFilter(this);
+}
+
+void ListBox::SetEmptyText(const QString &text) {
+    m_emptyText = text;
+    sayWhetherEmpty();
+}
+
+void ListBox::sayWhetherEmpty() {
+    dropLabelEdit(); // the rows are others now
+    setAccessibleDescription(Count() == 0 ? m_emptyText : QString());
+    viewport()->update();
+}
+
+void ListBox::paintEvent(QPaintEvent *event) {
+    QListView::paintEvent(event);
+    if (Count() == 0) {
+        QPainter painter(viewport());
+        const QRect room =
+            viewport()->rect().marginsRemoved({kEmptyMargin, kEmptyMargin, kEmptyMargin, kEmptyMargin});
+        painter.drawText(room, Qt::AlignCenter | Qt::TextWordWrap, m_emptyText);
     }
 }
 

@@ -4,6 +4,7 @@
 #include "Placed.h"
 
 #include <QListView>
+#include <QTimer>
 #include <optional>
 
 namespace platform::controls {
@@ -12,6 +13,7 @@ namespace platform::controls {
 /// for no row. The user selects another row, never none. Adding happens inside a Loading.
 class ListBox : public QListView {
     Q_OBJECT
+    Q_PROPERTY(QString emptyText MEMBER m_emptyText WRITE SetEmptyText)
 
 public:
     enum class LabelEditMode { Manual, Automatic };
@@ -76,7 +78,11 @@ public:
 
     void Remove(int index) { m_model.remove(checked(index)); }
 
-    /// Automatic: a click on the selected row edits its text in place. Manual: only StartLabelEdit does.
+    /// What an empty list says in its empty space; nothing by default.
+    void SetEmptyText(const QString &text);
+
+    /// Automatic: a click on the selected row edits its text in place, a moment later, unless anything is pressed or
+    /// takes the keyboard meanwhile. Manual: only StartLabelEdit does.
     void SetLabelEdit(LabelEditMode mode);
     void StartLabelEdit();
 
@@ -94,6 +100,10 @@ Q_SIGNALS:
     void RightClicked(const QPoint &globalPosition);
 
 protected:
+    using QListView::edit;
+    bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
@@ -107,9 +117,13 @@ protected:
 
 private:
     int checked(int index) const;
+    void dropLabelEdit();
+    void sayWhetherEmpty();
 
     ListModel m_model;
     int m_indexAtPress = 0; // row selected when a key or a mouse button went down
+    QString m_emptyText;
+    QTimer m_labelEdit; // runs from a click that is to edit the selected row
 };
 
 using List = Placed<ListBox>;

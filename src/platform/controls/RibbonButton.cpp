@@ -1,12 +1,11 @@
 #include "RibbonButton.h"
 
+#include "Accessible.h"
+#include "CutText.h"
 #include "SkinnedWindow.h"
 
-#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QTextDocument>
-#include <QToolTip>
 #include <algorithm>
 
 namespace platform::controls {
@@ -29,6 +28,7 @@ RibbonButton::RibbonButton(QWidget *parent) : QAbstractButton(parent) {
     setCheckable(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_Hover);
+    announceControls();
 }
 
 void RibbonButton::SetCaption(const QString &caption) {
@@ -38,6 +38,9 @@ void RibbonButton::SetCaption(const QString &caption) {
         setShortcut({});
         speak();
     }
+    if (m_look == Look::Value) {
+        setToolTip(isDotted(caption) ? QString() : caption);
+    }
 }
 
 /// A screen reader says what the value is of, then the value; a dotted line says nothing.
@@ -45,9 +48,8 @@ void RibbonButton::speak() {
     if (m_title.isEmpty()) {
         m_title = accessibleName();
     }
-    const bool isDotted = text().count(QLatin1Char('.')) == text().size();
     if (!m_title.isEmpty()) {
-        setAccessibleName(isDotted ? m_title : QStringLiteral("%1 : %2").arg(m_title, text()));
+        setAccessibleName(isDotted(text()) ? m_title : QStringLiteral("%1 : %2").arg(m_title, text()));
     }
 }
 
@@ -106,13 +108,7 @@ void RibbonButton::leaveEvent(QEvent *event) {
 }
 
 bool RibbonButton::event(QEvent *event) {
-    if (event->type() == QEvent::ToolTip && Qt::mightBeRichText(toolTip())) {
-        // The words of a recipe are shown as they are stored, also where they look like markup.
-        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
-                           QStringLiteral("<qt>%1</qt>").arg(toolTip().toHtmlEscaped()), this);
-        return true;
-    }
-    return QAbstractButton::event(event);
+    return showsPlainTip(*event, *this) || QAbstractButton::event(event);
 }
 
 void RibbonButton::keyPressEvent(QKeyEvent *event) {
@@ -241,7 +237,8 @@ void RibbonButton::paintCaption(QPainter &painter) const {
             area.setLeft(pictureArea().toRect().right());
         }
         // Blanks at the ends of a caption only keep room for the picture.
-        painter.drawText(area, Qt::AlignCenter, m_picture.isNull() ? text() : text().trimmed());
+        painter.drawText(area, Qt::AlignCenter,
+                         fitted(m_picture.isNull() ? text() : text().trimmed(), fontMetrics(), area.width()));
         return;
     }
     if (m_look == Look::Tile) {
@@ -249,8 +246,8 @@ void RibbonButton::paintCaption(QPainter &painter) const {
         return;
     }
     area.adjust(kTextMargin.pixels(), 0, 0, 0);
-    // No letter is narrower than a pixel: of a line of hundreds of dots only those that can show are shaped.
-    painter.drawText(area, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text().left(area.width()));
+    painter.drawText(area, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+                     fitted(text(), fontMetrics(), area.width()));
 }
 
 } // namespace platform::controls

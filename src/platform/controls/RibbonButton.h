@@ -12,7 +12,7 @@ enum class Look {
     Picture, ///< a picture alone
     Tool,    ///< a picture on a ground that lights up under the pointer
     Sort,    ///< a picture over a caption, on a block of its own
-    Value,   ///< a flat line of text, cut at the edge, that shows under the pointer that it can be pressed
+    Value, ///< a flat line of text, whole in its tool tip, that shows under the pointer that it can be pressed
     Command, ///< a light block with a caption in its middle, right of a small picture if there is one
     Tile, ///< a light block with a picture above a caption, beside it where the block is much wider than high
 };
@@ -42,6 +42,11 @@ public:
     void SetUnderline(bool underline);
 
     void SetLook(Look look);
+
+    /// One of the sort buttons; black writing marks the current one of them.
+    bool IsSort() const { return m_look == Look::Sort; }
+
+    bool IsCurrentSort() const { return IsSort() && ForeColor() == QColor(Qt::black); }
 
     /// The picture shown now; the three others take its place while pressed, on leaving and on entering.
     void SetPicture(const QPixmap &picture);

@@ -19,8 +19,12 @@ namespace platform::controls {
 namespace {
 
 constexpr Twips kMargin{120};
+constexpr int kNoticeMargin = 4; // pixels
 const QColor kDarkGround(30, 42, 68);
 const QColor kDarkSelection(77, 108, 166);
+const QColor kNoticeGround(243, 220, 174);
+const QColor kNoticeInk(22, 33, 58);
+constexpr qsizetype kLongest = 1'000'000; // characters; more could not be shown, nor edited, without a pause
 
 bool isBold(const QTextCharFormat &format) {
     return format.fontWeight() >= QFont::DemiBold;
@@ -64,6 +68,15 @@ RichTextEdit::RichTextEdit(QWidget *parent) : QTextEdit(parent) {
     colourScrollBar(*this, kDarkGround.lighter(150));
     SetDefaultColor(Qt::white);
     setContextMenuPolicy(Qt::PreventContextMenu);
+    QPalette colours = m_notice.palette();
+    colours.setColor(QPalette::Window, kNoticeGround);
+    colours.setColor(QPalette::WindowText, kNoticeInk);
+    m_notice.setPalette(colours);
+    m_notice.setAutoFillBackground(true);
+    m_notice.setWordWrap(true);
+    m_notice.setMargin(kNoticeMargin);
+    m_notice.setObjectName(QStringLiteral("Notice"));
+    m_notice.hide();
     m_content = richtext::toRtf(*document());
     connect(document(), &QTextDocument::contentsChanged, this, &RichTextEdit::followContent);
 }
@@ -95,22 +108,77 @@ void RichTextEdit::SetTextRTF(const QString &text) {
     const QSignalBlocker quiet(this);
     {
         const QScopedValueRollback loading(m_loading, true);
-        richtext::load(*document(), text);
+        showBeginning(!richtext::load(*document(), text, kLongest));
+    }
+    m_colour = {};
+    if (m_onlyBeginning) {
+        m_content = text;
     }
     followContent();
     moveCursor(QTextCursor::Start);
 }
 
+void RichTextEdit::showBeginning(bool only) {
+    if (only && !m_onlyBeginning) {
+        m_wasReadOnly = isReadOnly();
+    }
+    if (only || m_onlyBeginning) {
+        setReadOnly(only || m_wasReadOnly);
+    }
+    m_onlyBeginning = only;
+    notice(only ? QStringLiteral(
+                      "Ce texte dépasse un million de caractères. Seul son début est montré ici, et il ne "
+                      "peut pas être modifié ; le texte entier est conservé.")
+                : QString());
+}
+
+void RichTextEdit::notice(const QString &text) {
+    m_notice.setText(text);
+    m_notice.setVisible(!text.isEmpty());
+    placeNotice();
+}
+
+void RichTextEdit::placeNotice() {
+    const QRect room = contentsRect();
+    const int height = m_notice.isHidden() ? 0 : m_notice.heightForWidth(room.width());
+    m_notice.setGeometry(room.left(), room.top(), room.width(), height);
+    if (viewportMargins().top() != height) {
+        setViewportMargins(0, height, 0, 0);
+    }
+}
+
+void RichTextEdit::resizeEvent(QResizeEvent *event) {
+    QTextEdit::resizeEvent(event);
+    placeNotice();
+}
+
+void RichTextEdit::keepColour() {
+    QTextCursor beginning(document());
+    if (!document()->isEmpty()) {
+        beginning.setPosition(1);
+        m_colour = beginning.charFormat().foreground();
+    } else if (m_colour != QBrush()) {
+        QTextCharFormat changes;
+        changes.setForeground(m_colour);
+        mergeCurrentCharFormat(changes);
+    }
+}
+
 /// The document tells of acts that change nothing, too: the content itself decides.
 void RichTextEdit::followContent() {
-    if (m_loading) {
+    if (m_loading || m_onlyBeginning) {
         return;
     }
+    keepColour();
     QString content = richtext::toRtf(*document());
     if (content != m_content) {
         m_content = std::move(content);
         Q_EMIT Change();
     }
+}
+
+QString RichTextEdit::Text() const {
+    return m_onlyBeginning ? richtext::plainText(m_content) : toPlainText();
 }
 
 void RichTextEdit::Select(int start, int length) {
@@ -122,6 +190,9 @@ void RichTextEdit::Select(int start, int length) {
 }
 
 void RichTextEdit::format(const QTextCharFormat &changes) {
+    if (m_onlyBeginning) {
+        return;
+    }
     mergeCurrentCharFormat(changes);
     if (signalsBlocked()) {
         document()->clearUndoRedoStacks();
@@ -202,7 +273,12 @@ void RichTextEdit::insertFromMimeData(const QMimeData *source) {
         return;
     }
     QTextCursor cursor = textCursor();
-    richtext::paste(cursor, *source, kDarkGround);
+    const qsizetype left = document()->characterCount() - SelLength();
+    const bool pasted = richtext::paste(cursor, *source, kDarkGround, kLongest - left);
+    notice(pasted ? QString()
+                  : QStringLiteral(
+                        "Ce texte est trop long pour être collé ici : le tout dépasserait un million de "
+                        "caractères."));
     setTextCursor(cursor);
     ensureCursorVisible();
 }

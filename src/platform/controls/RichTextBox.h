@@ -2,6 +2,7 @@
 
 #include "Placed.h"
 
+#include <QLabel>
 #include <QTextEdit>
 
 namespace platform::controls {
@@ -9,7 +10,8 @@ namespace platform::controls {
 /// A box of formatted text on a dark ground, edited in place: Ctrl+B, I and U set bold, italic and underline, and
 /// what is pasted or dropped keeps only what the box can show. Positions count characters from 0. What the
 /// programme does to the content with the signals of the box blocked is none of the user's changes, and cannot be
-/// undone.
+/// undone. Of a text of more than a million characters it shows the beginning, read-only and with a notice, and keeps
+/// the whole.
 class RichTextEdit : public QTextEdit {
     Q_OBJECT
 
@@ -19,9 +21,11 @@ public:
     /// Colour of the writing that has no colour of its own.
     void SetDefaultColor(const QColor &colour);
 
-    QString Text() const { return toPlainText(); }
+    /// The plain text of the whole content.
+    QString Text() const;
 
-    /// The content in RTF form; setting takes RTF or plain text, does not raise Change, and cannot be undone.
+    /// The content in RTF form, or a text of which only the beginning is shown, as it was set; setting takes RTF or plain
+    /// text, does not raise Change, and cannot be undone.
     QString TextRTF() const { return m_content; }
 
     void SetTextRTF(const QString &text);
@@ -35,7 +39,8 @@ public:
 
     QColor SelColor() const { return textCursor().charFormat().foreground().color(); }
 
-    /// Colour of the selection, or of what is typed next where nothing is selected.
+    /// Colour of the selection, or of what is typed next where nothing is selected. When the user has emptied the box,
+    /// what is typed next has the colour that the text began with.
     void SetSelColor(const QColor &colour);
 
     void SetSelBold(bool bold);
@@ -60,6 +65,7 @@ protected:
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     using KeyAction = void (RichTextEdit::*)();
@@ -68,13 +74,21 @@ private:
     static KeyAction actionOf(const QKeyEvent &event);
 
     void followContent();
+    void keepColour();
+    void showBeginning(bool only);
+    void notice(const QString &text);
+    void placeNotice();
     void format(const QTextCharFormat &changes);
     void toggleBold();
     void toggleItalic();
     void toggleUnderline();
 
-    QString m_content; ///< in RTF form
+    QString m_content; ///< in RTF form, but as it was set where only its beginning is shown
+    QBrush m_colour;   ///< that the text begins or began with
     bool m_loading = false;
+    bool m_onlyBeginning = false;
+    bool m_wasReadOnly = false; ///< before only the beginning was shown
+    QLabel m_notice{this};
 };
 
 using RichTextBox = Placed<RichTextEdit>;

@@ -1,6 +1,7 @@
 #include "TextBox.h"
 
 #include "Fonts.h"
+#include "LineInput.h"
 #include "SkinnedWindow.h"
 
 #include <QKeyEvent>
@@ -17,6 +18,7 @@ constexpr int kMargin = 3; // pixels that keep the text clear of the focus ring
 LineBox::LineBox(QWidget *parent) : QLineEdit(parent) {
     setFont(interfaceFont(Face::Verdana, 8.25));
     setTextMargins(kMargin, 0, kMargin, 0);
+    new LineInput(*this);
     QPalette colours = palette();
     colours.setColor(QPalette::Base, kPaper);
     colours.setColor(QPalette::Text, kInk);

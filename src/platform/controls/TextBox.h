@@ -6,7 +6,7 @@
 
 namespace platform::controls {
 
-/// A box of one line of plain text. textChanged(QString) tells of every change, by the user or by code.
+/// A box of one line of plain text, on which what the user brings stays one line. textChanged(QString) tells of every change, by the user or by code.
 class LineBox : public QLineEdit {
     Q_OBJECT
 

@@ -50,4 +50,9 @@ ToolWindow::ToolWindow(const QString &name, Extent size)
     });
 }
 
+void ToolWindow::NameQuit(const QString &name) {
+    Quit.setToolTip(name);
+    Quit.setAccessibleName(name);
+}
+
 } // namespace platform::controls

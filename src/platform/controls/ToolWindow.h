@@ -20,6 +20,9 @@ public:
     Image Icone;
     Ribbon Mini, Quit;
 
+    /// Says where Quit leads, on the screen and to screen readers.
+    void NameQuit(const QString &name);
+
 Q_SIGNALS:
     void MinimiseRequested();
 };

@@ -58,17 +58,13 @@ void Cursor::readSnapshot() {
 }
 
 void Cursor::readTable() {
-    // A key column that is the row number need not be read twice.
-    const int firstColumn = isRowNumber(0) ? 0 : 1;
-    QByteArray sql = firstColumn == 0 ? "SELECT " : "SELECT rowid, ";
+    QByteArray sql = "SELECT rowid";
     for (int column = 0; column < m_rows.columns(); ++column) {
-        sql += (column == 0 ? "" : ", ") + quotedName(m_source.columnName(column));
+        sql += ", " + columnName(column);
     }
-
     const QByteArray order = quotedName(m_table->orderColumn);
     const bool textOrder = !m_table->orderColumn.isEmpty() && hasCollation(m_table->orderColumn);
-    const int textColumn = textOrder ? keptColumn(m_table->orderColumn) : 0;
-    if (textOrder && textColumn == m_rows.columns()) {
+    if (textOrder) {
         sql += ", " + order;
     }
     sql += " FROM " + quotedName(m_table->table);
@@ -88,23 +84,14 @@ void Cursor::readTable() {
     RowCache::TextOrder texts(m_rows, m_connection->collation());
     sqlite3_stmt *row = rows.handle();
     while (rows.step()) {
-        m_rows.append(sqlite3_column_int64(row, 0), row, firstColumn);
+        m_rows.append(sqlite3_column_int64(row, 0), row, 1);
         if (textOrder) {
-            texts.append(row, firstColumn + textColumn);
+            texts.append(row, 1 + m_rows.columns());
         }
     }
     if (textOrder) {
         texts.apply(m_table->descending);
     }
-}
-
-/// The place of a column among those that are kept of each row; their number if it is none of them.
-int Cursor::keptColumn(const QByteArray &name) const {
-    int column = 0;
-    while (column < m_rows.columns() && name.compare(m_source.columnName(column), Qt::CaseInsensitive) != 0) {
-        ++column;
-    }
-    return column;
 }
 
 /// True for a column declared COLLATE NOCASE. The engine would take an unknown name in quotes for a text, so

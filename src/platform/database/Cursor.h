@@ -60,7 +60,6 @@ private:
     void readRows();
     void readTable();
     void readSnapshot();
-    int keptColumn(const QByteArray &name) const;
     bool hasCollation(const QByteArray &name) const;
     void requireRow();
     void requireTable() const;

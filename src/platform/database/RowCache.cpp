@@ -61,12 +61,8 @@ RowCache::Cell RowCache::store(sqlite3_stmt *statement, int column) {
 
 /// Copies bytes behind those that are kept; gives their place.
 qint64 RowCache::keep(std::string_view bytes) {
-    const qsizetype place = m_used;
-    m_used += qsizetype(bytes.size());
-    if (m_used > m_texts.size()) {
-        m_texts.resize(2 * m_used);
-    }
-    std::copy(bytes.begin(), bytes.end(), m_texts.data() + place);
+    const qsizetype place = m_texts.size();
+    m_texts.append(bytes.data(), qsizetype(bytes.size()));
     return place;
 }
 

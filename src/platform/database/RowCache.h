@@ -77,8 +77,7 @@ private:
     int m_columns;
     QList<Row> m_rows;
     QList<Cell> m_cells;
-    QByteArray m_texts; // of which the first bytes are used
-    qsizetype m_used = 0;
+    QByteArray m_texts;
 };
 
 /// The sort keys of the rows of a cache, gathered beside them: several times as fast as the engine's sorter, which calls

@@ -5,6 +5,7 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <limits>
 
 namespace platform::dialogs {
@@ -24,7 +25,11 @@ std::optional<QString> InputBox(QWidget *parent, const QString &title, const QSt
     field->setMaxLength(std::numeric_limits<int>::max());
     field->setMinimumWidth(kWidth);
     const FirstPressOnly guard(box);
-    return box.exec() == QDialog::Accepted ? std::optional(box.textValue()) : std::nullopt;
+    if (box.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    static const QRegularExpression lineEnd(QStringLiteral("\\r\\n|[\\n\\r\\x{2028}\\x{2029}]"));
+    return box.textValue().replace(lineEnd, QStringLiteral(" "));
 }
 
 } // namespace platform::dialogs

@@ -2,22 +2,25 @@
 
 #include "FileDialog.h"
 
+#include <QChildEvent>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QFileInfo>
-#include <QGroupBox>
-#include <QLineEdit>
+#include <QLabel>
+#include <QLayout>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QRegularExpression>
 #include <QSaveFile>
 #include <QStandardPaths>
-#include <utility>
+#include <QTabWidget>
+#include <algorithm>
 
 namespace platform::dialogs {
 
@@ -33,14 +36,16 @@ QString fileNameOf(const QString &title) {
     return (name.isEmpty() ? QStringLiteral("Recette") : name) + QStringLiteral(".pdf");
 }
 
-void draw(QPagedPaintDevice &device, const std::function<void(QPainter &)> &page,
-          const std::string &failure) {
+void draw(QPagedPaintDevice &device, const PrintTarget::Pages &pages, const std::string &failure) {
     device.setPageOrientation(QPageLayout::Portrait);
+    if (device.pageLayout().paintRect().isEmpty()) {
+        throw PrintError("Les marges ne laissent aucune place sur le papier.");
+    }
     QPainter painter;
     if (!painter.begin(&device)) {
         throw PrintError(failure);
     }
-    page(painter);
+    pages(painter, device);
     if (!painter.end()) {
         throw PrintError(failure);
     }
@@ -65,32 +70,98 @@ struct Destination {
     }
 };
 
-/// The print dialog, which only notes a choice: nothing is printed yet. Its parts are found by the names that the
-/// toolkit gives them.
+/// The print dialog, which only notes a choice: nothing is printed yet. It shows what has an effect on our pages alone. Its
+/// parts are found by the names that the toolkit gives them.
 class SetupDialog : public QPrintDialog {
 public:
-    SetupDialog(QPrinter &printer, const Destination &chosen, const QString &file, QWidget *parent)
-        : QPrintDialog(&printer, parent), m_pdf(chosen.format == QPrinter::PdfFormat) {
+    SetupDialog(QPrinter &printer, const Destination &chosen, QWidget *parent)
+        : QPrintDialog(&printer, parent),
+          m_pdf(chosen.format == QPrinter::PdfFormat),
+          m_destinations(part<QComboBox>(*this, "printers")),
+          m_options(optionsButton(*findChild<QDialogButtonBox *>())) {
         setWindowTitle(QStringLiteral("Configurer l'imprimante"));
         setOption(PrintCollateCopies, false);
         findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->setText(QStringLiteral("OK"));
-        findChild<QLineEdit *>(QStringLiteral("filename"))->setText(file);
+        connect(&m_destinations, &QComboBox::currentIndexChanged, this, [this] { adapt(); });
     }
 
 protected:
-    /// Just before it is shown, the dialog offers to choose among the pages, of which there is one, and after a choice of
-    /// PDF files starts from a printer.
+    /// Just before it is shown, the dialog brings back what was hidden, and after a choice of PDF files starts from a
+    /// printer.
     void showEvent(QShowEvent *event) override {
         QPrintDialog::showEvent(event);
-        findChild<QGroupBox *>(QStringLiteral("gbPrintRange"))->hide();
         if (m_pdf) {
-            auto *destinations = findChild<QComboBox *>(QStringLiteral("printers"));
-            destinations->setCurrentIndex(destinations->count() - 1);
+            m_destinations.setCurrentIndex(m_destinations.count() - 1);
         }
+        adapt();
+    }
+
+    /// The dialog of the properties is made anew after each choice.
+    void childEvent(QChildEvent *event) override {
+        if (event->added()) {
+            event->child()->installEventFilter(this);
+        }
+        QPrintDialog::childEvent(event);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override {
+        if (event->type() == QEvent::Show && watched->findChild<QRadioButton *>(kLandscape) != nullptr) {
+            adaptProperties(*watched);
+        }
+        return QPrintDialog::eventFilter(watched, event);
     }
 
 private:
+    static constexpr QLatin1String kLandscape{"landscape"};
+
+    template <class Part>
+    static Part &part(const QObject &dialog, const char *name) {
+        return *dialog.findChild<Part *>(QLatin1String(name));
+    }
+
+    static QPushButton &optionsButton(const QDialogButtonBox &box) {
+        const auto buttons = box.findChildren<QPushButton *>();
+        const auto opens = [&box](QPushButton *button) {
+            return box.buttonRole(button) == QDialogButtonBox::ResetRole;
+        };
+        return **std::find_if(buttons.begin(), buttons.end(), opens);
+    }
+
+    bool toFile() const { return m_destinations.currentIndex() == m_destinations.count() - 1; }
+
+    void adapt() {
+        // A file is named when it is printed; a name that is disabled is not looked at.
+        for (const char *name : {"filename", "fileBrowser", "lOutput", "gbPrintRange"}) {
+            part<QWidget>(*this, name).hide();
+        }
+        part<QWidget>(*this, "filename").setEnabled(false);
+        // Copies, sides and order of the pages are a printer's.
+        if (toFile() && part<QWidget>(*this, "tabs").isVisible()) {
+            m_options.click();
+        }
+        m_options.setVisible(!toFile());
+    }
+
+    void adaptProperties(QObject &properties) const {
+        auto &landscape = part<QRadioButton>(properties, "landscape");
+        if (landscape.isEnabled()) {
+            landscape.setEnabled(false);
+            auto *reason = new QLabel(QStringLiteral("Les pages s'impriment toujours debout."));
+            reason->setWordWrap(true);
+            landscape.parentWidget()->layout()->addWidget(reason);
+        }
+        if (toFile()) {
+            part<QWidget>(properties, "pagesPerSheetButtonGroup").hide();
+            auto &tabs = part<QTabWidget>(properties, "tabs");
+            for (int i = 1; i < tabs.count(); ++i) {
+                tabs.setTabVisible(i, false);
+            }
+        }
+    }
+
     bool m_pdf;
+    QComboBox &m_destinations;
+    QPushButton &m_options; // opens the lower half
 };
 
 } // namespace
@@ -106,30 +177,26 @@ QPrinter &PrintTarget::printer() {
     return *m_printer;
 }
 
-void PrintTarget::ShowPrinter(QWidget *parent, const QString &title) {
+void PrintTarget::ShowPrinter(QWidget *parent) {
     const Destination before(printer());
-    SetupDialog dialog(printer(), before, m_file.isEmpty() ? proposedFile(title) : m_file, parent);
-    if (dialog.exec() == QDialog::Accepted) {
-        m_file = printer().outputFormat() == QPrinter::PdfFormat ? printer().outputFileName() : QString();
-    } else {
+    if (SetupDialog(printer(), before, parent).exec() != QDialog::Accepted) {
         before.restore(printer());
     }
 }
 
-void PrintTarget::Print(QWidget *parent, const QString &title, const std::function<void(QPainter &)> &page) {
+QString PrintTarget::Print(QWidget *parent, const QString &title, const Pages &pages) {
     if (printer().outputFormat() != QPrinter::PdfFormat) {
-        printPage(title, page);
-        return;
+        printPages(title, pages);
+        return {};
     }
-    QString path = std::exchange(m_file, {});
-    if (path.isEmpty()) {
-        path = ShowSave(parent, QStringLiteral("Imprimer dans un fichier PDF"),
-                        QStringLiteral("Fichiers PDF|*.pdf"), proposedFile(title), QStringLiteral("pdf"));
-    }
+    const QString path =
+        ShowSave(parent, QStringLiteral("Imprimer dans un fichier PDF"), QStringLiteral("Fichiers PDF|*.pdf"),
+                 proposedFile(title), QStringLiteral("pdf"));
     if (!path.isEmpty()) {
-        writePdf(path, title, page);
+        writePdf(path, title, pages);
         m_folder = QFileInfo(path).absolutePath();
     }
+    return path;
 }
 
 QString PrintTarget::proposedFile(const QString &title) {
@@ -142,7 +209,7 @@ QString PrintTarget::proposedFile(const QString &title) {
     return m_folder + QLatin1Char('/') + fileNameOf(title);
 }
 
-void PrintTarget::printPage(const QString &title, const std::function<void(QPainter &)> &page) {
+void PrintTarget::printPages(const QString &title, const Pages &pages) {
     const QString name = printer().printerName();
     // What is printed on a printer that is gone is lost without a word.
     if (QPrinterInfo::printerInfo(name).isNull()) {
@@ -150,14 +217,13 @@ void PrintTarget::printPage(const QString &title, const std::function<void(QPain
     }
     const std::string failure = "L'impression a échoué.";
     printer().setDocName(title);
-    draw(printer(), page, failure);
+    draw(printer(), pages, failure);
     if (printer().printerState() == QPrinter::Error) {
         throw PrintError(failure);
     }
 }
 
-void PrintTarget::writePdf(const QString &path, const QString &title,
-                           const std::function<void(QPainter &)> &page) {
+void PrintTarget::writePdf(const QString &path, const QString &title, const Pages &pages) {
     const std::string failure = "Impossible d'écrire le fichier " + path.toStdString() + ".";
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly)) {
@@ -169,7 +235,7 @@ void PrintTarget::writePdf(const QString &path, const QString &title,
         writer.setResolution(kResolution);
         writer.setTitle(title);
         writer.setCreator(QCoreApplication::applicationName());
-        draw(writer, page, failure);
+        draw(writer, pages, failure);
     }
     if (!file.commit()) {
         throw PrintError(failure);

@@ -15,6 +15,9 @@ namespace platform::richtext {
 
 namespace {
 
+/// Wrapping at words takes time by the square of a run without a blank: a longer one may break anywhere.
+constexpr qsizetype kLongestRun = 10'000;
+
 /// A document looks at every item of a list for each one added: longer ones continue in a list of their own.
 constexpr int kLongestList = 200;
 
@@ -73,6 +76,36 @@ QTextBlockFormat blockFormat(const ParagraphStyle &style) {
         format.setTabPositions(tabs);
     }
     return format;
+}
+
+/// True where the text has a run without a blank that is too long to look for words in it.
+bool hasLongRun(const RichContent &content) {
+    qsizetype start = 0;
+    return std::any_of(
+        content.paragraphs.begin(), content.paragraphs.end(), [&](const RichContent::Paragraph &paragraph) {
+            const QStringView text = QStringView(content.text).sliced(start, paragraph.end - start);
+            start = paragraph.end;
+            qsizetype run = 0;
+            return std::any_of(text.begin(), text.end(), [&run](QChar character) {
+                run = character.isSpace() ? 0 : run + 1;
+                return run > kLongestRun;
+            });
+        });
+}
+
+void wrap(QTextDocument &document, QTextOption::WrapMode mode) {
+    QTextOption option = document.defaultTextOption();
+    if (option.wrapMode() != mode) {
+        option.setWrapMode(mode);
+        document.setDefaultTextOption(option);
+    }
+}
+
+/// To be called before the content is put in, since putting it in lays it out.
+void wrapAnywhereForLongRuns(QTextDocument &document, const RichContent &content) {
+    if (hasLongRun(content)) {
+        wrap(document, QTextOption::WrapAnywhere);
+    }
 }
 
 QTextListFormat listFormat(ListKind kind) {
@@ -165,6 +198,8 @@ void build(QTextDocument &document, const RichContent &content) {
     QTextCursor cursor(&document);
     cursor.beginEditBlock();
     document.clear();
+    wrap(document,
+         hasLongRun(content) ? QTextOption::WrapAnywhere : QTextOption::WrapAtWordBoundaryOrAnywhere);
     Filler(cursor, content).fill();
     cursor.endEditBlock();
     document.setUndoRedoEnabled(undo);
@@ -173,6 +208,7 @@ void build(QTextDocument &document, const RichContent &content) {
 
 void insert(QTextCursor &cursor, const RichContent &content) {
     cursor.beginEditBlock();
+    wrapAnywhereForLongRuns(*cursor.document(), content);
     cursor.removeSelectedText();
     Filler(cursor, content).fill();
     cursor.endEditBlock();
@@ -180,6 +216,7 @@ void insert(QTextCursor &cursor, const RichContent &content) {
 
 void insertPlain(QTextCursor &cursor, const RichContent &content) {
     cursor.beginEditBlock();
+    wrapAnywhereForLongRuns(*cursor.document(), content);
     cursor.removeSelectedText();
     qsizetype start = 0;
     for (const RichContent::Paragraph &paragraph : content.paragraphs) {

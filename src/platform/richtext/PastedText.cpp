@@ -8,6 +8,7 @@
 #include <QColor>
 #include <QMimeData>
 #include <QTextCursor>
+#include <QUrl>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -66,6 +67,10 @@ RichContent kept(RichContent content, const QColor &ground) {
     return content;
 }
 
+qsizetype lengthOf(const RichContent &content) {
+    return content.text.size() + qsizetype(content.paragraphs.size());
+}
+
 std::optional<RichContent> formatted(const QMimeData &data) {
     if (data.hasHtml()) {
         if (RichContent content = readHtml(data.html()); !content.text.isEmpty()) {
@@ -86,18 +91,32 @@ std::optional<RichContent> formatted(const QMimeData &data) {
 
 } // namespace
 
+bool holdsFiles(const QMimeData &data) {
+    const QList<QUrl> places = data.urls();
+    return std::any_of(places.begin(), places.end(), [](const QUrl &place) { return place.isLocalFile(); });
+}
+
 bool holdsText(const QMimeData &data) {
+    if (holdsFiles(data)) {
+        return false;
+    }
     return data.hasText() || data.hasHtml() ||
            std::any_of(kRtfTypes.begin(), kRtfTypes.end(),
                        [&](const char16_t *type) { return data.hasFormat(QStringView(type).toString()); });
 }
 
-void paste(QTextCursor &cursor, const QMimeData &data, const QColor &ground) {
-    if (const std::optional<RichContent> content = formatted(data)) {
+bool paste(QTextCursor &cursor, const QMimeData &data, const QColor &ground, qsizetype longest) {
+    const std::optional<RichContent> content = formatted(data);
+    const RichContent plain = content ? RichContent() : readPlain(data.text());
+    if (lengthOf(content ? *content : plain) > longest) {
+        return false;
+    }
+    if (content) {
         insert(cursor, kept(*content, ground));
-    } else if (const RichContent plain = readPlain(data.text()); !plain.text.isEmpty()) {
+    } else if (!plain.text.isEmpty()) {
         insertPlain(cursor, plain);
     }
+    return true;
 }
 
 } // namespace platform::richtext

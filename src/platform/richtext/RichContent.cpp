@@ -62,6 +62,10 @@ QString RichContent::plainText() const {
 
 void ContentCollector::append(QStringView text, const CharacterStyle &style) {
     const qsizetype start = m_content.text.size();
+    if (text.size() > room()) {
+        text.truncate(std::max<qsizetype>(room(), 0));
+        m_content.isWhole = false;
+    }
     if (std::all_of(text.begin(), text.end(), [](QChar c) { return isText(c.unicode()); })) {
         m_content.text += text;
     } else {
@@ -82,7 +86,12 @@ void ContentCollector::append(QStringView text, const CharacterStyle &style) {
     }
 }
 
+qsizetype ContentCollector::room() const {
+    return m_longest - m_content.text.size() - qsizetype(m_content.paragraphs.size());
+}
+
 void ContentCollector::endParagraph(ParagraphStyle style, const CharacterStyle &mark) {
+    m_content.isWhole = m_content.isWhole && room() >= 0;
     style.normalise();
     if (!keeps(style.tabs)) {
         style.tabs.clear();
@@ -152,8 +161,8 @@ QString familyName(QStringView name) {
     return result.trimmed().left(kLongestFamilyName).trimmed();
 }
 
-RichContent readPlain(QStringView text) {
-    ContentCollector collector;
+RichContent readPlain(QStringView text, qsizetype longest) {
+    ContentCollector collector(longest);
     const auto endsParagraph = [](QChar c) {
         return c == u'\n' || c == u'\r' || c == QChar::ParagraphSeparator;
     };
@@ -162,7 +171,7 @@ RichContent readPlain(QStringView text) {
         const qsizetype length = end - text.begin();
         collector.append(text.left(length), {});
         collector.endParagraph({}, {});
-        if (end == text.end()) {
+        if (end == text.end() || collector.isFull()) {
             return collector.take();
         }
         text = withoutBreak(text, length);

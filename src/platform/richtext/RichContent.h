@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 #include <QTextOption>
+#include <limits>
 #include <vector>
 
 namespace platform::richtext {
@@ -81,14 +82,21 @@ struct RichContent {
     std::vector<CharacterStyle> characterStyles;
     std::vector<ParagraphStyle> paragraphStyles;
     QStringList families;
+    bool isWhole = true; ///< false where the text was longer than it was to be read
 
     /// As QTextDocument::toPlainText() gives it.
     QString plainText() const;
 };
 
+/// No limit to the characters of a text.
+constexpr qsizetype kAnyLength = std::numeric_limits<qsizetype>::max();
+
 /// Collects a RichContent from front to back.
 class ContentCollector {
 public:
+    /// Takes so many characters at most, ends of paragraphs counted.
+    explicit ContentCollector(qsizetype longest = kAnyLength) : m_longest(longest) {}
+
     /// Adds characters to the current paragraph; those that a document cannot hold as text are left out.
     void append(QStringView text, const CharacterStyle &style);
     void endParagraph(ParagraphStyle style, const CharacterStyle &mark);
@@ -99,12 +107,17 @@ public:
 
     bool hasParagraphs() const { return !m_content.paragraphs.empty(); }
 
+    /// True when something had to be left out: nothing that comes can be taken any more.
+    bool isFull() const { return !m_content.isWhole; }
+
     RichContent take() { return std::move(m_content); }
 
 private:
     int indexOf(const CharacterStyle &style);
     bool keeps(const std::vector<TabStop> &tabs);
+    qsizetype room() const;
 
+    qsizetype m_longest;
     RichContent m_content;
     QHash<CharacterStyle, int> m_styles;
     QHash<QString, int> m_families;
@@ -117,7 +130,7 @@ bool isText(char16_t character);
 /// A family name as a font table can hold it, empty if nothing is left.
 QString familyName(QStringView name);
 
-/// The content of a text without formatting; LF, CR LF and CR end paragraphs.
-RichContent readPlain(QStringView text);
+/// The content of a text without formatting, up to so many characters; LF, CR LF and CR end paragraphs.
+RichContent readPlain(QStringView text, qsizetype longest = kAnyLength);
 
 } // namespace platform::richtext

@@ -8,8 +8,8 @@ namespace platform::richtext {
 
 namespace {
 
-RichContent read(QStringView stored) {
-    return isRtf(stored) ? readRtf(stored) : readPlain(stored);
+RichContent read(QStringView stored, qsizetype longest = kAnyLength) {
+    return isRtf(stored) ? readRtf(stored, longest) : readPlain(stored, longest);
 }
 
 } // namespace
@@ -18,8 +18,10 @@ bool isRtf(QStringView stored) {
     return stored.trimmed().startsWith(u"{\\rtf");
 }
 
-void load(QTextDocument &document, const QString &stored) {
-    build(document, read(stored));
+bool load(QTextDocument &document, const QString &stored, qsizetype longest) {
+    const RichContent content = read(stored, longest);
+    build(document, content);
+    return content.isWhole;
 }
 
 QString plainText(QStringView stored) {

@@ -28,7 +28,7 @@ struct Group {
 
 class RtfReader {
 public:
-    explicit RtfReader(QStringView source) : m_lexer(source) {}
+    RtfReader(QStringView source, qsizetype longest) : m_lexer(source), m_content(longest) {}
 
     RichContent read();
 
@@ -80,7 +80,7 @@ private:
 };
 
 RichContent RtfReader::read() {
-    while (!m_finished) {
+    while (!m_finished && !m_content.isFull()) {
         const RtfToken token = m_lexer.next();
         switch (token.kind) {
         case RtfToken::Kind::End:
@@ -389,8 +389,8 @@ void RtfReader::selectFont(int number) {
 
 } // namespace
 
-RichContent readRtf(QStringView source) {
-    return RtfReader(source).read();
+RichContent readRtf(QStringView source, qsizetype longest) {
+    return RtfReader(source, longest).read();
 }
 
 } // namespace platform::richtext

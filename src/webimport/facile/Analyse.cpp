@@ -2,6 +2,7 @@
 
 #include "ChargerPhoto.h"
 #include "Facile.h"
+#include "FichiersDePassage.h"
 #include "LirePage.h"
 #include "SansSaisie.h"
 
@@ -9,14 +10,12 @@
 #include "platform/controls/WaitPointer.h"
 #include "platform/webview/Engine.h"
 #include "store/Configuration.h"
-#include "store/Programme.h"
 #include "webimport/FichierTemporaire.h"
 #include "webimport/Marquage.h"
 #include "webimport/Page.h"
 #include "webimport/PageCommentee.h"
 #include "webimport/PageDebutFin.h"
 
-#include <QFile>
 #include <QSignalBlocker>
 #include <QUrl>
 
@@ -30,10 +29,6 @@ constexpr Twips kEcartLignes{50};
 constexpr Twips kHauteurDepart{1000}; // over which the rows scroll at first
 // A display server ends a program that gives a window too long a title.
 constexpr qsizetype kTitreLePlusLong = 200;
-
-QString CheminTemporaire() {
-    return store::DossierProgramme() + QStringLiteral("/temp.txt");
-}
 
 /// Tool tips would take tags of the page for their own.
 QString EnInfobulle(const QString &texte) {
@@ -100,8 +95,8 @@ void Montrer(Facile &fenetre, const ChampsPage &champs) {
 
 /// The page as it comes back from the temporary file, in whose characters the site is written.
 PageCapturee PasserParLeFichier(const Facile &fenetre, const QString &texte) {
-    EcrireTexte(CheminTemporaire(), texte);
-    return {.texte = LireTexte(CheminTemporaire()),
+    EcrireTexte(CheminPage(), texte);
+    return {.texte = LireTexte(CheminPage()),
             .adresse = fenetre.Navigateur->address().toString(QUrl::FullyEncoded),
             .site = {.accueil = store::AdresseComplete(store::PartnerSiteHome),
                      .hote = store::PartnerSiteHost.toString()}};
@@ -173,8 +168,7 @@ void PresserAnalyse(Facile &fenetre) {
     }
     fenetre.MontrerFiche();
     fenetre.MontrerAnalyse(false);
-    QFile::remove(CheminPhotoRecue());
-    QFile::remove(CheminTemporaire());
+    OterFichiersDePassage();
 }
 
 } // namespace webimport::facile

@@ -1,6 +1,7 @@
 #include "ChargerPhoto.h"
 
 #include "Facile.h"
+#include "FichiersDePassage.h"
 
 #include "platform/images/LoadPicture.h"
 #include "platform/webview/Engine.h"

@@ -15,10 +15,9 @@ QString SansBarres(QString titre) {
     return titre.replace(u'/', u' ').replace(u'\\', u' ');
 }
 
-void EnregistrerPhoto(const Facile &fenetre, const QString &nom) {
-    if (!fenetre.Photo.Picture().isNull()) {
-        pictures::EnregistrerPhoto(fenetre.Photo.Picture(), nom);
-    }
+QString EnregistrerPhoto(const Facile &fenetre, const QString &nom) {
+    const QImage &photo = fenetre.Photo.Picture();
+    return photo.isNull() ? nom : pictures::EnregistrerPhoto(photo, nom);
 }
 
 void CreerRecette(Facile &fenetre) {
@@ -30,7 +29,7 @@ void CreerRecette(Facile &fenetre) {
     fenetre.TitreRecette.SetText(SansBarres(fenetre.TitreRecette.Text()));
     store::RecetteSaisie saisie = entry::LireChamps(fenetre);
     const store::TextesNouveaux nouveaux = store::EnregistrerRecette(
-        saisie, store::kImport, [&fenetre](const QString &nom) { EnregistrerPhoto(fenetre, nom); });
+        saisie, store::kImport, [&fenetre](const QString &nom) { return EnregistrerPhoto(fenetre, nom); });
     fenetre.TitreRecette.SetText(saisie.titre);
     entry::ProposerNouveaux(fenetre, nouveaux);
 }

@@ -114,10 +114,6 @@ void PeindreOutil(Ribbon &outil, Panel &panneau, const char *dessin) {
 
 } // namespace
 
-QString CheminPhotoRecue() {
-    return store::DossierProgramme() + QStringLiteral("/photo.bmp");
-}
-
 Facile::Facile(browser::Frmmain &frm, platform::webview::Engine &moteur)
     : ToolWindow(QStringLiteral("Facile"), kWindowSize),
       Principale(frm),
@@ -152,6 +148,7 @@ Facile::Facile(browser::Frmmain &frm, platform::webview::Engine &moteur)
     SetHeading(QStringLiteral("Création facile"));
     Peindre();
     PeindreFiche();
+    OrdonnerFiche();
     Brancher();
     OuvrirNavigateur();
     // The photos of the recipes that are made here go there.
@@ -159,6 +156,17 @@ Facile::Facile(browser::Frmmain &frm, platform::webview::Engine &moteur)
 }
 
 Facile::~Facile() = default;
+
+/// From field to field as they lie, and to the two buttons from the last of them.
+void Facile::OrdonnerFiche() {
+    QWidget *avant = &TitreRecette;
+    for (QWidget *suivant : std::initializer_list<QWidget *>{
+             &DReal, &Liste(3), &Liste(4), &Liste(5), &Liste(0), &Liste(1), &Liste(2), &NomPhoto, &Qte(0),
+             &Qte2(0), &Ingre(0), &Saisie(0), &Saisie(1), &Revenir, &Creer}) {
+        setTabOrder(avant, suivant);
+        avant = suivant;
+    }
+}
 
 void Facile::Peindre() {
     SetStrips({kBarreOutils});
@@ -182,8 +190,7 @@ void Facile::Peindre() {
     Status.SetSquare();
     LPB.setFont(interfaceFont(Face::Verdana, 8.25));
     LPB.SetForeColor(kInk);
-    Quit.setToolTip(QStringLiteral("Revenir au menu principal"));
-    Quit.setAccessibleName(Quit.toolTip());
+    NameQuit(QStringLiteral("Revenir au menu principal"));
 }
 
 void Facile::PeindreFiche() {

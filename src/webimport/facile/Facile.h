@@ -24,9 +24,6 @@ class View;
 
 namespace webimport::facile {
 
-/// The file that a fetched picture passes through, whatever its format.
-QString CheminPhotoRecue();
-
 /// The window in which a recipe is taken from a page of the web. It has two faces: the browser, and the recipe that was
 /// read, which can be corrected. It holds controls; what it does is in Analyse.h (reading the page) and CreerRecette.h
 /// (the save). It closes itself, and keeps its page and its fields for the next time.
@@ -106,6 +103,7 @@ public:
 private:
     void Peindre();
     void PeindreFiche();
+    void OrdonnerFiche();
     void OuvrirNavigateur();
     void Brancher();
     void ReconnaitrePage();

@@ -26,9 +26,7 @@ EngineWeb::EngineWeb() {
 }
 
 QString EngineWeb::obstacle() const {
-    return canStartProcesses() ? QString()
-                               : QStringLiteral("Ce système ne permet pas au navigateur d'isoler les pages. "
-                                                "La variable QTWEBENGINE_DISABLE_SANDBOX=1 y fait renoncer.");
+    return sandboxObstacle();
 }
 
 std::unique_ptr<View> EngineWeb::makeView(QWidget &parent, const QString &folder, Events events) {

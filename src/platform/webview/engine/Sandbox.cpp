@@ -1,7 +1,5 @@
 #include "Sandbox.h"
 
-#include <QString>
-
 #include <sched.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -23,10 +21,25 @@ bool hasUserNamespaces() {
 
 } // namespace
 
-bool canStartProcesses() {
-    return qEnvironmentVariableIntValue("QTWEBENGINE_DISABLE_SANDBOX") == 1 ||
-           qEnvironmentVariable("QTWEBENGINE_CHROMIUM_FLAGS").contains(QStringLiteral("--no-sandbox")) ||
-           (geteuid() != 0 && hasUserNamespaces());
+QString sandboxObstacle() {
+    if (qEnvironmentVariableIntValue("QTWEBENGINE_DISABLE_SANDBOX") == 1 ||
+        qEnvironmentVariable("QTWEBENGINE_CHROMIUM_FLAGS").contains(QStringLiteral("--no-sandbox"))) {
+        return {};
+    }
+    if (geteuid() == 0) {
+        return QStringLiteral(
+            "Le programme est ouvert sous le compte de l'administrateur (root), et les pages du web y "
+            "seraient trop dangereuses.\n\n"
+            "Ce que vous pouvez faire : fermez-le, puis ouvrez-le sous votre propre compte.");
+    }
+    if (!hasUserNamespaces()) {
+        return QStringLiteral(
+            "Ce système ne permet pas au navigateur d'isoler les pages du web, qui pourraient donc "
+            "toucher à vos fichiers.\n\n"
+            "Ce que vous pouvez faire : demandez à qui s'occupe de cet ordinateur d'autoriser les "
+            "« espaces de noms d'utilisateur » (user namespaces), puis recommencez.");
+    }
+    return {};
 }
 
 } // namespace platform::webview

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <QString>
+
 namespace platform::webview {
 
-/// Whether the browser's processes can be locked in, as they insist on: the browser ends the whole program otherwise.
-/// True also where the user has switched that off.
-bool canStartProcesses();
+/// What keeps the browser's processes from being locked in, as they insist on (the browser ends the whole program
+/// otherwise), and what the user can do: a French text. Empty for nothing, and where the user has switched that off.
+QString sandboxObstacle();
 
 } // namespace platform::webview
