@@ -16,7 +16,7 @@ class Fenetres;
 struct Commande {
     using ToolWindow = platform::controls::ToolWindow;
 
-    browser::Outil outil;
+    browser::Outil outil{};
     /// Makes the window; null for a tool that acts at once. Throws what the constructor throws.
     std::unique_ptr<ToolWindow> (*faire)(Fenetres &) = nullptr;
     /// What a tool without a window does.

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <array>
-#include <ranges>
 #include <span>
 
 /// The book described once: its tables, their columns in their order, its indexes. The schema of a new book, what an
@@ -145,7 +144,12 @@ constexpr bool EnListe(const Champ &champ) {
 
 inline constexpr auto kCocktailsListe = [] {
     std::array<QStringView, std::ranges::count_if(kCocktails, EnListe)> noms;
-    std::ranges::transform(kCocktails | std::views::filter(EnListe), noms.begin(), &Champ::nom);
+    auto suivant = noms.begin();
+    for (const Champ &champ : kCocktails) {
+        if (EnListe(champ)) {
+            *suivant++ = champ.nom;
+        }
+    }
     return noms;
 }();
 inline constexpr std::array<QStringView, 1> kIngreRecette{u"Numero"};
