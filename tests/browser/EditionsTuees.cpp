@@ -77,12 +77,8 @@ void say(const char *word, std::size_t kind, const QString &value) {
     }
 }
 
-/// What the killed program has said of one kind of change: the last one done, and the one that it was at.
-struct Claim {
-    QString done, tried;
-};
-
-using Claims = std::array<Claim, kKinds.size()>;
+/// What the killed program may leave of each kind of change: the text of the last one done, and of the one that it was at.
+using Claims = std::array<QStringList, kKinds.size()>;
 
 /// Lets the editor run for some time and kills it. Gives the number of changes done, -1 if it did not even try one.
 int killOnce(const QString &folder, int firstTurn, Claims &claims) {
@@ -95,28 +91,23 @@ int killOnce(const QString &folder, int firstTurn, Claims &claims) {
     editor.waitForFinished();
     int done = -1;
     for (const QByteArray &line : editor.readAllStandardOutput().split('\n')) {
-        const QList<QByteArray> words = line.split(' ');
+        const QStringList words = QString::fromUtf8(line).split(u' ');
         if (words.size() < 3) {
             continue;
         }
-        done = std::max(done, 0);
-        Claim &claim = claims.at(words[1].toUInt());
-        claim.tried = QString::fromUtf8(words[2]);
-        if (words[0] == "done") {
-            claim.done = claim.tried;
-            ++done;
-        }
+        QStringList &claim = claims.at(words[1].toUInt());
+        claim = words[0] == u"done" ? QStringList{words[2]} : QStringList{claim[0], words[2]};
+        done = std::max(done, 0) + int(words[0] == u"done");
     }
     return done;
 }
 
-bool holds(const Kind &kind, const Claim &claim) {
+bool holds(const Kind &kind, const QStringList &claim) {
     const QString value = stored(kind);
-    if (value == claim.done || value == claim.tried) {
-        return true;
+    if (!claim.contains(value)) {
+        std::fprintf(stderr, "« %s » stored, « %s » shown\n", qPrintable(value), qPrintable(claim[0]));
     }
-    std::fprintf(stderr, "« %s » stored, « %s » shown\n", qPrintable(value), qPrintable(claim.done));
-    return false;
+    return claim.contains(value);
 }
 
 } // namespace
@@ -136,7 +127,7 @@ int main(int argc, char *argv[]) {
     while (done < wanted) {
         Claims claims;
         for (std::size_t kind = 0; kind < kKinds.size(); ++kind) {
-            claims.at(kind).done = claims.at(kind).tried = stored(kKinds.at(kind));
+            claims.at(kind) = {stored(kKinds.at(kind))};
         }
         const int round = killOnce(book.path({}), done + kills, claims);
         if (round < 0) {
