@@ -96,13 +96,6 @@ bool isWhole(const QList<QStringList> &book, const QList<QStringList> &complete)
     return true;
 }
 
-void setBook(const QByteArray &bytes) {
-    QFile::remove(store::CheminBase() + u"-journal"_qs);
-    QFile file(store::CheminBase());
-    file.open(QIODevice::WriteOnly);
-    file.write(bytes);
-}
-
 } // namespace
 
 int main() {
@@ -112,7 +105,8 @@ int main() {
     const QList<QStringList> complete = tables();
     int wait = 0;
     for (bool ended = false; !ended; ++wait) {
-        setBook(empty);
+        QFile::remove(store::CheminBase() + u"-journal"_qs);
+        writeFile(store::CheminBase(), empty);
         ended = saveAndDie(wait);
         const QList<QStringList> left = tables();
         if (!isWhole(left, complete) || (ended && left != complete)) {
