@@ -52,7 +52,6 @@ public:
 /// What the program's main() does.
 int startOurs(int argc, char **argv, const QString &folder) {
     const platform::desktop::SingleInstance instance(store::TitreProgramme.toString());
-    shell::LireDAvance(instance, folder);
     const QApplication application(argc, argv);
     store::DefinirDossierProgramme(folder);
     shell::PreparerApplication();

@@ -9,8 +9,6 @@
 #include "store/Programme.h"
 
 #include <QApplication>
-#include <QFile>
-#include <QFileInfo>
 #include <cstdlib>
 #include <exception>
 
@@ -31,13 +29,6 @@ auto guarded(Action action) {
     }
 }
 
-/// The folder of a program that was started by its path, empty for one that was found by its name. The application object,
-/// which knows it in any case, is not there yet.
-QString folderOf(const char *program) {
-    const QString path = QFile::decodeName(program);
-    return path.contains(u'/') ? QFileInfo(QFileInfo(path).canonicalFilePath()).path() : QString();
-}
-
 class Application : public QApplication {
 public:
     using QApplication::QApplication;
@@ -51,7 +42,6 @@ public:
 
 int main(int argc, char *argv[]) {
     const platform::desktop::SingleInstance instance(store::TitreProgramme.toString());
-    shell::LireDAvance(instance, folderOf(argv[0]));
     Application application(argc, argv);
     shell::PreparerApplication();
     return guarded([&instance] {

@@ -5,6 +5,7 @@
 #include "pictures/AjusterPhoto.h"
 #include "pictures/CheminPhoto.h"
 #include "platform/database/DatabaseError.h"
+#include "platform/images/LoadPicture.h"
 #include "store/AccesBase.h"
 #include "store/Livre.h"
 #include "store/Textes.h"
@@ -74,8 +75,8 @@ void AfficherClasse(Frmmain &frm, int data, std::span<const QStringView> vocabul
 /// opens.
 QImage PhotoLisible(const QString &chemin) {
     try {
-        return chemin.isEmpty() ? QImage() : LoadPicture(chemin);
-    } catch (const PictureError &) {
+        return chemin.isEmpty() ? QImage() : platform::images::LoadPicture(chemin);
+    } catch (const platform::images::PictureError &) {
         return {};
     }
 }
@@ -92,8 +93,8 @@ void AfficherPhoto(Frmmain &frm, const QString &valeur) {
     }
     frm.CadrePhoto.SetCaption({});
     frm.CadrePhoto.SetTag(chemin);
-    pictures::MontrerPhoto({frm.CadrePhoto.Width(), frm.CadrePhoto.Height()}, frm.Photo, frm.ImageTemp,
-                           photo);
+    frm.ImageTemp.SetPicture(photo);
+    pictures::MontrerPhoto({frm.CadrePhoto.Width(), frm.CadrePhoto.Height()}, frm.Photo, photo);
 }
 
 void AfficherTexte(RichTextBox &saisie, const QString &texte) {

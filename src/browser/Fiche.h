@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/controls/Twips.h"
+#include "platform/geometry/Twips.h"
 
 #include <QString>
 
@@ -13,7 +13,7 @@ inline const QString kTableRecettes = QStringLiteral("Cocktails");
 inline const QString kCleRecette = QStringLiteral("Numero");
 
 /// Between the rows of the detail and at its right and lower edge.
-inline constexpr platform::controls::Twips kMargeFiche{400};
+inline constexpr platform::geometry::Twips kMargeFiche{400};
 
 /// Shows the recipe of that number in the detail; the controls keep what they held when there is none. Throws
 /// DatabaseError, and std::out_of_range for a cost or difficulty outside its vocabulary.

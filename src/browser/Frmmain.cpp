@@ -10,6 +10,8 @@
 #include "platform/controls/FileDrop.h"
 #include "platform/controls/Fonts.h"
 #include "platform/controls/ToolWindow.h"
+#include "platform/controls/WhenPressed.h"
+#include "platform/images/ResourcePicture.h"
 #include "store/Configuration.h"
 #include "store/Vocabulaires.h"
 
@@ -20,6 +22,7 @@ namespace browser {
 namespace {
 
 using namespace platform::controls;
+using platform::images::resourcePicture;
 
 constexpr std::u16string_view kChangerImage = u"Cliquer ICI pour modifier l'image";
 
@@ -147,15 +150,13 @@ std::vector<QPixmap> ImagesDesVues() {
     return images;
 }
 
-const QColor kEncre(22, 33, 58);
-const QColor kFondPhoto(190, 206, 232);
 const QColor kCouleurPreparation(160, 250, 255);
 constexpr QPoint kBoutDuDoigt(10, 4);
 
 void PeindreValeur(Ribbon &bouton) {
     bouton.SetLook(Look::Value);
     bouton.setFont(interfaceFont(Face::Verdana, 8.25));
-    bouton.SetForeColor(kEncre);
+    bouton.SetForeColor(kInk);
 }
 
 // Black marks the button of the current view, and the pointer leaves it black.
@@ -220,7 +221,7 @@ Frmmain::Frmmain()
 
 void Frmmain::Peindre() {
     SetStrips({kBarreOutils});
-    Embleme.SetPicture(resourcePicture(QStringLiteral(":/icones/savorel.argb")).toImage());
+    Embleme.SetPicture(platform::images::programIcon().toImage());
     Enseigne.SetPicture(resourcePicture(QStringLiteral(":/themes/enseigne.argb")).toImage());
 
     const QFont titre = interfaceFont(Face::Verdana, 8.25, true);
@@ -232,7 +233,7 @@ void Frmmain::Peindre() {
     LTDroit.setFont(interfaceFont(Face::Verdana, 13, true));
     LTDroit.SetForeColor(Qt::white);
     LTCentre2.hide();
-    Scroll(1).SetBackColor(QColor(kListGround));
+    Scroll(1).SetBackColor(kListGround);
     // A recipe covers the theme of its group. Nothing is shown before a view is loaded.
     Scroll(0).raise();
     Scroll(0).hide();
@@ -246,7 +247,7 @@ void Frmmain::Peindre() {
     Chargement.SetSquare();
     Pb.SetSquare();
     Label1.setFont(titre);
-    Label1.SetForeColor(kEncre);
+    Label1.SetForeColor(kInk);
     Label1.setAlignment(Qt::AlignCenter);
     Chargement.hide();
 }
@@ -281,15 +282,15 @@ void Frmmain::PeindreFiche() {
     const QFont titre = interfaceFont(Face::Verdana, 8.25, true);
     Libelle.ForEach([&titre](Label &libelle) {
         libelle.setFont(titre);
-        libelle.SetForeColor(kEncre);
+        libelle.SetForeColor(kInk);
     });
     Data.ForEach(PeindreValeur);
     for (Array<Ribbon> *colonne : {&Quantite, &Mesure, &Ingre}) {
         PeindreValeur((*colonne)(0));
     }
     CadrePhoto.setFont(titre);
-    CadrePhoto.SetForeColor(kEncre);
-    CadrePhoto.SetBackColor(kFondPhoto);
+    CadrePhoto.SetForeColor(kInk);
+    CadrePhoto.SetBackColor(kLightGround);
     Photo.hide();
     ImageTemp.hide();
     Saisie(0).SetDefaultColor(kCouleurPreparation);
@@ -344,27 +345,15 @@ void Frmmain::ChargerLigne() {
 void Frmmain::BrancherBoutons() {
     for (int vue = 0; vue < Bouton.Count(); ++vue) {
         Ribbon &bouton = Bouton(vue);
-        connect(&bouton, &Ribbon::toggled, this, [this, vue] { PresserBouton(*this, vue); });
+        whenPressed(bouton, [this, vue] { PresserBouton(*this, vue); });
         connect(&bouton, &Ribbon::Entered, this, [&bouton] { Survoler(bouton, Qt::yellow); });
         connect(&bouton, &Ribbon::Exited, this, [&bouton] { Survoler(bouton, Qt::white); });
     }
     for (int index = 0; index < Outils.Count(); ++index) {
-        connect(&Outils(index), &Ribbon::toggled, this, [this, index](bool presse) {
-            if (presse) {
-                Q_EMIT OutilPresse(index);
-            }
-        });
+        whenPressed(Outils(index), [this, index] { Q_EMIT OutilPresse(index); });
     }
-    connect(&Btn_Quit, &Ribbon::toggled, this, [this](bool presse) {
-        if (presse) {
-            Q_EMIT FermetureDemandee();
-        }
-    });
-    connect(&Btn_Min, &Ribbon::toggled, this, [this](bool presse) {
-        if (presse) {
-            Q_EMIT ReductionDemandee();
-        }
-    });
+    whenPressed(Btn_Quit, [this] { Q_EMIT FermetureDemandee(); });
+    whenPressed(Btn_Min, [this] { Q_EMIT ReductionDemandee(); });
 }
 
 void Frmmain::BrancherListes() {

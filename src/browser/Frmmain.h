@@ -78,6 +78,7 @@ public:
     // The detail, in Scroll(0).
     Panel CadrePhoto;
     Image Photo;
+    /// Hidden; the photo last shown in any window, in its natural size.
     Image ImageTemp;
     Array<Label> Libelle;
     Array<Ribbon> Data;

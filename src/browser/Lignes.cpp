@@ -4,6 +4,7 @@
 #include "Frmmain.h"
 #include "Valeurs.h"
 
+#include "platform/controls/WhenPressed.h"
 #include "store/AccesBase.h"
 #include "store/Textes.h"
 
@@ -113,8 +114,7 @@ void BrancherListesDeLigne(Frmmain &frm) {
 
 void BrancherLigne(Frmmain &frm, int i) {
     for (const Colonne &colonne : kColonnes) {
-        Ribbon &bouton = (frm.*colonne.boutons)(i);
-        BrancherPression(frm, bouton, [&frm, &colonne, i] { OuvrirLigne(frm, colonne, i); });
+        whenPressed((frm.*colonne.boutons)(i), [&frm, &colonne, i] { OuvrirLigne(frm, colonne, i); });
     }
 }
 

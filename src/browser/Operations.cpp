@@ -130,7 +130,7 @@ void SupprimerDuHaut(Frmmain &frm) {
 }
 
 pictures::CadreImage CadreDe(Frmmain &frm) {
-    return {frm, {frm.CadrePhoto.Width(), frm.CadrePhoto.Height()}, frm.Photo, frm.ImageTemp};
+    return {frm, {frm.CadrePhoto.Width(), frm.CadrePhoto.Height()}, frm.Photo};
 }
 
 /// Stores the path of the picture chosen last, which is this recipe's unless the choice was broken off.
@@ -153,13 +153,18 @@ void AjouterValeur(Frmmain &frm, const Creation &creation) {
     ChargerRecettesVue(frm, creation.vue);
 }
 
+void MontrerChoix(Frmmain &frm) {
+    frm.ImageTemp.SetPicture(frm.Photo.Picture());
+    frm.CadrePhoto.SetCaption({});
+}
+
 void ChoisirPhoto(Frmmain &frm) {
     const pictures::Choix choix = pictures::ChoisirImage(CadreDe(frm), frm.DossierImages);
     if (choix != pictures::Choix::Illisible) {
         StockerPhoto(frm);
     }
     if (choix == pictures::Choix::Faite) {
-        frm.CadrePhoto.SetCaption({});
+        MontrerChoix(frm);
     }
 }
 
@@ -223,7 +228,7 @@ void DeposerPhoto(Frmmain &frm, const QString &fichier) {
     CacherListeModif(frm);
     if (pictures::PoserImage(CadreDe(frm), fichier) == pictures::Choix::Faite) {
         StockerPhoto(frm);
-        frm.CadrePhoto.SetCaption({});
+        MontrerChoix(frm);
     }
 }
 

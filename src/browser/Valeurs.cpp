@@ -4,11 +4,14 @@
 #include "Frmmain.h"
 #include "Vues.h"
 
+#include "platform/controls/WhenPressed.h"
+#include "platform/database/DatabaseError.h"
 #include "platform/dialogs/ColourDialog.h"
 #include "store/AccesBase.h"
 #include "store/Textes.h"
 
 #include <array>
+#include <stdexcept>
 
 namespace browser {
 
@@ -80,13 +83,22 @@ void ChoisirRecherche(Frmmain &frm, const ListeDeValeur &valeur, Ribbon &bouton)
     FermerListe(frm, liste, bouton);
 }
 
-/// Stores a value that the button shows already; a failure keeps the list open and says nothing.
-void StockerEnSilence(Frmmain &frm, const ListeDeValeur &valeur, Ribbon &bouton, const QVariant &choix) {
+/// Says nothing of a failure: false where the book cannot be written, or no recipe is selected.
+bool EcrireEnSilence(const Frmmain &frm, const QVariant &valeur, int position) {
     try {
-        EcrireFiche(frm, choix, valeur.position);
+        EcrireFiche(frm, valeur, position);
+        return true;
+    } catch (const platform::database::DatabaseError &) {
+    } catch (const std::out_of_range &) { // of NumeroDeLaFiche
+    }
+    return false;
+}
+
+/// Stores a value that the button shows already. After a failure the list stays open, and the button shows what was
+/// chosen until the recipe is shown again.
+void StockerEnSilence(Frmmain &frm, const ListeDeValeur &valeur, Ribbon &bouton, const QVariant &choix) {
+    if (EcrireEnSilence(frm, choix, valeur.position)) {
         FermerListe(frm, frm.*valeur.liste, bouton);
-    } catch (const std::exception &) {
-        // The button shows what was chosen, until the recipe is shown again.
     }
 }
 
@@ -127,12 +139,9 @@ void OuvrirValeur(Frmmain &frm, int index) {
     liste.Open();
 }
 
+/// After a failure the text stays in the box, and its next change tries again.
 void EnregistrerSaisie(Frmmain &frm, int index) {
-    try {
-        EcrireFiche(frm, frm.Saisie(index).TextRTF(), kPositionsSaisie.at(static_cast<std::size_t>(index)));
-    } catch (const std::exception &) {
-        // The text stays in the box, and its next change tries again.
-    }
+    EcrireEnSilence(frm, frm.Saisie(index).TextRTF(), kPositionsSaisie.at(static_cast<std::size_t>(index)));
 }
 
 /// Black leaves the selection as it is.
@@ -151,7 +160,7 @@ void BrancherValeur(Frmmain &frm, int index) {
     Ribbon &bouton = frm.Data(index);
     DropList &liste = frm.*ValeurDe(index).liste;
     const auto choisir = [&frm, index] { ChoisirValeur(frm, index); };
-    BrancherPression(frm, bouton, [&frm, index] { OuvrirValeur(frm, index); });
+    whenPressed(bouton, [&frm, index] { OuvrirValeur(frm, index); });
     QObject::connect(&liste, &DropList::Click, &frm, choisir);
     if (ValeurDe(index).entree == Entree::Confirme) {
         QObject::connect(&liste, &DropList::EnterPressed, &frm, choisir);
@@ -211,15 +220,6 @@ void FermerListe(Frmmain &frm, DropList &liste, Ribbon &bouton) {
 void MontrerValeur(Ribbon &bouton, const QString &texte) {
     bouton.SetCaption(texte);
     bouton.setToolTip(texte);
-}
-
-void BrancherPression(Frmmain &frm, Ribbon &bouton, const std::function<void()> &ouvrir) {
-    QObject::connect(&bouton, &Ribbon::toggled, &frm, [&bouton, ouvrir](bool presse) {
-        if (presse) {
-            ouvrir();
-            bouton.SetValue(false);
-        }
-    });
 }
 
 } // namespace browser

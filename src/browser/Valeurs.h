@@ -3,8 +3,6 @@
 #include "platform/controls/DropList.h"
 #include "platform/controls/RibbonButton.h"
 
-#include <functional>
-
 namespace browser {
 
 class Frmmain;
@@ -25,8 +23,5 @@ void FermerListe(Frmmain &frm, platform::controls::DropList &liste, platform::co
 
 /// Shows a value on its button, and in full in its tool tip.
 void MontrerValeur(platform::controls::Ribbon &bouton, const QString &texte);
-
-/// Lets a press of the button open what changes its value.
-void BrancherPression(Frmmain &frm, platform::controls::Ribbon &bouton, const std::function<void()> &ouvrir);
 
 } // namespace browser

@@ -6,10 +6,9 @@
 
 #include "platform/controls/WaitPointer.h"
 #include "platform/settings/Conversion.h"
-#include "platform/settings/Settings.h"
 #include "store/AccesBase.h"
 #include "store/Livre.h"
-#include "store/Programme.h"
+#include "store/Reglages.h"
 #include "store/Textes.h"
 
 namespace browser {
@@ -17,17 +16,11 @@ namespace browser {
 namespace {
 
 using namespace platform::controls;
-namespace settings = platform::settings;
-
-const QString kSection = QStringLiteral("Settings");
-const QString kTris = QStringLiteral("Tris");
 
 // In every lookup table the text column has the name of the table.
 QString ChampTexte(int vue, const QString &table) {
     return vue == 0 ? QStringLiteral("Recette") : table;
 }
-
-constexpr QStringView kIngredients = u"Ingredient";
 
 constexpr Twips kHauteurSeule{8300};
 constexpr Twips kHauteurHaute{3920};
@@ -135,43 +128,25 @@ void Renommer(const List &liste, int index, const QString &texte, const QString 
 } // namespace
 
 int VueCourante() {
-    return settings::ToInteger(
-        settings::GetSetting(store::TitreProgramme.toString(), kSection, kTris, QStringLiteral("0")));
+    return platform::settings::ToInteger(store::LireReglage(store::kTris));
 }
 
 void EnregistrerVue(int vue) {
-    settings::SaveSetting(store::TitreProgramme.toString(), kSection, kTris, QString::number(vue));
-}
-
-QStringList RequetesDeVue(int vue) {
-    const Vue *choisie = VueNumero(vue);
-    if (choisie == nullptr || choisie->table.isEmpty()) {
-        return {};
-    }
-    const QString table = choisie->table.toString();
-    QStringList requetes{store::RequeteListe(table, ChampTexte(vue, table))};
-    if (vue == 0) { // its first recipe is shown at once, with the lists to choose from
-        requetes.append(store::RequeteListe(kIngredients, kIngredients));
-    }
-    return requetes;
+    store::EnregistrerReglage(store::kTris, QString::number(vue));
 }
 
 void PresserBouton(Frmmain &frm, int vue) {
-    Ribbon &bouton = frm.Bouton(vue);
-    if (!bouton.Value()) {
+    const int courante = VueCourante();
+    if (courante == vue) {
         return;
     }
-    const int courante = VueCourante();
-    if (courante != vue) {
-        if (courante != kVueAucune) {
-            frm.Bouton(courante).SetForeColor(Qt::white);
-        }
-        frm.CleCourante.clear();
-        TrierListe(frm, vue);
-        EnregistrerVue(vue);
-        bouton.SetForeColor(Qt::black);
+    if (courante != kVueAucune) {
+        frm.Bouton(courante).SetForeColor(Qt::white);
     }
-    bouton.SetValue(false);
+    frm.CleCourante.clear();
+    TrierListe(frm, vue);
+    EnregistrerVue(vue);
+    frm.Bouton(vue).SetForeColor(Qt::black);
 }
 
 void TrierListe(Frmmain &frm, int vue) {

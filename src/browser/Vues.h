@@ -2,8 +2,6 @@
 
 #include "platform/controls/ListView.h"
 
-#include <QStringList>
-
 namespace browser {
 
 class Frmmain;
@@ -26,10 +24,7 @@ inline constexpr int kVueAucune = 99;
 int VueCourante();
 void EnregistrerVue(int vue);
 
-/// The queries of the longest lists that showing a view begins with; none for a number that is no view.
-QStringList RequetesDeVue(int vue);
-
-/// The event of Bouton(vue): makes the view current, if the button went down and the view is another one.
+/// The press of Bouton(vue): makes the view current, if it is another one.
 void PresserBouton(Frmmain &frm, int vue);
 
 /// Makes a view current: loads its rows into Liste and shows the first one. Throws DatabaseError.

@@ -7,6 +7,7 @@
 #include "browser/Vues.h"
 #include "pictures/ChoisirImage.h"
 #include "platform/controls/Fonts.h"
+#include "platform/controls/WhenPressed.h"
 
 #include <QSignalBlocker>
 #include <algorithm>
@@ -71,8 +72,6 @@ constexpr std::array kControles{
 constexpr int kLignes = 11;
 constexpr int kPas = 450; // twips from one ingredient line to the next: the last one ends where the texts end
 
-const QColor kEncre(22, 33, 58);
-const QColor kFondPhoto(190, 206, 232);
 const std::array kCouleursSaisie{QColor(0, 255, 255), QColor(255, 255, 255)};
 
 /// The row of the first ingredient line, moved down to another line.
@@ -137,16 +136,16 @@ void Manuelle::ChargerLignes() {
 
 void Manuelle::Peindre() {
     const QFont titre = interfaceFont(Face::Verdana, 8.25, true);
-    Scroll.SetBackColor(QColor(kListGround));
+    Scroll.SetBackColor(kListGround);
     Libelle.ForEach([&titre](Label &libelle) {
         libelle.setFont(titre);
-        libelle.SetForeColor(kEncre);
+        libelle.SetForeColor(kInk);
     });
     Rappel.setFont(interfaceFont(Face::Verdana, 8.25));
     Rappel.SetForeColor(Qt::white);
     CadrePhoto.setFont(titre);
-    CadrePhoto.SetForeColor(kEncre);
-    CadrePhoto.SetBackColor(kFondPhoto);
+    CadrePhoto.SetForeColor(kInk);
+    CadrePhoto.SetBackColor(kLightGround);
     CadrePhoto.SetReachable();
     Photo.setCursor(Principale.CurseurMain());
     Photo.hide();
@@ -187,17 +186,15 @@ void Manuelle::Brancher() {
     connect(&Scroll, &ScrollPanel::Clicked, this, [this] { CacherListes(*this); });
     connect(&Photo, &Image::Pressed, this, [this] { CacherListesDesLignes(*this); });
     connect(&CadrePhoto, &Panel::Clicked, this, &Manuelle::ChoisirPhoto);
-    connect(&Creer, &Ribbon::toggled, this, [this](bool presse) {
-        if (presse) {
-            PresserCreer(*this);
-        }
-    });
+    whenPressed(Creer, [this] { PresserCreer(*this); });
     connect(this, &SkinnedWindow::CloseRequested, this, &Manuelle::Quitter);
 }
 
 void Manuelle::ChoisirPhoto() {
-    pictures::ChoisirImage({*this, {CadrePhoto.Width(), CadrePhoto.Height()}, Photo, Principale.ImageTemp},
-                           Principale.DossierImages);
+    const pictures::CadreImage cadre{*this, {CadrePhoto.Width(), CadrePhoto.Height()}, Photo};
+    if (pictures::ChoisirImage(cadre, Principale.DossierImages) == pictures::Choix::Faite) {
+        Principale.ImageTemp.SetPicture(Photo.Picture());
+    }
     LegenderPhoto();
 }
 

@@ -48,17 +48,14 @@ Rectangle PlaceNumerisation(const Rectangle &cadre, Extent naturelle) {
     return Placer(cadre, naturelle, {Twips(10), Twips()});
 }
 
-void AjusterPhoto(Extent cadre, platform::controls::Image &photo,
-                  const platform::controls::PictureBox &imageTemp) {
-    photo.SetPlace(PlaceDansCadre(cadre, imageTemp.NaturalSize()));
+void AjusterPhoto(Extent cadre, platform::controls::Image &photo) {
+    photo.SetPlace(PlaceDansCadre(cadre, photo.NaturalSize()));
 }
 
-void MontrerPhoto(Extent cadre, platform::controls::Image &photo, platform::controls::PictureBox &imageTemp,
-                  const QImage &image) {
+void MontrerPhoto(Extent cadre, platform::controls::Image &photo, const QImage &image) {
     photo.hide();
     photo.SetPicture(image);
-    imageTemp.SetPicture(image);
-    AjusterPhoto(cadre, photo, imageTemp);
+    AjusterPhoto(cadre, photo);
     photo.show();
 }
 

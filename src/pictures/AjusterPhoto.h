@@ -19,13 +19,10 @@ platform::controls::Rectangle PlacePhotoScan(const platform::controls::Rectangle
 platform::controls::Rectangle PlaceNumerisation(const platform::controls::Rectangle &cadre,
                                                 platform::controls::Extent naturelle);
 
-/// Fits a picture control into its frame. The picture has been given to imageTemp before, whose unstretched
-/// size is its natural size.
-void AjusterPhoto(platform::controls::Extent cadre, platform::controls::Image &photo,
-                  const platform::controls::PictureBox &imageTemp);
+/// Fits the control of a picture into its frame.
+void AjusterPhoto(platform::controls::Extent cadre, platform::controls::Image &photo);
 
-/// Shows a picture, which must not be null, in its frame; imageTemp gets the same one.
-void MontrerPhoto(platform::controls::Extent cadre, platform::controls::Image &photo,
-                  platform::controls::PictureBox &imageTemp, const QImage &image);
+/// Shows a picture, which must not be null, in its frame.
+void MontrerPhoto(platform::controls::Extent cadre, platform::controls::Image &photo, const QImage &image);
 
 } // namespace pictures

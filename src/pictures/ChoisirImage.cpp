@@ -4,6 +4,7 @@
 
 #include "platform/dialogs/FileDialog.h"
 #include "platform/dialogs/MessageBox.h"
+#include "platform/images/LoadPicture.h"
 #include "store/Programme.h"
 
 #include <QDir>
@@ -44,14 +45,14 @@ Choix ChoisirImage(const CadreImage &cadre, QString &dossier) {
 Choix PoserImage(const CadreImage &cadre, const QString &fichier) {
     QImage image;
     try {
-        image = platform::controls::LoadPicture(fichier);
-    } catch (const platform::controls::PictureError &erreur) {
+        image = platform::images::LoadPicture(fichier);
+    } catch (const platform::images::PictureError &erreur) {
         dialogs::Message(&cadre.fenetre, store::TitreProgramme.toString(), QString::fromUtf8(erreur.what()),
                          dialogs::Icon::Exclamation);
         return Choix::Illisible;
     }
     cadre.photo.SetTag(QDir::toNativeSeparators(QFileInfo(fichier).absoluteFilePath()));
-    MontrerPhoto(cadre.cadre, cadre.photo, cadre.imageTemp, image);
+    MontrerPhoto(cadre.cadre, cadre.photo, image);
     return Choix::Faite;
 }
 

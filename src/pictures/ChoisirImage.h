@@ -4,12 +4,11 @@
 
 namespace pictures {
 
-/// A picture with its frame, in the window that shows it, and the hidden control that tells its natural size.
+/// A picture with its frame, in the window that shows it.
 struct CadreImage {
     QWidget &fenetre;
     platform::controls::Extent cadre;
     platform::controls::Image &photo;
-    platform::controls::PictureBox &imageTemp;
 };
 
 /// How a choice ended: with a picture shown, without a file, or with a file that is no picture.

@@ -1,6 +1,6 @@
 #include "FichierBmp.h"
 
-#include "platform/controls/Picture.h"
+#include "platform/images/LoadPicture.h"
 #include "store/Programme.h"
 
 #include <QFileInfo>
@@ -9,8 +9,8 @@
 
 namespace pictures {
 
-using platform::controls::LoadPicture;
-using platform::controls::PictureError;
+using platform::images::LoadPicture;
+using platform::images::PictureError;
 using platform::surface::Surface;
 
 namespace {

@@ -4,6 +4,7 @@
 
 #include "browser/Frmmain.h"
 #include "platform/controls/Fonts.h"
+#include "platform/controls/WhenPressed.h"
 #include "store/Textes.h"
 #include "store/Vocabulaires.h"
 
@@ -43,8 +44,6 @@ constexpr std::array kControles{
     ControlRow{"LNombre", 4920, 6795, 5640, 300},
     ControlRow{"LSuite", 4920, 7110, 5640, 300},
 };
-
-const QColor kEncre(22, 33, 58);
 
 void RemplirClasses(List &liste, std::span<const QStringView> classes) {
     liste.SetColumn(QStringLiteral("Titre"), liste.Width());
@@ -86,14 +85,14 @@ void FrmFind::Peindre() {
     Quit.setAccessibleName(Quit.toolTip());
     const auto peindre = [](auto &controle) {
         controle.setFont(interfaceFont(Face::Verdana, 8.25));
-        controle.SetForeColor(kEncre);
+        controle.SetForeColor(kInk);
     };
     Opt_Liste.ForEach(peindre);
     Choix.ForEach(peindre);
     Chk.ForEach(peindre);
     Libelle.ForEach([](Label &label) {
         label.setFont(interfaceFont(Face::Verdana, 9, true));
-        label.SetForeColor(kEncre);
+        label.SetForeColor(kInk);
     });
     Creer.SetLook(Look::Command);
     Creer.SetForeColor(Qt::black);
@@ -135,12 +134,7 @@ void FrmFind::Brancher(browser::Frmmain &frm) {
     connect(&Saisie, &TextBox::returnPressed, this, [this] { Creer.SetValue(true); });
     const auto *bas = new QShortcut(Qt::Key_Down, &Saisie, nullptr, nullptr, Qt::WidgetShortcut);
     connect(bas, &QShortcut::activated, this, &FrmFind::AllerAuxResultats);
-    connect(&Creer, &Ribbon::toggled, this, [this](bool presse) {
-        if (presse) {
-            Rechercher(*this);
-            Creer.SetValue(false);
-        }
-    });
+    whenPressed(Creer, [this] { Rechercher(*this); });
     connect(&Liste, &List::DblClick, this, [this, &frm] { MontrerResultat(*this, frm); });
 }
 

@@ -60,21 +60,6 @@ QString Requete(const FrmFind &fenetre) {
                                           : u"Select * From " + table + u" order by " + table + u" asc";
 }
 
-/// Takes the rows found into a list, which shows them at the end. Keys of a table are distinct.
-class Lignes {
-public:
-    explicit Lignes(List &liste) : m_lignes(liste) {}
-
-    void Clear() {} // done by the loading
-
-    void AddItem(const QString &cle, const QString &texte, int icone) {
-        m_lignes.AddDistinct(cle, texte, icone);
-    }
-
-private:
-    List::Loading m_lignes;
-};
-
 void AnnoncerNombre(FrmFind &fenetre) {
     const int nombre = fenetre.Liste.Count();
     const QString chiffre = nombre == 0 ? QStringLiteral("Aucun") : QLocale(QLocale::French).toString(nombre);
@@ -107,9 +92,11 @@ void ChoisirTable(FrmFind &fenetre, int index) {
 
 void Rechercher(FrmFind &fenetre) {
     const WaitPointer sablier;
-    Lignes lignes(fenetre.Liste);
-    store::ChargerResultats(Requete(fenetre), lignes, fenetre.IconeRecherche, fenetre.Choix(0).Value(),
-                            fenetre.Saisie.Text());
+    List::Loading lignes(fenetre.Liste);
+    for (const store::Resultat &trouve :
+         store::LireResultats(Requete(fenetre), fenetre.Choix(0).Value(), fenetre.Saisie.Text())) {
+        lignes.AddDistinct(trouve.cle, trouve.texte, fenetre.IconeRecherche); // keys of a table are distinct
+    }
     AnnoncerNombre(fenetre);
 }
 

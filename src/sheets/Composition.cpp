@@ -6,9 +6,9 @@ namespace sheets {
 
 namespace {
 
-using platform::controls::Extent;
-using platform::controls::Rectangle;
-using platform::controls::Twips;
+using platform::geometry::Extent;
+using platform::geometry::Rectangle;
+using platform::geometry::Twips;
 
 // Device pixels.
 constexpr qint32 kHautTitre = 100;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/controls/Twips.h"
+#include "platform/geometry/Twips.h"
 
 #include <QtGlobal>
 #include <array>
@@ -18,10 +18,10 @@ struct Rect {
 
 /// Places and sizes of the sheet's controls, in twips; all that the printed page depends on.
 struct Mesures {
-    using Rectangle = platform::controls::Rectangle;
-    using Extent = platform::controls::Extent;
+    using Rectangle = platform::geometry::Rectangle;
+    using Extent = platform::geometry::Extent;
 
-    platform::controls::Twips largeur; ///< inner width of the window
+    platform::geometry::Twips largeur; ///< inner width of the window
     Rectangle recette, cadrePhoto;
     Extent photo;
     std::array<Rectangle, 11> libelle; ///< there is none of index 6

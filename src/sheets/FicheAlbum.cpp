@@ -8,7 +8,9 @@
 #include "pictures/AjusterPhoto.h"
 #include "platform/controls/Fonts.h"
 #include "platform/controls/WaitPointer.h"
+#include "platform/controls/WhenPressed.h"
 #include "platform/dialogs/MessageBox.h"
+#include "platform/images/ResourcePicture.h"
 #include "store/Programme.h"
 
 #include <QFontMetrics>
@@ -72,10 +74,7 @@ constexpr Twips kEntreLignes{100};
 constexpr Twips kEntreBlocs{400};
 constexpr int kRepetition = 40; // ms between two recipes while a button is held down
 
-const QColor kEncre(22, 33, 58);
 const QColor kPapier(250, 248, 241);
-const QColor kFondTitre(214, 225, 242);
-const QColor kFondPhoto(190, 206, 232);
 const QColor kCouleurLibelle(0x80, 0x80, 0xFF);
 
 // What is read cannot be pressed: the pointer goes through it to the page, and Tab past it. A ribbon that is pressed
@@ -83,7 +82,7 @@ const QColor kCouleurLibelle(0x80, 0x80, 0xFF);
 void PreparerChamp(Ribbon &champ) {
     champ.SetLook(Look::Value);
     champ.setFont(interfaceFont(Face::Verdana, kPointsValeur));
-    champ.SetForeColor(kEncre);
+    champ.SetForeColor(kInk);
     champ.setFocusPolicy(Qt::NoFocus);
     champ.setAttribute(Qt::WA_TransparentForMouseEvents);
     QObject::connect(&champ, &Ribbon::toggled, &champ, [&champ] { champ.SetValue(false); });
@@ -121,16 +120,17 @@ void FicheAlbum::Peindre() {
     for (int index = 0; index < Navi.Count(); ++index) {
         Ribbon &bouton = Navi(index);
         bouton.SetLook(Look::Command);
-        bouton.SetPicture(resourcePicture(QString::fromLatin1(kDessins.at(static_cast<std::size_t>(index)))));
+        bouton.SetPicture(platform::images::resourcePicture(
+            QString::fromLatin1(kDessins.at(static_cast<std::size_t>(index)))));
         bouton.setFont(interfaceFont(Face::Verdana, kPointsLibelle));
-        bouton.SetForeColor(kEncre);
+        bouton.SetForeColor(kInk);
     }
     Scroll(0).SetBackColor(kPapier);
-    Recette.SetForeColor(kEncre);
-    Recette.SetBackColor(kFondTitre);
+    Recette.SetForeColor(kInk);
+    Recette.SetBackColor(kPaleGround);
     CadrePhoto.setFont(interfaceFont(Face::Verdana, kPointsLibelle));
-    CadrePhoto.SetForeColor(kEncre);
-    CadrePhoto.SetBackColor(kFondPhoto);
+    CadrePhoto.SetForeColor(kInk);
+    CadrePhoto.SetBackColor(kLightGround);
     Libelle.ForEach([](Label &libelle) {
         libelle.setFont(interfaceFont(Face::Verdana, kPointsLibelle, true));
         libelle.SetForeColor(kCouleurLibelle);
@@ -158,14 +158,7 @@ void FicheAlbum::Brancher() {
         [this] { ImprimerFiche(); },
     };
     for (int index = 0; index < Navi.Count(); ++index) {
-        Ribbon &bouton = Navi(index);
-        connect(&bouton, &Ribbon::toggled, this,
-                [&bouton, action = actions.at(static_cast<std::size_t>(index))](bool presse) {
-                    if (presse) {
-                        action();
-                        bouton.SetValue(false);
-                    }
-                });
+        whenPressed(Navi(index), actions.at(static_cast<std::size_t>(index)));
     }
     for (const int index : {0, 1}) {
         Navi(index).setAutoRepeat(true);
@@ -267,7 +260,7 @@ void FicheAlbum::MontrerPhoto() {
     Photo.SetTag(m_frm.Photo.Tag());
     m_frm.ImageTemp.SetPicture(image);
     if (!image.isNull()) {
-        pictures::AjusterPhoto({CadrePhoto.Width(), CadrePhoto.Height()}, Photo, m_frm.ImageTemp);
+        pictures::AjusterPhoto({CadrePhoto.Width(), CadrePhoto.Height()}, Photo);
     }
 }
 

@@ -5,7 +5,7 @@
 #include "FicheAlbum.h"
 
 #include "platform/controls/Fonts.h"
-#include "store/Vocabulaires.h"
+#include "store/Textes.h"
 
 #include <QFontMetricsF>
 #include <QPainter>

@@ -1,7 +1,7 @@
 #include "BarreOutils.h"
 
 #include "Fenetres.h"
-#include "Reglages.h"
+#include "OuvrirAdresse.h"
 #include "Sauvegarde.h"
 
 #include "platform/dialogs/MessageBox.h"
@@ -69,16 +69,15 @@ constexpr std::array<Action, 11> kActions{
     [](Fenetres &fenetres) { OuvrirOutil(fenetres, fenetres.Recherche()); },
     [](Fenetres &fenetres) { SauvegarderBase(fenetres.Principale); },
     [](Fenetres &fenetres) { RestaurerBase(fenetres.Principale); },
-    [](Fenetres &fenetres) { Ouvrir(fenetres.Principale, store::PartnerSiteHome); },
-    [](Fenetres &fenetres) { Ouvrir(fenetres.Principale, store::AuteurSite); },
+    [](Fenetres &fenetres) { OuvrirAdresse(fenetres.Principale, store::PartnerSiteHome); },
+    [](Fenetres &fenetres) { OuvrirAdresse(fenetres.Principale, store::AuteurSite); },
     [](Fenetres &fenetres) { fenetres.Accueil().ShowModal(); },
-    [](Fenetres &fenetres) { Ouvrir(fenetres.Principale, u"aide/index.htm"); },
+    [](Fenetres &fenetres) { OuvrirAdresse(fenetres.Principale, u"aide/index.htm"); },
 };
 
 void PresserOutil(Fenetres &fenetres, int index) {
     fenetres.Pop.FenetreOuverte = index;
     kActions.at(static_cast<std::size_t>(index))(fenetres);
-    fenetres.Principale.Outils(index).SetValue(false);
 }
 
 // Black under the pointer, blue at rest.

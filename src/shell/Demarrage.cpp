@@ -3,17 +3,20 @@
 #include "BarreOutils.h"
 #include "Fenetres.h"
 #include "FinDuProgramme.h"
+#include "Modes.h"
 #include "Reduction.h"
-#include "Reglages.h"
 #include "Sauvegarde.h"
 
 #include "browser/Vues.h"
 #include "platform/controls/Fonts.h"
 #include "platform/dialogs/French.h"
 #include "platform/dialogs/MessageBox.h"
+#include "platform/images/LoadPicture.h"
+#include "platform/images/ResourcePicture.h"
 #include "platform/settings/Conversion.h"
 #include "store/Livre.h"
 #include "store/Programme.h"
+#include "store/Reglages.h"
 #include "store/Textes.h"
 
 #include <QApplication>
@@ -94,9 +97,9 @@ void Centrer(browser::Frmmain &frm) {
 void Placer(browser::Frmmain &frm) {
     const auto [gaucheCentre, hautCentre] = PlaceCentree(frm);
     const Twips haut(
-        settings::ToSingle(Lire(kReglages, QStringLiteral("MainTop"), settings::ToText(hautCentre.value()))));
-    const Twips gauche(settings::ToSingle(
-        Lire(kReglages, QStringLiteral("MainLeft"), settings::ToText(gaucheCentre.value()))));
+        settings::ToSingle(store::LireReglage(store::kMainTop, settings::ToText(hautCentre.value()))));
+    const Twips gauche(
+        settings::ToSingle(store::LireReglage(store::kMainLeft, settings::ToText(gaucheCentre.value()))));
     frm.Move(gauche, haut);
     // The screen that the place was stored for may be gone, or the window was left half outside it.
     if (!EstSurUnEcran(frm.geometry())) {
@@ -106,15 +109,15 @@ void Placer(browser::Frmmain &frm) {
 
 // A background picture has no place in the window any more; a picture that cannot be read must not stop the start.
 void LireFondEcran() {
-    const QString fichier = Lire(kReglages, QStringLiteral("FondScreen"), {});
-    const QString dossier = Lire(kReglages, QStringLiteral("RepFondScreen"),
-                                 store::DossierProgramme() + QStringLiteral("/Fond Ecran/"));
+    const QString fichier = store::LireReglage(store::kFondScreen);
+    const QString dossier =
+        store::LireReglage(store::kRepFondScreen, store::DossierProgramme() + QStringLiteral("/Fond Ecran/"));
     if (fichier.isEmpty() || store::SansBlancs(fichier).endsWith(QDir::separator())) {
         return;
     }
     try {
-        LoadPicture(dossier + fichier);
-    } catch (const PictureError &) {
+        platform::images::LoadPicture(dossier + fichier);
+    } catch (const platform::images::PictureError &) {
     }
 }
 
@@ -131,8 +134,8 @@ void ChargerPremiereListe(browser::Frmmain &frm) {
 void Fermer(browser::Frmmain &frm) {
     Quitter(frm);
     frm.Btn_Quit.Release();
-    Enregistrer(kReglages, QStringLiteral("MainTop"), settings::ToText(frm.Top().value()));
-    Enregistrer(kReglages, QStringLiteral("MainLeft"), settings::ToText(frm.Left().value()));
+    store::EnregistrerReglage(store::kMainTop, settings::ToText(frm.Top().value()));
+    store::EnregistrerReglage(store::kMainLeft, settings::ToText(frm.Left().value()));
 }
 
 void ReduireTout(Fenetres &fenetres) {
@@ -168,7 +171,7 @@ void Brancher(Fenetres &fenetres) {
 // The word must be the French one: a truth is stored in the words of the user's language, and only there does the screen
 // open by itself.
 void AccueillirSiVoulu(Fenetres &fenetres) {
-    if (Lire(kReglages, kSplashAuto, QStringLiteral("0")) == QStringLiteral("Vrai")) {
+    if (store::LireReglage(store::kSplashAuto) == QStringLiteral("Vrai")) {
         fenetres.Accueil().ShowModal();
     }
 }
@@ -188,21 +191,12 @@ public:
 
 } // namespace
 
-void LireDAvance(const platform::desktop::SingleInstance &instance, const QString &dossier) {
-    if (dossier.isEmpty() || instance.IsRunningElsewhere()) {
-        return;
-    }
-    try {
-        store::LireDAvance(store::CheminBase(dossier), browser::RequetesDeVue(browser::VueCourante()));
-    } catch (const settings::ConversionError &) { // told where the view is loaded
-    }
-}
-
 void PreparerApplication() {
+    store::PreparerCle();
     QApplication::setApplicationName(Titre());
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setStyle(new Style(QStringLiteral("Fusion"))); // the application owns it
-    QApplication::setWindowIcon(resourcePicture(QStringLiteral(":/icones/savorel.argb")));
+    QApplication::setWindowIcon(platform::images::programIcon());
     substituteFonts();
     QApplication::setFont(interfaceFont(Face::Verdana, 8.25));
     dialogs::SpeakFrench(store::DossierProgramme() + QStringLiteral("/translations"));
@@ -230,9 +224,9 @@ void ChargerFrmmain(Fenetres &fenetres, const platform::desktop::SingleInstance 
         liste->setCursor(frm.CurseurMain());
     }
     frm.RemplirVocabulaires();
-    frm.Scroll(0).SetBackColor(QColor(kListGround));
-    frm.Liste.SetBackColor(QColor(kListGround));
-    frm.LFilms.SetBackColor(QColor(kListGround));
+    frm.Scroll(0).SetBackColor(kListGround);
+    frm.Liste.SetBackColor(kListGround);
+    frm.LFilms.SetBackColor(kListGround);
     ReprendreAncienLivre(frm);
     ChargerPremiereListe(frm);
     frm.show();

@@ -10,12 +10,8 @@ namespace shell {
 
 class Fenetres;
 
-/// Starts reading what the window will show first, on another thread; not where the program runs already, which may be
-/// using the book. To be called before the application is made, so that the reading goes on beside that.
-/// @param dossier the folder of the program; nothing is read where it is empty
-void LireDAvance(const platform::desktop::SingleInstance &instance, const QString &dossier);
-
-/// Gives a newly made application the program's name, look, fonts and language.
+/// Gives a newly made application the program's name, look, fonts and language; begins to derive the key of the book
+/// beside that.
 void PreparerApplication();
 
 /// The load step of the main window: shows the opening screen if the user wants it, tests the screen and the instance,

@@ -1,7 +1,7 @@
 #include "Fenetres.h"
 
 #include "Reduction.h"
-#include "Reglages.h"
+#include "Modes.h"
 
 #include "platform/webview/LoadEngine.h"
 #include "store/Programme.h"

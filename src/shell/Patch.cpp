@@ -1,9 +1,11 @@
 #include "Patch.h"
 
-#include "Reglages.h"
+#include "Modes.h"
 
 #include "browser/Frmmain.h"
 #include "platform/controls/Fonts.h"
+#include "platform/controls/WhenPressed.h"
+#include "platform/images/ResourcePicture.h"
 
 #include <array>
 
@@ -44,7 +46,7 @@ Patch::Patch(browser::Frmmain &frm)
 }
 
 void Patch::Peindre(const browser::Frmmain &frm) {
-    Icone.SetPicture(resourcePicture(QStringLiteral(":/icones/savorel.argb")).toImage());
+    Icone.SetPicture(platform::images::programIcon().toImage());
     for (Label *label : {&Label1, &Label2}) {
         label->setFont(interfaceFont(Face::Verdana, 8.25));
         label->SetForeColor(Qt::white);
@@ -71,18 +73,13 @@ int Patch::ModeChoisi() const {
 void Patch::Brancher(browser::Frmmain &frm) {
     connect(&OK, &Ribbon::Entered, this, [this] { OK.SetForeColor(Qt::blue); });
     connect(&OK, &Ribbon::Exited, this, [this] { OK.SetForeColor(Qt::black); });
-    connect(&OK, &Ribbon::toggled, this, [this, &frm](bool presse) {
-        if (presse) {
-            EnregistrerMode(ModeChoisi());
-            OK.SetValue(false);
-            frm.SetMode(ModeAffichage());
-        }
+    whenPressed(OK, [this, &frm] {
+        EnregistrerMode(ModeChoisi());
+        frm.SetMode(ModeAffichage());
     });
-    connect(&Quit, &Ribbon::toggled, this, [this](bool presse) {
-        if (presse) {
-            Quit.Release();
-            Unload();
-        }
+    whenPressed(Quit, [this] {
+        Quit.Release();
+        Unload();
     });
     connect(this, &SkinnedWindow::CloseRequested, this, &Patch::Unload);
 }

@@ -1,8 +1,9 @@
 #include "Progression.h"
 
-#include "Reglages.h"
+#include "Modes.h"
 
 #include "platform/controls/Fonts.h"
+#include "platform/images/ResourcePicture.h"
 #include "store/Programme.h"
 
 #include <QCoreApplication>
@@ -32,7 +33,7 @@ Progression::Progression(const QWidget &sur, const QString &travail)
       Pb(this, rowNamed(kControles, "Pb")) {
     SetHeading(store::TitreProgramme.toString());
     SetMode(ModeAffichage());
-    Icone.SetPicture(resourcePicture(QStringLiteral(":/icones/savorel.argb")).toImage());
+    Icone.SetPicture(platform::images::programIcon().toImage());
     Label1.SetCaption(travail);
     Label1.setFont(interfaceFont(Face::Verdana, 9));
     Label1.SetForeColor(Qt::white);

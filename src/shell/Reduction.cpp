@@ -3,6 +3,10 @@
 #include "BarreOutils.h"
 #include "Fenetres.h"
 
+#include "platform/database/DatabaseError.h"
+#include "platform/settings/Conversion.h"
+#include "platform/webview/LoadEngine.h"
+
 #include <QGuiApplication>
 
 #include <array>
@@ -16,7 +20,7 @@ using platform::controls::SkinnedWindow;
 using Ouverture = SkinnedWindow &(*)(Fenetres &);
 
 /// The window that each value of FenetreOuverte brings back. The values are tools of the toolbar, but the table is off by
-/// one from the search on, and always was: a backup brings the search window, the search window itself none.
+/// one from the search on: a backup brings the search window, the search window itself none.
 struct Retour {
     int outil;
     Ouverture ouvrir;
@@ -59,10 +63,12 @@ void Restaurer(Fenetres &fenetres) {
     fenetres.Principale.activateWindow();
     // It has done its part before a window comes back, which may stay open for long.
     fenetres.Pop.hide();
+    // Where a window cannot be made, the main window at least has come back.
     try {
         RouvrirFenetre(fenetres);
-    } catch (const std::exception &) {
-        // The main window at least has come back.
+    } catch (const platform::database::DatabaseError &) {
+    } catch (const platform::settings::ConversionError &) {
+    } catch (const platform::webview::WebViewError &) {
     }
     FermerLesOubliees(fenetres);
 }

@@ -4,8 +4,10 @@
 
 #include "browser/Frmmain.h"
 #include "browser/Vues.h"
+#include "platform/database/DatabaseError.h"
 #include "platform/dialogs/FileDialog.h"
 #include "platform/dialogs/MessageBox.h"
+#include "platform/settings/Conversion.h"
 #include "store/AncienLivre.h"
 #include "store/CopieFichier.h"
 #include "store/Programme.h"
@@ -13,6 +15,8 @@
 #include <QDir>
 #include <QFile>
 #include <QStandardPaths>
+
+#include <stdexcept>
 
 namespace shell {
 
@@ -55,7 +59,7 @@ QString CheminAncienLivre() {
 void RestaurerAncienLivre(browser::Frmmain &frm, const QString &fichier) {
     try {
         Convertir(frm, fichier, store::CheminAvantRestauration());
-    } catch (const std::exception &echec) {
+    } catch (const std::runtime_error &echec) { // of the old file, of the new book or of its place
         dialogs::Message(&frm, store::TitreProgramme.toString(), QString::fromUtf8(echec.what()),
                          dialogs::Icon::Exclamation);
     }
@@ -71,13 +75,15 @@ void RestaurerCopie(const QString &fichier) {
 }
 
 void RechargerListes(browser::Frmmain &frm) {
+    // A file that is no book of ours fails again, and loudly, at the next query.
     try {
         frm.CleCourante.clear();
         TrierListe(frm, browser::VueCourante());
-    } catch (const std::exception &) {
-        // A file that is no book of ours fails again, and loudly, at the next query.
-        frm.Chargement.hide();
+    } catch (const platform::database::DatabaseError &) {
+    } catch (const platform::settings::ConversionError &) {
+    } catch (const std::out_of_range &) { // of a recipe with a class that there is not
     }
+    frm.Chargement.hide();
 }
 
 } // namespace

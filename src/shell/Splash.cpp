@@ -1,11 +1,14 @@
 #include "Splash.h"
 
-#include "Reglages.h"
+#include "OuvrirAdresse.h"
 
 #include "platform/controls/Fonts.h"
+#include "platform/controls/WhenPressed.h"
+#include "platform/images/ResourcePicture.h"
 #include "platform/settings/Conversion.h"
 #include "store/Configuration.h"
 #include "store/Programme.h"
+#include "store/Reglages.h"
 
 #include <array>
 
@@ -43,14 +46,15 @@ Splash::Splash()
       SphashAuto(this, rowNamed(kControles, "SphashAuto")) {
     SetHeading(store::TitreProgramme.toString());
     Peindre();
-    SphashAuto.SetValue(platform::settings::ToBoolean(Lire(kReglages, kSplashAuto, QStringLiteral("True"))));
+    SphashAuto.SetValue(platform::settings::ToBoolean(store::LireReglage(store::kSplashAutoCoche)));
     Brancher();
     // Enter goes on to the book; the first button of the window would minimise it.
     Quit.setFocus();
 }
 
 void Splash::Peindre() {
-    Embleme.SetPicture(resourcePicture(QStringLiteral(":/icones/savorel-256.argb")).toImage());
+    Embleme.SetPicture(
+        platform::images::resourcePicture(QStringLiteral(":/icones/savorel-256.argb")).toImage());
     L.setFont(interfaceFont(Face::Verdana, 24, true));
     Label1.setFont(interfaceFont(Face::Verdana, 10));
     for (Label *label : {&L, &Label1}) {
@@ -68,23 +72,15 @@ void Splash::Peindre() {
 
 void Splash::Brancher() {
     connect(this, &SkinnedWindow::CloseRequested, this, &Splash::Unload);
-    connect(&SphashAuto, &QCheckBox::toggled, this,
-            [](bool coche) { Enregistrer(kReglages, kSplashAuto, platform::settings::ToText(coche)); });
+    connect(&SphashAuto, &QCheckBox::toggled, this, [](bool coche) {
+        store::EnregistrerReglage(store::kSplashAuto, platform::settings::ToText(coche));
+    });
     for (int index = 0; index < MesSofts.Count(); ++index) {
-        Ribbon &lien = MesSofts(index);
-        connect(&lien, &Ribbon::toggled, this, [this, &lien, index](bool presse) {
-            if (presse) {
-                Ouvrir(*this, store::kLiens[static_cast<std::size_t>(index)].adresse);
-                lien.SetValue(false);
-            }
+        whenPressed(MesSofts(index), [this, index] {
+            OuvrirAdresse(*this, store::kLiens[static_cast<std::size_t>(index)].adresse);
         });
     }
-    connect(&Orvane, &Ribbon::toggled, this, [this](bool presse) {
-        if (presse) {
-            Ouvrir(*this, store::AuteurSite);
-            Orvane.SetValue(false);
-        }
-    });
+    whenPressed(Orvane, [this] { OuvrirAdresse(*this, store::AuteurSite); });
 }
 
 } // namespace shell

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Vocabulaires.h"
+#include "Textes.h"
 
 #include <QString>
 #include <QStringList>

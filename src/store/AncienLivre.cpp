@@ -2,6 +2,7 @@
 
 #include "Livre.h"
 #include "Programme.h"
+#include "Schema.h"
 
 #include "platform/database/BulkInsert.h"
 #include "platform/jet/JetReader.h"
@@ -10,67 +11,11 @@
 #include <QSet>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <span>
 
 namespace store {
 
 namespace {
-
-enum class Sorte { Cle, Nombre, Texte };
-
-struct Colonne {
-    QStringView nom;
-    Sorte sorte = Sorte::Nombre;
-};
-
-constexpr std::array kCocktails{
-    Colonne{u"Numero", Sorte::Cle},        Colonne{u"Recette", Sorte::Texte},
-    Colonne{u"NCategorie", Sorte::Nombre}, Colonne{u"Nverre", Sorte::Nombre},
-    Colonne{u"Photo", Sorte::Texte},       Colonne{u"Nreal", Sorte::Nombre},
-    Colonne{u"preparation", Sorte::Texte}, Colonne{u"Deco", Sorte::Texte},
-    Colonne{u"Cout", Sorte::Nombre},       Colonne{u"difficulte", Sorte::Nombre},
-    Colonne{u"Teneur", Sorte::Nombre},     Colonne{u"NDureeReal", Sorte::Nombre},
-};
-constexpr std::array kIngre{
-    Colonne{u"Numero", Sorte::Nombre},
-    Colonne{u"NIngre", Sorte::Nombre},
-    Colonne{u"NQuantite", Sorte::Nombre},
-    Colonne{u"NMesure", Sorte::Nombre},
-};
-constexpr std::array kCategorie{Colonne{u"NCategorie", Sorte::Cle}, Colonne{u"Categorie", Sorte::Texte}};
-constexpr std::array kDureeReal{Colonne{u"NDureeReal", Sorte::Cle}, Colonne{u"DureeReal", Sorte::Texte}};
-constexpr std::array kVerre{
-    Colonne{u"NVerre", Sorte::Cle},   Colonne{u"Verre", Sorte::Texte},  Colonne{u"Verre2", Sorte::Texte},
-    Colonne{u"Verre3", Sorte::Texte}, Colonne{u"Verre4", Sorte::Texte},
-};
-constexpr std::array kRealisation{Colonne{u"NRealisation", Sorte::Cle},
-                                  Colonne{u"Realisation", Sorte::Texte}};
-constexpr std::array kVin{Colonne{u"NVIN", Sorte::Cle}, Colonne{u"VIN", Sorte::Texte}};
-constexpr std::array kIngredient{Colonne{u"NIngredient", Sorte::Cle}, Colonne{u"Ingredient", Sorte::Texte}};
-constexpr std::array kQuantite{Colonne{u"NQuantite", Sorte::Cle}, Colonne{u"Quantite", Sorte::Texte}};
-constexpr std::array kMesure{Colonne{u"NMesure", Sorte::Cle}, Colonne{u"Mesure", Sorte::Texte}};
-
-struct TableAncienne {
-    QStringView nom;
-    std::span<const Colonne> colonnes;
-};
-
-constexpr QStringView kTableDesRecettes = u"Cocktails";
-
-constexpr std::array kTables{
-    TableAncienne{kTableDesRecettes, kCocktails},
-    TableAncienne{u"Ingre", kIngre},
-    TableAncienne{u"Categorie", kCategorie},
-    TableAncienne{u"DureeReal", kDureeReal},
-    TableAncienne{u"Verre", kVerre},
-    TableAncienne{u"Realisation", kRealisation},
-    TableAncienne{u"VIN", kVin},
-    TableAncienne{u"Ingredient", kIngredient},
-    TableAncienne{u"Quantite", kQuantite},
-    TableAncienne{u"Mesure", kMesure},
-};
 
 /// Beyond it a real is not exact as a whole number.
 constexpr double kLimiteDesReels = 9007199254740992.0; // 2^53
@@ -100,35 +45,35 @@ public:
 
     void table(const QString &nom, const QStringList &colonnes) override {
         terminerTable();
-        const auto *const table = std::ranges::find_if(kTables, [&](const TableAncienne &candidate) {
-            return candidate.nom.compare(nom, Qt::CaseInsensitive) == 0;
+        const auto *const trouvee = std::ranges::find_if(kTables, [&](const Table *candidate) {
+            return candidate->nom.compare(nom, Qt::CaseInsensitive) == 0;
         });
-        if (table == kTables.end()) {
+        if (trouvee == kTables.end()) {
             throw platform::jet::JetError(u"Une table que personne n'attend : " + nom);
         }
-        m_colonnes = table->colonnes;
-        m_recettes = m_recettes || table->nom == kTableDesRecettes;
+        m_table = *trouvee;
+        m_recettes = m_recettes || m_table == &kCocktails;
 
         QStringList noms;
         m_places.clear();
-        for (const Colonne &colonne : m_colonnes) {
-            noms.append(colonne.nom.toString());
+        for (const Champ &champ : m_table->champs) {
+            noms.append(champ.nom.toString());
             const auto place = std::ranges::find_if(colonnes, [&](const QString &candidate) {
-                return candidate.compare(colonne.nom, Qt::CaseInsensitive) == 0;
+                return candidate.compare(champ.nom, Qt::CaseInsensitive) == 0;
             });
             m_places.append(place == colonnes.end() ? -1 : place - colonnes.begin());
         }
-        m_insertion.into(table->nom.toString(), noms);
+        m_insertion.into(m_table->nom.toString(), noms);
     }
 
     void row(const QVariantList &valeurs) override {
         QVariantList fiche;
-        for (size_t i = 0; i < m_colonnes.size(); ++i) {
+        for (size_t i = 0; i < m_table->champs.size(); ++i) {
             const qsizetype place = m_places[qsizetype(i)];
             const QVariant valeur = place < 0 ? QVariant() : valeurs[place];
-            fiche.append(m_colonnes[i].sorte == Sorte::Texte ? enTexte(valeur) : enNombre(valeur));
+            fiche.append(m_table->champs[i].sorte == Sorte::Texte ? enTexte(valeur) : enNombre(valeur));
         }
-        if (m_colonnes.front().sorte == Sorte::Cle && !prendreNumero(fiche.front())) {
+        if (m_table->champs.front().sorte == Sorte::Cle && !prendreNumero(fiche.front())) {
             fiche.front() = QVariant();
             m_sansNumero.append(fiche);
         } else {
@@ -172,7 +117,7 @@ private:
 
     platform::database::BulkInsert m_insertion;
     const ProgressionConversion &m_progression;
-    std::span<const Colonne> m_colonnes;
+    const Table *m_table = nullptr;
     /// The place of each of our columns among those of the old table, or -1.
     QList<qsizetype> m_places;
     QSet<qlonglong> m_numeros;
@@ -182,8 +127,8 @@ private:
 
 void remplir(const QString &source, const QString &destination, const ProgressionConversion &progression) {
     QStringList tables;
-    for (const TableAncienne &table : kTables) {
-        tables.append(table.nom.toString());
+    for (const Table *table : kTables) {
+        tables.append(table->nom.toString());
     }
     platform::database::Database base = OuvrirLivre(destination);
     Transfert transfert(base, progression);

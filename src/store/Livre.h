@@ -3,13 +3,13 @@
 #include "platform/database/Database.h"
 
 #include <QString>
-#include <QStringList>
 
 namespace store {
 
 /// Opens the book of the program folder, exclusively and for writing, with the French collation.
 ///
-/// It is opened for one operation and closed before the operation returns; a second open meanwhile fails.
+/// It is opened for one operation and closed before the operation returns; a second open meanwhile fails. A book of an
+/// older program is brought up to date first, one of a newer program is refused.
 /// @throws platform::database::DatabaseError
 platform::database::Database OuvrirLivre();
 
@@ -17,9 +17,8 @@ platform::database::Database OuvrirLivre();
 /// @throws platform::database::DatabaseError
 platform::database::Database OuvrirLivre(const QString &chemin);
 
-/// Starts reading a book beside the start of the program: what the queries give is ready, or soon will be, when it is
-/// first asked for. Never fails.
-void LireDAvance(const QString &chemin, const QStringList &requetes);
+/// Begins to derive the key of the book on another thread, beside the start of the program. Never fails.
+void PreparerCle();
 
 /// Makes an empty book: the ten tables without rows.
 /// @throws platform::database::DatabaseError when the file exists

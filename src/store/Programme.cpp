@@ -21,8 +21,8 @@ void DefinirDossierProgramme(const QString &dossier) {
     autreDossier() = dossier;
 }
 
-QString CheminBase(const QString &dossier) {
-    return dossier + QStringLiteral("/db.mdb");
+QString CheminBase() {
+    return DossierProgramme() + QStringLiteral("/db.mdb");
 }
 
 } // namespace store

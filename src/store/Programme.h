@@ -13,7 +13,7 @@ QString DossierProgramme();
 /// Puts another folder in its place, for a test or a tool.
 void DefinirDossierProgramme(const QString &dossier);
 
-/// The book: db.mdb in the folder of the program, or in the one given.
-QString CheminBase(const QString &dossier = DossierProgramme());
+/// The book: db.mdb in the folder of the program.
+QString CheminBase();
 
 } // namespace store

@@ -8,14 +8,18 @@ QString DoublerApostrophes(const QString &texte) {
     return QString(texte).replace(u'\'', QStringLiteral("''"));
 }
 
-QString SansBlancs(QStringView texte) {
+QStringView Rogner(QStringView texte) {
     while (texte.startsWith(u' ')) {
         texte = texte.sliced(1);
     }
     while (texte.endsWith(u' ')) {
         texte.chop(1);
     }
-    return texte.toString();
+    return texte;
+}
+
+QString SansBlancs(QStringView texte) {
+    return Rogner(texte).toString();
 }
 
 CleEcrite::CleEcrite(qint64 numero)

@@ -11,8 +11,22 @@ namespace store {
 /// A text as it goes between the quotes of a query: every ' doubled.
 QString DoublerApostrophes(const QString &texte);
 
-/// The text without the blanks around it; tabs and no-break blanks belong to it.
+/// The part of a text without the blanks around it; tabs and no-break blanks belong to it.
+QStringView Rogner(QStringView texte);
+
+/// The same as a text of its own.
 QString SansBlancs(QStringView texte);
+
+namespace detail {
+inline constexpr auto kPoints = [] {
+    std::array<char16_t, 855> points{};
+    points.fill(u'.');
+    return points;
+}();
+} // namespace detail
+
+/// 855 full stops: what is shown for no value and closes the choice lists. Never stored.
+inline const QStringView LignePointillee(detail::kPoints.data(), qsizetype(detail::kPoints.size()));
 
 /// The key of a row in a list: "N 12" for 12.
 QString CleDeListe(qint64 numero);

@@ -2,7 +2,7 @@
 
 #include "ErreurExecution.h"
 
-#include "platform/richtext/CodePages.h"
+#include "platform/codepages/CodePages.h"
 
 #include <QFile>
 
@@ -32,7 +32,7 @@ QByteArray EnregistrementDuTexte(const QString &texte) {
     octets += char(longueur & 0xFF);
     octets += char(longueur >> 8);
     for (const QChar c : texte) {
-        octets += char(platform::richtext::encodeWestern(c.unicode()).value_or('?'));
+        octets += char(platform::codepages::encodeWestern(c.unicode()).value_or('?'));
     }
     return octets;
 }
@@ -41,7 +41,7 @@ QString TexteDuFichier(const QByteArray &octets) {
     static const auto kTable = [] {
         std::array<QChar, kCaracteres> table;
         for (int i = 0; i < kCaracteres; ++i) {
-            table[std::size_t(i)] = platform::richtext::decode(kPageDeCodes, quint8(i));
+            table[std::size_t(i)] = platform::codepages::decode(kPageDeCodes, quint8(i));
         }
         return table;
     }();

@@ -70,7 +70,7 @@ void TexteIngredients::RemplacerPar(const QString &texte) {
 }
 
 void TexteIngredients::Rogner() {
-    const QStringView rogne = webimport::Rogner(m_texte);
+    const QStringView rogne = store::Rogner(m_texte);
     const qsizetype devant = rogne.data() - m_texte.constData();
     m_texte.truncate(devant + rogne.size());
     // A long text is moved only where there is something to take away, which its replaced part has no more.

@@ -32,13 +32,6 @@ QStringView Extrait(QStringView texte, qsizetype position, qsizetype longueur) {
     return Extrait(texte, position).left(longueur);
 }
 
-QStringView Rogner(QStringView texte) {
-    const auto estBlanc = [](QChar c) { return c == u' '; };
-    const auto *const debut = std::find_if_not(texte.begin(), texte.end(), estBlanc);
-    const auto fin = std::find_if_not(texte.rbegin(), std::make_reverse_iterator(debut), estBlanc).base();
-    return {debut, fin};
-}
-
 QString EnMajuscules(QStringView texte) {
     QString majuscules(texte.size(), Qt::Uninitialized);
     std::transform(texte.begin(), texte.end(), majuscules.begin(), [](QChar c) { return c.toUpper(); });

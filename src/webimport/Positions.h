@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/Textes.h"
+
 #include <QString>
 #include <QStringView>
 
@@ -21,8 +23,7 @@ QStringView Extrait(QStringView texte, qsizetype position);
 /// @throws ArgumentIncorrect for a negative length
 QStringView Extrait(QStringView texte, qsizetype position, qsizetype longueur);
 
-/// The text without the blanks around it; tabs and no-break blanks belong to it.
-QStringView Rogner(QStringView texte);
+using store::Rogner;
 
 /// Upper case character by character, so that positions stay: ß remains one character.
 QString EnMajuscules(QStringView texte);

@@ -1,7 +1,7 @@
 #include "LivreEssai.h"
 
 #include "browser/Fiche.h"
-#include "store/Vocabulaires.h"
+#include "store/Textes.h"
 
 #include <QImage>
 #include <QSignalSpy>

@@ -3,6 +3,7 @@
 
 #include "browser/Fiche.h"
 #include "browser/Valeurs.h"
+#include "store/Textes.h"
 #include "store/Vocabulaires.h"
 
 #include <QLineEdit>

@@ -7,6 +7,7 @@
 #include "platform/controls/ListView.h"
 #include "platform/controls/Picture.h"
 #include "platform/controls/RibbonButton.h"
+#include "platform/images/LoadPicture.h"
 
 #include <QApplication>
 #include <QBuffer>
@@ -172,7 +173,8 @@ private Q_SLOTS:
 
     void pictureIsTurnedAsItsOrientationSays() {
         const QTemporaryDir folder;
-        const QImage picture = LoadPicture(writeFile(folder.filePath(u"image.txt"_qs), turnedJpeg(6)));
+        const QImage picture =
+            platform::images::LoadPicture(writeFile(folder.filePath(u"image.txt"_qs), turnedJpeg(6)));
         QCOMPARE(picture.size(), QSize(16, 32));
         QVERIFY(picture.pixelColor(8, 4).red() > 200);
         QVERIFY(picture.pixelColor(8, 28).blue() > 200);

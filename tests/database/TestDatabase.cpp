@@ -4,6 +4,7 @@
 #include "platform/database/CreateDatabase.h"
 #include "platform/database/Database.h"
 #include "platform/database/DatabaseError.h"
+#include "platform/database/Transaction.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -14,6 +15,7 @@
 
 #include <algorithm>
 #include <array>
+#include <ctime>
 #include <memory>
 
 using namespace platform::database;
@@ -41,7 +43,18 @@ constexpr Collation kVowelBlind{
     [](std::string_view text, QByteArray &keys) { keys += withoutVowels(text).c_str(); },
 };
 
-const QString kByName = u"SELECT * From Plat order by Nom desc"_s;
+/// Processor time of this thread in an action, in nanoseconds; waiting for another thread takes none.
+template <class Action>
+qint64 workIn(Action action) {
+    const auto now = [] {
+        timespec time{};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+        return qint64(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
+    };
+    const qint64 begin = now();
+    action();
+    return now() - begin;
+}
 
 /// The end of a child process that runs a function.
 template <class Function>
@@ -73,8 +86,6 @@ private:
         database.Execute(u"INSERT INTO Plat VALUES (1, 'a', 'x', 0), (2, 'b', 'y', 0)"_s);
         return database;
     }
-
-    void startReading() const { StartReading(path(), connectString(), kBinaryCollation, {kByName}); }
 
     QStringList files() const { return QDir(m_folder->path()).entryList(QDir::Files); }
 
@@ -137,7 +148,7 @@ private Q_SLOTS:
                                  CreateDatabase(path(), connectString(), u"CREATE TABLE X (N)"_s));
         QCOMPARE(contentOf(path()), before);
         QVERIFY(QFile::remove(path()));
-        startReading();
+        PrepareKey(path(), connectString());
         QVERIFY_THROWS_EXCEPTION(DatabaseError, open());
         QVERIFY_THROWS_EXCEPTION(DatabaseError, CreateDatabase(path(), connectString(), u"CREATE X"_s));
         QVERIFY(files().isEmpty());
@@ -155,35 +166,33 @@ private Q_SLOTS:
         Database database = open();
         QCOMPARE(exitCodeOf(openFails), 1);
         QCOMPARE(openFails(), 1);
-        // The failed attempts, and reading ahead in vain, must not have dropped the lock.
-        startReading();
-        QCOMPARE(openFails(), 1);
+        // The failed attempts must not have dropped the lock.
         database.Execute(u"INSERT INTO Plat (Nom) VALUES ('a')"_s);
         QCOMPARE(exitCodeOf(openFails), 1);
         database.Close();
         QCOMPARE(openFails(), 0);
     }
 
-    void rowsReadAheadAreThoseOfTheFile() {
-        filled().Close();
-        startReading();
-        Database database = open();
-        Recordset rows = database.OpenRecordset(kByName);
-        rows.Edit();
-        rows.Fields(1) = u"bb"_s;
-        rows.Update();
-        QCOMPARE(texts(std::move(rows), 1) + texts(database.OpenRecordset(kByName), 2), u"bb ay x"_s);
-        database.Close();
+    void keyIsDerivedBesideAndOnlyForItsFile() {
+        // Made by other processes, so that this one knows none of their keys.
+        const QString other = m_folder->filePath(u"autre.mdb"_s);
+        const QString third = m_folder->filePath(u"tiers.mdb"_s);
+        QVERIFY(QFile::remove(path()));
+        for (const QString &name : {path(), other, third}) {
+            QCOMPARE(exitCodeOf([&] {
+                         CreateDatabase(name, connectString(), u"CREATE TABLE Plat (N)"_s);
+                         return 0;
+                     }),
+                     0);
+        }
+        PrepareKey(path(), connectString());
+        const qint64 prepared = workIn([this] { open(); });
+        const qint64 unprepared = workIn([&] { OpenDatabase(other, true, false, connectString()); });
+        QVERIFY2(2 * prepared < unprepared, qPrintable(u"%1 and %2 ns"_s.arg(prepared).arg(unprepared)));
 
-        startReading();
-        const QByteArray before = contentOf(path()); // the reader only reads, so it is whole
-        open().Execute(u"INSERT INTO Plat VALUES (3, 'c', 'z', 0)"_s);
-        QCOMPARE(texts(open().OpenRecordset(kByName), 1), u"c bb a"_s);
-        startReading();
-        open().Close();
-        writeFile(path(), before);
-        QCOMPARE(texts(open().OpenRecordset(kByName), 1), u"bb a"_s);
-        QCOMPARE(files(), QStringList{u"livre.mdb"_s});
+        PrepareKey(third, connectString());
+        writeFile(third, contentOf(path()));
+        OpenDatabase(third, true, false, connectString());
     }
 
     void closedDatabaseTakesItsRecordsetsAlong() {
@@ -264,6 +273,32 @@ private Q_SLOTS:
         rows.SetBookmark(rows.LastModified());
         QCOMPARE(rows.Fields(1).Text(), u"d"_s);
         QCOMPARE(rows.RecordCount(), 3);
+        QVERIFY_THROWS_EXCEPTION(DatabaseError, rows.SetBookmark(RowMark{99}));
+        QCOMPARE(rows.Fields(1).Text(), u"d"_s);
+    }
+
+    void addingToALargeTableReadsNothing() {
+        Database database = open();
+        database.Execute(
+            u"WITH RECURSIVE Suite(N) AS (SELECT 1 UNION ALL SELECT N + 1 FROM Suite WHERE N < 50000)"
+            " INSERT INTO Plat (N, Nom) SELECT N, 'a' FROM Suite"_s);
+        Recordset rows = database.OpenRecordset(u"SELECT * From Plat"_s);
+        const qint64 adding = workIn([&rows] {
+            rows.AddNew();
+            rows.Fields(u"Nom") = u"z"_s;
+            rows.Update();
+            rows.SetBookmark(rows.LastModified());
+        });
+        const qint64 reading = workIn([&rows] { QCOMPARE(rows.Fields(1).Text(), u"z"_s); });
+        QVERIFY2(5 * adding < reading, qPrintable(u"%1 and %2 ns"_s.arg(adding).arg(reading)));
+        rows.SetBookmark(RowMark{7});
+        QCOMPARE(rows.Fields(0).Number(), 7);
+
+        rows = database.OpenRecordset(u"SELECT * From Plat"_s);
+        rows.SetBookmark(RowMark{7});
+        database.Execute(u"DELETE FROM Plat WHERE N = 7"_s);
+        QVERIFY_THROWS_EXCEPTION(DatabaseError, rows.Edit());
+        QVERIFY_THROWS_EXCEPTION(DatabaseError, rows.RecordCount());
     }
 
     void changesWithoutUpdateAreGivenUp() {
@@ -305,6 +340,34 @@ private Q_SLOTS:
         Database readOnly = OpenDatabase(path(), false, true, connectString());
         QVERIFY_THROWS_EXCEPTION(DatabaseError, readOnly.Execute(u"DELETE * FROM Plat"_s));
         OpenDatabase(path(), false, false, connectString());
+    }
+
+    void transactionTakesEffectAsAWhole() {
+        const auto update = [](Database &database) {
+            database.Execute(u"ALTER TABLE Plat ADD COLUMN Source TEXT"_s);
+            database.SetUserVersion(3);
+        };
+        {
+            Database database = open();
+            const Transaction givenUp(database);
+            update(database);
+            QVERIFY_THROWS_EXCEPTION(DatabaseError, Transaction{database});
+        }
+        {
+            Database database = open();
+            const Transaction closedOver(database);
+            update(database);
+            database.Close();
+        }
+        QCOMPARE(open().UserVersion(), 0);
+        {
+            Database database = open();
+            Transaction transaction(database);
+            update(database); // which the column that is there already would make fail
+            transaction.commit();
+            QVERIFY_THROWS_EXCEPTION(DatabaseError, transaction.commit());
+        }
+        QCOMPARE(open().UserVersion(), 3);
     }
 
     void bulkInsertWritesAllOrNothing() {

@@ -202,9 +202,6 @@ private Q_SLOTS:
         useStream(table("Mesure", {"NMesure", "Mesure"}) + row({1, "pincée"_ba}) + kEnd);
         QVERIFY_THROWS_EXCEPTION(JetError, convert()); // no recipes
         QCOMPARE(books(), QStringList());
-        QVERIFY_THROWS_EXCEPTION(DatabaseError,
-                                 ConvertirAncienLivre(path(u"vieux.mdb"_s), u"/proc/nouveau.mdb"_s));
-
         useReader("exec sleep 60");
         const auto stop = [](qint64, qint64) { throw std::runtime_error("assez"); };
         QElapsedTimer timer;
@@ -212,13 +209,6 @@ private Q_SLOTS:
         QVERIFY_THROWS_EXCEPTION(std::runtime_error, convert(stop));
         QVERIFY2(timer.elapsed() < 5000, "the reader was waited for");
         QCOMPARE(books(), QStringList());
-    }
-
-    void anExistingFileStays() {
-        CreerLivre(CheminBase());
-        const QByteArray before = contentOf(CheminBase());
-        QVERIFY_THROWS_EXCEPTION(DatabaseError, convert());
-        QCOMPARE(contentOf(CheminBase()), before);
     }
 
     void fullDisk() {

@@ -1,6 +1,6 @@
 #include "Files.h"
 
-#include "platform/controls/Picture.h"
+#include "platform/images/LoadPicture.h"
 #include "platform/metafile/Metafile.h"
 
 #include <QElapsedTimer>
@@ -12,8 +12,8 @@
 #include <initializer_list>
 
 using namespace platform::metafile;
-using platform::controls::LoadPicture;
-using platform::controls::PictureError;
+using platform::images::LoadPicture;
+using platform::images::PictureError;
 
 namespace {
 

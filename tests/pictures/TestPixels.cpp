@@ -3,7 +3,7 @@
 #include "pictures/FichierBmp.h"
 #include "pictures/Miroirs.h"
 #include "pictures/Rotation.h"
-#include "platform/controls/Picture.h"
+#include "platform/images/LoadPicture.h"
 #include "store/Programme.h"
 
 #include <QRandomGenerator>
@@ -14,7 +14,7 @@
 #include <vector>
 
 using namespace pictures;
-using platform::controls::PictureError;
+using platform::images::PictureError;
 using platform::surface::Surface;
 
 namespace {

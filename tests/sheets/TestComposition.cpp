@@ -3,9 +3,9 @@
 #include <QTest>
 
 using namespace sheets;
-using platform::controls::Extent;
-using platform::controls::Rectangle;
-using platform::controls::Twips;
+using platform::geometry::Extent;
+using platform::geometry::Rectangle;
+using platform::geometry::Twips;
 
 namespace {
 

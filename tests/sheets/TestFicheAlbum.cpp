@@ -1,7 +1,7 @@
 #include "LivreDeFiches.h"
 #include "Meanwhile.h"
 
-#include "store/Vocabulaires.h"
+#include "store/Textes.h"
 
 #include <QFileDialog>
 #include <QMessageBox>

@@ -2,7 +2,6 @@
 
 #include "sheets/Composition.h"
 #include "sheets/Impression.h"
-#include "store/Vocabulaires.h"
 
 #include <QPainter>
 #include <QPdfWriter>

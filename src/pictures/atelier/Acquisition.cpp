@@ -4,6 +4,8 @@
 
 #include "platform/controls/FileDrop.h"
 #include "platform/controls/Fonts.h"
+#include "platform/controls/WhenPressed.h"
+#include "platform/images/ResourcePicture.h"
 
 #include <QShortcut>
 
@@ -92,7 +94,8 @@ void Acquisition::Peindre() {
     for (int index = 0; index < Btn_ScanS.Count(); ++index) {
         Ribbon &bouton = Btn_ScanS(index);
         bouton.SetLook(Look::Tile);
-        bouton.SetPicture(resourcePicture(QStringLiteral(":/icones/atelier-%1.argb").arg(index)));
+        bouton.SetPicture(
+            platform::images::resourcePicture(QStringLiteral(":/icones/atelier-%1.argb").arg(index)));
         bouton.setFont(interfaceFont(Face::Verdana, 9.75));
         bouton.SetForeColor(Qt::darkBlue);
     }
@@ -128,18 +131,14 @@ void Acquisition::Brancher() {
 
 void Acquisition::BrancherBouton(int index) {
     Ribbon &bouton = Btn_ScanS(index);
-    connect(&bouton, &Ribbon::toggled, this, [this, index] { Presser(index); });
+    whenPressed(bouton, [this, index] { Presser(index); });
     connect(&bouton, &Ribbon::Entered, this, [&bouton] { bouton.SetForeColor(Qt::red); });
     connect(&bouton, &Ribbon::Exited, this, [&bouton] { bouton.SetForeColor(Qt::darkBlue); });
 }
 
 void Acquisition::Presser(int index) {
-    Ribbon &bouton = Btn_ScanS(index);
-    if (bouton.Value()) {
-        kActions.at(static_cast<std::size_t>(index))(*this);
-        bouton.SetValue(false);
-        bouton.SetForeColor(Qt::black);
-    }
+    kActions.at(static_cast<std::size_t>(index))(*this);
+    Btn_ScanS(index).SetForeColor(Qt::black);
 }
 
 void Acquisition::PermettreOperations() {

@@ -9,6 +9,7 @@
 #include "platform/controls/WaitPointer.h"
 #include "platform/dialogs/FileDialog.h"
 #include "platform/dialogs/MessageBox.h"
+#include "platform/images/LoadPicture.h"
 #include "platform/scandialogs/ImageSource.h"
 #include "store/Programme.h"
 
@@ -18,12 +19,16 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 
+#include <new>
+
 namespace pictures::atelier {
 
 namespace {
 
 using namespace platform::controls;
 namespace dialogs = platform::dialogs;
+using platform::images::LoadPicture;
+using platform::images::PictureError;
 using platform::surface::Surface;
 
 using Ajustement = Rectangle (*)(const Rectangle &, Extent);
@@ -111,7 +116,7 @@ void Enregistrer(Acquisition &fenetre, const QString &nom) {
     try {
         EcrireBmp(fenetre.PhotoScan2, nom);
         fenetre.PhotoScan.SetPicture(LoadPicture(nom));
-    } catch (const std::exception &) {
+    } catch (const PictureError &) {
         // The picture stays on screen.
     }
 }
@@ -158,8 +163,9 @@ void OuvrirFichier(Acquisition &fenetre, const QString &nom) {
     fenetre.PhotoScan.SetTag(nom);
     try {
         fenetre.PhotoScan1.setPicture(nom.isEmpty() ? QImage() : LoadPicture(nom));
-    } catch (const std::exception &) {
+    } catch (const PictureError &) {
         // The picture before is shown again.
+    } catch (const std::bad_alloc &) { // a picture larger than the memory, likewise
     }
     fenetre.PhotoScan2 = fenetre.PhotoScan1;
     AjusterPhotoScan(fenetre);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Twips.h"
+#include "platform/geometry/Twips.h"
 
 #include <QStringView>
 #include <array>
@@ -8,6 +8,15 @@
 #include <string_view>
 
 namespace platform::controls {
+
+// Controls are measured and placed in twips throughout.
+using geometry::Extent;
+using geometry::IntegerHalf;
+using geometry::kTwipsPerPixel;
+using geometry::kWindowSize;
+using geometry::Rectangle;
+using geometry::Twips;
+using geometry::twipsPerPixel;
 
 /// One row of a window's table of controls: its name ("Outils(2)" for an element of an array), its place in
 /// its parent in twips, and its texts. accessible is what a screen reader says of a control without visible

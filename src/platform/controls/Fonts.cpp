@@ -1,6 +1,6 @@
 #include "Fonts.h"
 
-#include "Twips.h"
+#include "ControlTable.h"
 
 #include <QStringList>
 #include <algorithm>

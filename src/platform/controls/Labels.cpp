@@ -6,8 +6,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-#include <algorithm>
-
 namespace platform::controls {
 
 namespace {
@@ -66,18 +64,9 @@ void CaptionPanel::SetReachable() {
 void CaptionPanel::SetFloodPercent(double percent) {
     const int whole = qBound(0, static_cast<int>(percent), 100);
     if (whole != m_flood) {
-        const QRect before = flooded();
         m_flood = whole;
-        // The part that changes is painted at once, and alone: the user waits for the records, not for the panel.
-        const QRect after = flooded();
-        repaint(before.united(after).adjusted(std::min(before.width(), after.width()), 0, 0, 0));
+        repaint();
     }
-}
-
-/// The part of the panel that is flooded.
-QRect CaptionPanel::flooded() const {
-    return {kFloodInset, kFloodInset, (width() - 2 * kFloodInset) * m_flood / 100,
-            height() - 2 * kFloodInset};
 }
 
 void CaptionPanel::paintEvent(QPaintEvent * /*event*/) {
@@ -87,7 +76,9 @@ void CaptionPanel::paintEvent(QPaintEvent * /*event*/) {
     }
     if (m_flood > 0) {
         const QColor accent = skinAround(*this).accent;
-        paintBlock(painter, flooded(), 0, accent.lighter(120), accent, QColor());
+        const QRect flood(kFloodInset, kFloodInset, (width() - 2 * kFloodInset) * m_flood / 100,
+                          height() - 2 * kFloodInset);
+        paintBlock(painter, flood, 0, accent.lighter(120), accent, QColor());
     }
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, foregroundRole()));
     painter.setOpacity(isEnabled() ? 1.0 : 0.45);

@@ -69,8 +69,6 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
 
 private:
-    QRect flooded() const;
-
     QString m_caption;
     QColor m_ground = Qt::transparent;
     double m_radius = 4;

@@ -4,26 +4,8 @@
 
 #include <QImage>
 #include <QPixmap>
-#include <stdexcept>
 
 namespace platform::controls {
-
-/// A file that holds no picture that can be shown; what() is a French text in UTF-8.
-class PictureError : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
-
-/// Reads a picture by the content of the file, not by the ending of its name, turned as its EXIF orientation
-/// says; of several, the first. A metafile is drawn in its natural size. Throws PictureError for a file that is
-/// no picture, or one of more than 200 megapixels.
-QImage LoadPicture(const QString &path);
-
-/// A picture of the program's own resources, in the resolution of the screen: ":/icones/vue-0.argb", or its
-/// double ":/icones/vue-0@2x.argb" where pixels are small. Null when there is none.
-/// An .argb holds width and height, 32 bits each with the highest byte first, then the pixels as
-/// QImage::Format_ARGB32_Premultiplied has them; any other file is a PNG.
-QPixmap resourcePicture(const QString &path);
 
 /// Shows a picture stretched over its whole area, smooth, in the resolution of the screen.
 class PictureBox : public QWidget {

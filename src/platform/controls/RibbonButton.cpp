@@ -21,7 +21,6 @@ constexpr Twips kTilePicture{1080}; // at most
 constexpr Twips kCommandPicture{360};
 constexpr Twips kCommandMargin{105};
 constexpr double kDisabledCaption = 0.45; // opacity
-const QColor kValueGround(214, 225, 242);
 const QColor kValueHover(251, 243, 226);
 
 } // namespace
@@ -158,7 +157,7 @@ void RibbonButton::paintGround(QPainter &painter) const {
         paintBlock(painter, rect(), 6, skin.strip, skin.strip.darker(hovered ? 103 : 112), skin.edge);
         break;
     case Look::Value:
-        painter.fillRect(rect(), hovered ? kValueHover : kValueGround);
+        painter.fillRect(rect(), hovered ? kValueHover : kPaleGround);
         painter.fillRect(QRect(0, height() - 1, width(), 1), skin.button);
         break;
     }

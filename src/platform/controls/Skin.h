@@ -24,8 +24,12 @@ struct Skin {
 /// The skin of display mode 0, 1 or 2; any other mode gives the first.
 const Skin &skinOf(int mode);
 
-/// Paper-like grounds that do not change with the display mode.
-inline constexpr QRgb kListGround = qRgb(148, 173, 214);
+/// Colours that do not change with the display mode: ink on paper, and grounds like paper, the palest first.
+inline constexpr QColor kInk(22, 33, 58);
+inline constexpr QColor kPaper(240, 245, 252);       ///< what is typed on
+inline constexpr QColor kPaleGround(214, 225, 242);  ///< lines of text that can be pressed, a title
+inline constexpr QColor kLightGround(190, 206, 232); ///< frames of photos, bands
+inline constexpr QColor kListGround(148, 173, 214);  ///< lists, the page of a recipe
 
 /// Fills a rounded rectangle with a vertical gradient and outlines it; no outline with an invalid edge
 /// colour.

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "ControlTable.h"
 #include "Skin.h"
-#include "Twips.h"
 
 #include <QString>
 #include <QWidget>

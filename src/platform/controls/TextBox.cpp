@@ -10,8 +10,6 @@ namespace platform::controls {
 
 namespace {
 
-const QColor kPaper(240, 245, 252);
-const QColor kInk(22, 33, 58);
 constexpr int kMargin = 3; // pixels that keep the text clear of the focus ring
 
 } // namespace

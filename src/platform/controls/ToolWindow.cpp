@@ -1,5 +1,9 @@
 #include "ToolWindow.h"
 
+#include "WhenPressed.h"
+
+#include "platform/images/ResourcePicture.h"
+
 namespace platform::controls {
 
 namespace {
@@ -19,10 +23,10 @@ ControlRow bandButton(const char *name, Extent window, int fromRight, std::u16st
 } // namespace
 
 void setBandPictures(RibbonButton &button, const QString &drawing) {
-    const QPixmap resting = resourcePicture(QStringLiteral(":/icones/%1.argb").arg(drawing));
+    const QPixmap resting = images::resourcePicture(QStringLiteral(":/icones/%1.argb").arg(drawing));
     button.SetPicture(resting);
     button.SetRestingPicture(resting);
-    button.SetHoverPicture(resourcePicture(QStringLiteral(":/icones/%1-survol.argb").arg(drawing)));
+    button.SetHoverPicture(images::resourcePicture(QStringLiteral(":/icones/%1-survol.argb").arg(drawing)));
 }
 
 ToolWindow::ToolWindow(const QString &name, Extent size)
@@ -30,23 +34,19 @@ ToolWindow::ToolWindow(const QString &name, Extent size)
       Icone(this, kIcone),
       Mini(this, bandButton("Mini", size, kMiniFromRight, u"Minimiser")),
       Quit(this, bandButton("Quit", size, kQuitFromRight, u"Fermer")) {
-    Icone.SetPicture(resourcePicture(QStringLiteral(":/icones/savorel.argb")).toImage());
+    Icone.SetPicture(images::programIcon().toImage());
     setBandPictures(Mini, QStringLiteral("reduire"));
     setBandPictures(Quit, QStringLiteral("fermer"));
     // Pressed with the mouse they leave the keyboard to the field that has it: a minimised window comes back to it.
     Mini.setFocusPolicy(Qt::TabFocus);
     Quit.setFocusPolicy(Qt::TabFocus);
-    connect(&Mini, &Ribbon::toggled, this, [this](bool pressed) {
-        if (pressed) {
-            Mini.Release();
-            Q_EMIT MinimiseRequested();
-        }
+    whenPressed(Mini, [this] {
+        Mini.Release();
+        Q_EMIT MinimiseRequested();
     });
-    connect(&Quit, &Ribbon::toggled, this, [this](bool pressed) {
-        if (pressed) {
-            Quit.Release();
-            Q_EMIT CloseRequested();
-        }
+    whenPressed(Quit, [this] {
+        Quit.Release();
+        Q_EMIT CloseRequested();
     });
 }
 

@@ -1,25 +1,15 @@
 #include "BulkInsert.h"
 
-#include "Connection.h"
 #include "Database.h"
 #include "DatabaseError.h"
 #include "Query.h"
 #include "Statement.h"
 
-#include <sqlite3.h>
-
 namespace platform::database {
 
-BulkInsert::BulkInsert(const Database &database) : m_connection(database.open()) {
-    runScript(m_connection->handle(), "BEGIN EXCLUSIVE");
-}
+BulkInsert::BulkInsert(const Database &database) : m_transaction(database), m_connection(database.open()) {}
 
-BulkInsert::~BulkInsert() {
-    m_insert.reset();
-    if (m_open && m_connection->isOpen()) {
-        sqlite3_exec(m_connection->handle(), "ROLLBACK", nullptr, nullptr, nullptr);
-    }
-}
+BulkInsert::~BulkInsert() = default;
 
 void BulkInsert::into(const QString &table, const QStringList &columns) {
     QByteArrayList names;
@@ -45,8 +35,7 @@ void BulkInsert::row(const QVariantList &values) {
 
 void BulkInsert::commit() {
     m_insert.reset();
-    runScript(m_connection->handle(), "COMMIT");
-    m_open = false;
+    m_transaction.commit();
 }
 
 } // namespace platform::database

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Transaction.h"
+
 #include <QStringList>
 #include <QVariant>
 
@@ -7,8 +9,6 @@
 
 namespace platform::database {
 
-class Connection;
-class Database;
 class Statement;
 
 /// Appends many rows to the tables of a database in one transaction: with commit() all are on disk, without it
@@ -32,10 +32,10 @@ public:
     void commit();
 
 private:
+    Transaction m_transaction;
     std::shared_ptr<Connection> m_connection;
     std::unique_ptr<Statement> m_insert;
     qsizetype m_columns = 0;
-    bool m_open = true;
 };
 
 } // namespace platform::database

@@ -41,7 +41,10 @@ SqliteHandle openFile(const QString &name, int flags) {
     return handle;
 }
 
-QByteArray readStart(sqlite3 *db, int size) {
+namespace {
+
+/// The first bytes of an open file. @throws DatabaseError when it is shorter
+QByteArray saltOf(sqlite3 *db) {
     // Through the engine's own handle: opening and closing the file aside would drop the locks that another
     // connection of this process holds.
     sqlite3_file *file = nullptr;
@@ -49,12 +52,14 @@ QByteArray readStart(sqlite3 *db, int size) {
     if (!file || !file->pMethods) {
         throw DatabaseError(sqlite3_errstr(SQLITE_CANTOPEN));
     }
-    QByteArray start(size, Qt::Uninitialized);
-    if (file->pMethods->xRead(file, start.data(), size, 0) != SQLITE_OK) {
+    QByteArray salt(kSaltSize, Qt::Uninitialized);
+    if (file->pMethods->xRead(file, salt.data(), kSaltSize, 0) != SQLITE_OK) {
         throw DatabaseError(sqlite3_errstr(SQLITE_NOTADB));
     }
-    return start;
+    return salt;
 }
+
+} // namespace
 
 void useKey(sqlite3 *db, const QByteArray &passphrase, const QByteArray &salt) {
     const QByteArray key = "x'" + KeyCache::instance().key(passphrase, salt).toHex() + salt.toHex() + "'";
@@ -69,12 +74,11 @@ void runScript(sqlite3 *db, const char *sql) {
 }
 
 Connection::Connection(const QString &name, const Options &options)
-    : m_name(name),
-      m_db(openFile(name, options.readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE)),
+    : m_db(openFile(name, options.readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE)),
       m_collation(options.collation),
       m_exclusive(options.exclusive) {
     sqlite3 *db = m_db.get();
-    if (const QByteArray salt = readStart(db, kSaltSize); !options.passphrase.isEmpty()) {
+    if (const QByteArray salt = saltOf(db); !options.passphrase.isEmpty()) {
         useKey(db, options.passphrase, salt);
     }
     sqlite3_create_collation(db, "NOCASE", SQLITE_UTF8, &m_collation, compareTexts);

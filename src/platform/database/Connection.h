@@ -26,9 +26,6 @@ QByteArray passphraseOf(const QString &connect);
 /// @throws DatabaseError with the engine's text
 SqliteHandle openFile(const QString &name, int flags);
 
-/// The first bytes of an open file. @throws DatabaseError when it is shorter
-QByteArray readStart(sqlite3 *db, int size);
-
 /// Gives a connection its raw key and the page size, before anything else is asked of it.
 /// @param salt the first bytes of the file
 void useKey(sqlite3 *db, const QByteArray &passphrase, const QByteArray &salt);
@@ -52,9 +49,6 @@ public:
     Connection &operator=(const Connection &) = delete;
     ~Connection();
 
-    /// The path of the file, as it was given.
-    const QString &name() const { return m_name; }
-
     bool isOpen() const { return m_db != nullptr; }
 
     void close();
@@ -75,7 +69,6 @@ public:
 private:
     [[noreturn]] static void failClosed();
 
-    QString m_name;
     SqliteHandle m_db;
     Collation m_collation;
     bool m_exclusive;

@@ -21,7 +21,10 @@ public:
         return m_rows.count();
     }
 
-    bool atEnd() { return m_row >= count(); }
+    bool atEnd() {
+        requireRows();
+        return m_row >= m_rows.count();
+    }
 
     void moveNext();
 
@@ -43,10 +46,6 @@ public:
 
     RowMark lastModified() const { return RowMark{m_lastModified}; }
 
-    /// The rows, for another cursor on the same query and the same state of the file.
-    RowCache takeRows() { return std::move(m_rows); }
-
-    RowMark bookmark();
     void setBookmark(RowMark mark);
 
 private:
@@ -66,6 +65,7 @@ private:
     void requireRow();
     void requireTable() const;
     void requireChange() const;
+    void goTo(qint64 rowid);
     void dropRow();
     void dropChange();
     void insertRow();
@@ -87,6 +87,8 @@ private:
     RowCache m_rows;
     bool m_rowsRead = false;
     qsizetype m_row = 0;
+    /// The row to stand on once the rows are read, instead of the first.
+    std::optional<qint64> m_waitingMark;
     /// The current row was deleted: m_row is the one after it already.
     bool m_deleted = false;
     Change m_change = Change::None;

@@ -3,11 +3,11 @@
 #include "Connection.h"
 #include "Cursor.h"
 #include "DatabaseError.h"
+#include "KeyDerivation.h"
 #include "Query.h"
-#include "ReadAhead.h"
 #include "Statement.h"
 
-#include <sqlite3.h>
+#include <QFile>
 
 namespace platform::database {
 
@@ -33,6 +33,14 @@ void Database::Execute(const QString &sql) {
     Statement(open(), withoutDeleteStar(sql).toUtf8()).step();
 }
 
+int Database::UserVersion() {
+    return int(OpenRecordset(QStringLiteral("PRAGMA user_version")).Fields(0).Number());
+}
+
+void Database::SetUserVersion(int version) {
+    Execute(u"PRAGMA user_version = " + QString::number(version));
+}
+
 void Database::Close() {
     if (m_connection) {
         m_connection->close();
@@ -49,16 +57,17 @@ const std::shared_ptr<Connection> &Database::open() const {
 
 Database OpenDatabase(const QString &name, bool exclusive, bool readOnly, const QString &connect,
                       const Collation &collation) {
-    ReadAhead::instance().finish();
     return Database(std::make_shared<Connection>(
         name, Connection::Options{exclusive, readOnly, passphraseOf(connect), collation}));
 }
 
-void StartReading(const QString &name, const QString &connect, const Collation &collation,
-                  const QStringList &queries) {
-    constexpr bool kExclusive = false;
-    constexpr bool kReadOnly = true;
-    ReadAhead::instance().start(name, {kExclusive, kReadOnly, passphraseOf(connect), collation}, queries);
+void PrepareKey(const QString &name, const QString &connect) {
+    QFile file(name);
+    const QByteArray passphrase = passphraseOf(connect);
+    const QByteArray salt = file.open(QIODevice::ReadOnly) ? file.read(kSaltSize) : QByteArray();
+    if (salt.size() == kSaltSize && !passphrase.isEmpty()) {
+        KeyCache::instance().prepare(passphrase, salt);
+    }
 }
 
 } // namespace platform::database

@@ -4,7 +4,6 @@
 #include "Recordset.h"
 
 #include <QString>
-#include <QStringList>
 
 #include <memory>
 
@@ -27,15 +26,22 @@ public:
     /// @throws DatabaseError with the engine's text
     Recordset OpenRecordset(const QString &sql);
 
-    /// Runs and commits one statement that gives no rows; "DELETE * FROM table ..." is understood.
+    /// Runs one statement that gives no rows, and commits it outside a Transaction; "DELETE * FROM table ..." is
+    /// understood.
     /// @throws DatabaseError with the engine's text
     void Execute(const QString &sql);
+
+    /// A number of the file for its user, 0 in a new one; the engine gives it no meaning.
+    int UserVersion();
+    /// Takes effect at once, or with the Transaction it stands in.
+    void SetUserVersion(int version);
 
     /// Ends the connection before the scope does. A second call does nothing.
     void Close();
 
 private:
     friend class BulkInsert;
+    friend class Transaction;
     friend Database OpenDatabase(const QString &, bool, bool, const QString &, const Collation &);
     explicit Database(std::shared_ptr<Connection> connection);
 
@@ -63,11 +69,9 @@ private:
 Database OpenDatabase(const QString &name, bool exclusive, bool readOnly, const QString &connect,
                       const Collation &collation = kBinaryCollation);
 
-/// Starts reading the rows of the queries that will be asked first, on another thread: derives the key of the file,
-/// opens it read-only, reads, and closes it. OpenDatabase waits for that, whatever it opens; OpenRecordset then takes
-/// the rows, unless the file has been written to meanwhile. Reports nothing: what fails shows when it is asked for.
-/// @param collation that of the OpenDatabase to come
-void StartReading(const QString &name, const QString &connect, const Collation &collation,
-                  const QStringList &queries);
+/// Begins to derive the key of a file on another thread, so that the first OpenDatabase need not wait for it. Never
+/// fails: a file that cannot be read is left to OpenDatabase, and one that is replaced meanwhile gets a key of its own.
+/// Not while the file is open: this reads it by other means.
+void PrepareKey(const QString &name, const QString &connect);
 
 } // namespace platform::database

@@ -112,13 +112,22 @@ KeyCache &KeyCache::instance() {
     return cache;
 }
 
-QByteArray KeyCache::key(const QByteArray &passphrase, const QByteArray &salt) {
+std::shared_future<QByteArray> KeyCache::find(const QByteArray &passphrase, const QByteArray &salt,
+                                              std::launch where) {
     const std::lock_guard lock(m_mutex);
-    QByteArray &key = m_keys[{passphrase, salt}];
-    if (key.isEmpty()) {
-        key = pbkdf2Sha1(passphrase, salt, kCipherRounds, kKeySize);
+    auto &key = m_keys[{passphrase, salt}];
+    if (!key.valid()) {
+        key = std::async(where, pbkdf2Sha1, passphrase, salt, kCipherRounds, kKeySize);
     }
     return key;
+}
+
+void KeyCache::prepare(const QByteArray &passphrase, const QByteArray &salt) {
+    find(passphrase, salt, std::launch::async | std::launch::deferred); // deferred where no thread is left
+}
+
+QByteArray KeyCache::key(const QByteArray &passphrase, const QByteArray &salt) {
+    return find(passphrase, salt, std::launch::deferred).get();
 }
 
 } // namespace platform::database

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QHash>
 
+#include <future>
 #include <mutex>
 #include <utility>
 
@@ -21,14 +22,20 @@ class KeyCache {
 public:
     static KeyCache &instance();
 
-    /// The key of a file of SQLCipher 3. A call while another thread derives waits for it.
+    /// Begins to derive the key of a file of SQLCipher 3 on another thread.
+    void prepare(const QByteArray &passphrase, const QByteArray &salt);
+
+    /// That key; waits for it where it is being derived.
     QByteArray key(const QByteArray &passphrase, const QByteArray &salt);
 
 private:
     KeyCache() = default;
 
+    std::shared_future<QByteArray> find(const QByteArray &passphrase, const QByteArray &salt,
+                                        std::launch where);
+
     std::mutex m_mutex;
-    QHash<std::pair<QByteArray, QByteArray>, QByteArray> m_keys;
+    QHash<std::pair<QByteArray, QByteArray>, std::shared_future<QByteArray>> m_keys;
 };
 
 } // namespace platform::database

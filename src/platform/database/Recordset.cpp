@@ -83,10 +83,6 @@ RowMark Recordset::LastModified() const {
     return cursor().lastModified();
 }
 
-RowMark Recordset::Bookmark() const {
-    return cursor().bookmark();
-}
-
 void Recordset::SetBookmark(RowMark mark) {
     cursor().setBookmark(mark);
 }

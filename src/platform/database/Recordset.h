@@ -83,9 +83,7 @@ public:
 
     /// The row last written by Update.
     RowMark LastModified() const;
-    /// The current row.
-    RowMark Bookmark() const;
-    /// Makes a row of this recordset the current one.
+    /// Makes a row of this recordset the current one; where the rows are not known yet, it is looked for with them.
     void SetBookmark(RowMark mark);
 
     /// Ends the cursor before the scope does; a change begun and not committed is given up.

@@ -1,11 +1,9 @@
 #include "RowCache.h"
 
-#include <QtEndian>
-
 #include <sqlite3.h>
 
 #include <algorithm>
-#include <cstring>
+#include <vector>
 
 namespace platform::database {
 
@@ -133,80 +131,39 @@ qsizetype RowCache::find(qint64 rowid) const {
 }
 
 void RowCache::TextOrder::append(sqlite3_stmt *statement, int column) {
-    Text text{m_bytes.size(), -1};
-    if (sqlite3_value *value = sqlite3_column_value(statement, column);
-        sqlite3_value_type(value) != SQLITE_NULL) {
-        m_collation.appendSortKey(textOf(value), m_bytes);
-        text.size = m_bytes.size() - text.offset;
+    sqlite3_value *value = sqlite3_column_value(statement, column);
+    if (sqlite3_value_type(value) == SQLITE_NULL) {
+        m_keys.append('\0');
+    } else {
+        m_keys.append('\1');
+        m_collation.appendSortKey(textOf(value), m_keys);
     }
-    m_texts.append(text);
-}
-
-/// The bytes of a sort key from a depth on, 0 behind its end, as a number that is in their order.
-quint64 RowCache::TextOrder::wordAt(const Text &text, qsizetype depth) const {
-    quint64 bytes = 0;
-    if (depth < text.size) {
-        std::memcpy(&bytes, m_bytes.constData() + text.offset + depth,
-                    std::min(size_t(text.size - depth), sizeof bytes));
-    }
-    return qFromBigEndian(bytes);
-}
-
-/// Compares what follows a depth up to which two keys are equal; Null comes before every text, equal texts go
-/// by row number.
-bool RowCache::TextOrder::before(const Key &left, const Key &right, qsizetype depth) const {
-    const Text &a = m_texts[left.row];
-    const Text &b = m_texts[right.row];
-    if ((a.size < 0) != (b.size < 0)) {
-        return a.size < 0;
-    }
-    const std::string_view bytes(m_bytes.constData(), size_t(m_bytes.size()));
-    const auto rest = [bytes, depth](const Text &text) {
-        const qsizetype size = std::max<qsizetype>(text.size, 0);
-        const qsizetype equal = std::min(depth, size);
-        return bytes.substr(size_t(text.offset + equal), size_t(size - equal));
-    };
-    const int order = rest(a).compare(rest(b));
-    return order != 0 ? order < 0 : m_cache.rowid(left.row) < m_cache.rowid(right.row);
-}
-
-/// Sorts keys that are equal up to a depth: by one word, then those that are equal in it by the next. The
-/// titles of a book begin alike, so comparing them whole would read the same bytes over and over.
-void RowCache::TextOrder::sortFrom(std::span<Key> keys, qsizetype depth) const {
-    constexpr size_t kFew = 8;
-    constexpr qsizetype kDeepest = 256; // bytes; limits the recursion where texts are long and alike
-    if (keys.size() <= kFew || depth >= kDeepest) {
-        std::sort(keys.begin(), keys.end(),
-                  [this, depth](const Key &a, const Key &b) { return before(a, b, depth); });
-        return;
-    }
-    for (Key &key : keys) {
-        key.word = wordAt(m_texts[key.row], depth);
-    }
-    std::sort(keys.begin(), keys.end(), [](const Key &a, const Key &b) { return a.word < b.word; });
-    for (auto first = keys.begin(); first != keys.end();) {
-        const auto last =
-            std::find_if(first, keys.end(), [first](const Key &key) { return key.word != first->word; });
-        if (last - first > 1) {
-            sortFrom({first, last}, depth + qsizetype(sizeof(quint64)));
-        }
-        first = last;
-    }
+    m_ends.append(m_keys.size());
 }
 
 void RowCache::TextOrder::apply(bool descending) {
-    QList<Key> keys(m_texts.size());
-    for (qsizetype row = 0; row < keys.size(); ++row) {
-        keys[row] = {0, row};
+    struct KeyedRow {
+        std::string_view key;
+        Row row;
+    };
+
+    std::vector<KeyedRow> rows;
+    rows.reserve(size_t(m_ends.size()));
+    qsizetype begin = 0;
+    for (const qsizetype end : m_ends) {
+        rows.push_back(
+            {{m_keys.constData() + begin, size_t(end - begin)}, m_cache.m_rows[qsizetype(rows.size())]});
+        begin = end;
     }
-    sortFrom(keys, 0);
+    std::sort(rows.begin(), rows.end(), [](const KeyedRow &left, const KeyedRow &right) {
+        const int order = left.key.compare(right.key);
+        return order != 0 ? order < 0 : left.row.rowid < right.row.rowid;
+    });
     if (descending) {
-        std::reverse(keys.begin(), keys.end());
+        std::reverse(rows.begin(), rows.end());
     }
-    QList<Row> rows(keys.size());
-    std::transform(keys.cbegin(), keys.cend(), rows.begin(),
-                   [this](const Key &key) { return m_cache.m_rows[key.row]; });
-    m_cache.m_rows = std::move(rows);
+    std::transform(rows.cbegin(), rows.cend(), m_cache.m_rows.begin(),
+                   [](const KeyedRow &keyed) { return keyed.row; });
 }
 
 } // namespace platform::database

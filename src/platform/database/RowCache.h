@@ -6,8 +6,6 @@
 #include <QList>
 #include <QVariant>
 
-#include <span>
-
 struct sqlite3_stmt;
 
 namespace platform::database {
@@ -52,8 +50,6 @@ public:
     class TextOrder;
 
 private:
-    friend class TextOrder;
-
     struct Cell {
         int type;
         int size;
@@ -85,7 +81,8 @@ private:
     qsizetype m_used = 0;
 };
 
-/// The texts by which the rows of a cache are sorted, gathered beside them.
+/// The sort keys of the rows of a cache, gathered beside them: several times as fast as the engine's sorter, which calls
+/// the collation for each comparison.
 class RowCache::TextOrder {
 public:
     TextOrder(RowCache &cache, const Collation &collation) : m_cache(cache), m_collation(collation) {}
@@ -96,26 +93,10 @@ public:
     void apply(bool descending);
 
 private:
-    /// Eight bytes of a sort key as a number, and the row that they are of.
-    struct Key {
-        quint64 word;
-        qsizetype row;
-    };
-
-    /// Where the sort key of a row lies; a size of -1 stands for Null.
-    struct Text {
-        qsizetype offset;
-        qsizetype size;
-    };
-
-    quint64 wordAt(const Text &text, qsizetype depth) const;
-    void sortFrom(std::span<Key> keys, qsizetype depth) const;
-    bool before(const Key &left, const Key &right, qsizetype depth) const;
-
     RowCache &m_cache;
     const Collation &m_collation;
-    QList<Text> m_texts;
-    QByteArray m_bytes;
+    QByteArray m_keys; // one behind the other
+    QList<qsizetype> m_ends;
 };
 
 } // namespace platform::database

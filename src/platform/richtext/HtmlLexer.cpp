@@ -1,6 +1,6 @@
 #include "HtmlLexer.h"
 
-#include "CodePages.h"
+#include "platform/codepages/CodePages.h"
 
 #include <QTextDocument>
 #include <algorithm>
@@ -35,7 +35,7 @@ QString numbered(QStringView number) {
     }
     // The HTML standard reads the numbers of control characters as bytes of code page 1252.
     if (code >= firstControl && code <= lastControl) {
-        return {QChar(decode(1252, quint8(code)))};
+        return {QChar(codepages::decode(1252, quint8(code)))};
     }
     const char32_t character = code;
     return QString::fromUcs4(&character, 1);

@@ -1,11 +1,12 @@
 #include "RtfReader.h"
 
-#include "CodePages.h"
 #include "ListKinds.h"
 #include "RtfFormats.h"
 #include "RtfKeywords.h"
 #include "RtfLexer.h"
 #include "RtfTables.h"
+
+#include "platform/codepages/CodePages.h"
 
 #include <algorithm>
 #include <optional>
@@ -161,7 +162,7 @@ void RtfReader::text(QStringView text) {
 
 void RtfReader::byte(int value) {
     if (m_skipDepth == 0 && !takenAsFallback()) {
-        put(decode(codePage(), quint8(value)));
+        put(codepages::decode(codePage(), quint8(value)));
     }
 }
 
@@ -272,8 +273,8 @@ void RtfReader::endText() {
 int RtfReader::codePage() {
     if (!m_codePage) {
         const int font = m_groups.back().font;
-        m_codePage =
-            codePageOfCharset(m_fonts.font(font < 0 ? m_defaultFont : font).charset, m_codePageOfFile);
+        m_codePage = codepages::codePageOfCharset(m_fonts.font(font < 0 ? m_defaultFont : font).charset,
+                                                  m_codePageOfFile);
     }
     return *m_codePage;
 }

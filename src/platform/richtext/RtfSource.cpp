@@ -1,7 +1,8 @@
 #include "RtfSource.h"
 
-#include "CodePages.h"
 #include "RichContent.h"
+
+#include "platform/codepages/CodePages.h"
 
 namespace platform::richtext {
 
@@ -76,7 +77,7 @@ void RtfSource::plain(char16_t c) {
 }
 
 void RtfSource::escaped(char16_t c) {
-    if (const std::optional<quint8> byte = encodeWestern(c)) {
+    if (const std::optional<quint8> byte = codepages::encodeWestern(c)) {
         m_source += "\\'";
         m_source += QByteArray::number(*byte, 16);
     } else {

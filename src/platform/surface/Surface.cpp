@@ -36,21 +36,6 @@ void Surface::clear(int width, int height) {
     m_picture = filled(width, height, m_background);
 }
 
-Colour Surface::GetPixel(int x, int y) const {
-    if (!m_picture.valid(x, y)) {
-        return kNoPoint;
-    }
-    const QRgb point = points()[std::ptrdiff_t{y} * width() + x];
-    return qRed(point) | qGreen(point) << 8 | qBlue(point) << 16;
-}
-
-void Surface::SetPixel(int x, int y, Colour colour) {
-    if (m_picture.valid(x, y)) {
-        points()[std::ptrdiff_t{y} * width() + x] =
-            qRgb(colour & 0xFF, colour >> 8 & 0xFF, colour >> 16 & 0xFF);
-    }
-}
-
 void Surface::copyMirrored(const Surface &source, Qt::Orientation direction) {
     m_picture = source.m_picture.mirrored(direction == Qt::Horizontal, direction == Qt::Vertical);
 }

@@ -2,15 +2,7 @@
 
 #include <QImage>
 
-#include <cstdint>
-
 namespace platform::surface {
-
-/// A colour in 24 bits, red in the low byte.
-using Colour = std::int32_t;
-
-/// What reading a point that a surface does not have gives.
-inline constexpr Colour kNoPoint = -1;
 
 /// An off-screen picture to draw on, of 32-bit pixels without transparency.
 class Surface {
@@ -30,11 +22,6 @@ public:
     /// Gives the surface a size, in pixels, all of it background.
     /// @throws std::bad_alloc when there is no memory for it
     void clear(int width, int height);
-
-    Colour GetPixel(int x, int y) const;
-
-    /// A point outside is written to nothing.
-    void SetPixel(int x, int y, Colour colour);
 
     /// Takes the size and picture of another surface in one block copy, with left and right (horizontal) or top
     /// and bottom (vertical) exchanged.

@@ -2,6 +2,7 @@
 
 #include "Facile.h"
 
+#include "platform/images/LoadPicture.h"
 #include "platform/webview/Engine.h"
 #include "store/Programme.h"
 
@@ -26,8 +27,8 @@ void EcrirePhoto(const QByteArray &octets) {
 
 QImage LirePhoto() {
     try {
-        return LoadPicture(CheminPhotoRecue());
-    } catch (const PictureError &) {
+        return platform::images::LoadPicture(CheminPhotoRecue());
+    } catch (const platform::images::PictureError &) {
         return {};
     }
 }

@@ -7,6 +7,8 @@
 #include "browser/Vues.h"
 #include "pictures/AjusterPhoto.h"
 #include "platform/controls/Fonts.h"
+#include "platform/controls/WhenPressed.h"
+#include "platform/images/ResourcePicture.h"
 #include "platform/webview/Engine.h"
 #include "store/Configuration.h"
 #include "store/Programme.h"
@@ -84,9 +86,6 @@ constexpr std::array kControles{
 
 constexpr Rectangle kBarreOutils{Twips(90), Twips(645), Twips(15180), Twips(945)};
 
-const QColor kEncre(22, 33, 58);
-const QColor kFondClair(190, 206, 232);
-
 /// A site in a folder opens by its index, as a server has it.
 QUrl AdresseDuPartenaire() {
     QUrl adresse(store::AdresseComplete(store::PartnerSiteHome));
@@ -98,7 +97,8 @@ QUrl AdresseDuPartenaire() {
 
 void PeindreOutil(Ribbon &outil, Panel &panneau, const char *dessin) {
     outil.SetLook(Look::Tool);
-    outil.SetPicture(resourcePicture(QStringLiteral(":/icones/%1.argb").arg(QLatin1String(dessin))));
+    outil.SetPicture(
+        platform::images::resourcePicture(QStringLiteral(":/icones/%1.argb").arg(QLatin1String(dessin))));
     outil.SetPressedPicture(outil.Picture());
     panneau.setFont(interfaceFont(Face::SansSerif, 8.25));
     panneau.SetForeColor(Qt::blue);
@@ -110,16 +110,6 @@ void PeindreOutil(Ribbon &outil, Panel &panneau, const char *dessin) {
     QObject::connect(&outil, &Ribbon::Exited, &panneau, sortir);
     QObject::connect(&panneau, &Panel::Entered, &panneau, entrer);
     QObject::connect(&panneau, &Panel::Exited, &panneau, sortir);
-}
-
-/// Runs an action at each press of a button.
-template <class Action>
-void SurPression(Ribbon &bouton, Action action) {
-    QObject::connect(&bouton, &Ribbon::toggled, &bouton, [action](bool presse) {
-        if (presse) {
-            action();
-        }
-    });
 }
 
 } // namespace
@@ -184,33 +174,33 @@ void Facile::Peindre() {
     }
     MontrerAnalyse(false);
     for (Panel *bande : {&Pb, &Status}) {
-        bande->SetBackColor(kFondClair);
-        bande->SetForeColor(kEncre);
+        bande->SetBackColor(kLightGround);
+        bande->SetForeColor(kInk);
         bande->setFont(interfaceFont(Face::Verdana, 8.25));
     }
     // Progress shows when the analysis takes this away.
     Status.SetSquare();
     LPB.setFont(interfaceFont(Face::Verdana, 8.25));
-    LPB.SetForeColor(kEncre);
+    LPB.SetForeColor(kInk);
     Quit.setToolTip(QStringLiteral("Revenir au menu principal"));
     Quit.setAccessibleName(Quit.toolTip());
 }
 
 void Facile::PeindreFiche() {
     const QFont titre = interfaceFont(Face::Verdana, 8.25, true);
-    Fond.SetBackColor(QColor(kListGround));
+    Fond.SetBackColor(kListGround);
     Fond.hide();
     Libelle.ForEach([&titre](Label &libelle) {
         libelle.setFont(titre);
-        libelle.SetForeColor(kEncre);
+        libelle.SetForeColor(kInk);
     });
     calorie.setFont(interfaceFont(Face::Verdana, 8.25));
-    calorie.SetForeColor(kEncre);
+    calorie.SetForeColor(kInk);
     CadrePhoto.setFont(titre);
-    CadrePhoto.SetForeColor(kEncre);
-    CadrePhoto.SetBackColor(kFondClair);
+    CadrePhoto.SetForeColor(kInk);
+    CadrePhoto.SetBackColor(kLightGround);
     Photo.hide();
-    Scroll(1).SetBackColor(kFondClair);
+    Scroll(1).SetBackColor(kLightGround);
     Saisie(0).SetDefaultColor(QColor(CouleursMethode.ordinaire));
     Saisie(1).SetDefaultColor(QColor(CouleursComplements.ordinaire));
     for (DropList *liste : {&LQte, &LQte2, &LIngre}) {
@@ -250,24 +240,22 @@ void Facile::OuvrirNavigateur() {
 }
 
 void Facile::Brancher() {
-    SurPression(GotO1, [this] {
-        Navigateur->navigate(AdresseDuPartenaire());
-        GotO1.SetValue(false);
-    });
+    whenPressed(GotO1, [this] { Navigateur->navigate(AdresseDuPartenaire()); });
     for (int index = 0; index < Navi.Count(); ++index) {
-        SurPression(Navi(index), [this, index] {
+        whenPressed(Navi(index), [this, index] {
             if (index != 0) {
                 Navigateur->forward();
             } else {
                 Navigateur->back();
             }
             MontrerAnalyse(false);
-            Navi(index).SetValue(false);
         });
     }
-    SurPression(Analyse, [this] { PresserAnalyse(*this); });
-    SurPression(Creer, [this] { PresserCreer(*this); });
-    SurPression(Revenir, [this] { PresserRevenir(); });
+    whenPressed(Analyse, [this] { PresserAnalyse(*this); });
+    // Where the recipe is refused, the button stays down.
+    whenPressed(
+        Creer, [this] { PresserCreer(*this); }, Release::ByAction);
+    whenPressed(Revenir, [this] { PresserRevenir(); });
     connect(this, &SkinnedWindow::CloseRequested, this, &Facile::Quitter);
 }
 
@@ -323,7 +311,8 @@ void Facile::MontrerPhoto(const QImage &image) {
         Photo.SetPicture({});
         Photo.hide();
     } else {
-        pictures::MontrerPhoto({CadrePhoto.Width(), CadrePhoto.Height()}, Photo, Principale.ImageTemp, image);
+        Principale.ImageTemp.SetPicture(image);
+        pictures::MontrerPhoto({CadrePhoto.Width(), CadrePhoto.Height()}, Photo, image);
     }
 }
 
@@ -353,7 +342,6 @@ void Facile::MontrerNavigateur() {
 
 void Facile::PresserRevenir() {
     MontrerNavigation(true);
-    Revenir.SetValue(false);
     ViderTextes();
     MontrerNavigateur();
     MontrerAnalyse(true);

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-namespace platform::richtext {
+namespace platform::codepages {
 
 namespace {
 
@@ -122,4 +122,4 @@ int codePageOfCharset(int charset, int codePageOfFile) {
     return set == kCharacterSets.end() ? codePageOfFile : set->codePage;
 }
 
-} // namespace platform::richtext
+} // namespace platform::codepages

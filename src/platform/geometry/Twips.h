@@ -2,7 +2,7 @@
 
 class QRect;
 
-namespace platform::controls {
+namespace platform::geometry {
 
 /// A length on a window, in twips: 1/1440 inch, 15 to the logical pixel where the screen is large enough.
 /// Held as a 32-bit float; pixels exist only where a control is placed.
@@ -74,4 +74,4 @@ inline constexpr Extent kWindowSize{Twips(15360), Twips(11100)};
 /// primary screen is smaller than a window. The same for the whole run.
 double twipsPerPixel();
 
-} // namespace platform::controls
+} // namespace platform::geometry

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace platform::controls {
+namespace platform::geometry {
 
 int Twips::pixels() const {
     return qRound(m_value / twipsPerPixel());
@@ -33,4 +33,4 @@ double twipsPerPixel() {
     return factor;
 }
 
-} // namespace platform::controls
+} // namespace platform::geometry

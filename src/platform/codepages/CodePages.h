@@ -3,7 +3,7 @@
 #include <QtGlobal>
 #include <optional>
 
-namespace platform::richtext {
+namespace platform::codepages {
 
 /// The character of a byte in a code page (number as in \ansicpg; 10000 is Mac Roman). An unknown page is
 /// read as 1252.
@@ -15,4 +15,4 @@ std::optional<quint8> encodeWestern(char16_t character);
 /// The code page of a font's \fcharset number; the file's own for numbers that name none.
 int codePageOfCharset(int charset, int codePageOfFile);
 
-} // namespace platform::richtext
+} // namespace platform::codepages
