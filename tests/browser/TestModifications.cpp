@@ -178,13 +178,6 @@ private Q_SLOTS:
         QCOMPARE(m_window->Saisie(1).Text(), kDifficult);
     }
 
-    void aChangedLineComesFirst() {
-        m_window->Quantite(1).SetValue(true); // Beurre, the older line
-        choose(m_window->LQuantite, u"200"_qs);
-        QCOMPARE(m_window->Quantite(1).Caption(), u"200"_qs);
-        QCOMPARE(lines(), QStringList({u"1|1|2|1"_qs, u"1|2|2|2"_qs}));
-    }
-
     void theDottedRowAddsALine() {
         m_window->Ingre(2).SetValue(true);
         DropList &list = m_window->LIngre;

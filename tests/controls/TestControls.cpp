@@ -14,7 +14,6 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPainter>
-#include <QPointer>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
@@ -157,18 +156,6 @@ private Q_SLOTS:
         }
         QCOMPARE(list.Count(), 2);
         QCOMPARE(list.Text(2), u"Deux"_qs);
-    }
-
-    void escapeGivesUpTheEditOfARow() {
-        List &list = shownList();
-        list.StartLabelEdit();
-        const QPointer<QLineEdit> editor = list.viewport()->findChild<QLineEdit *>();
-        QSignalSpy edits(&list, &List::AfterLabelEdit);
-        QTest::keyClicks(editor, u"Perdu"_qs);
-        QTest::keyClick(editor, Qt::Key_Escape);
-        QTRY_VERIFY(editor.isNull());
-        QCOMPARE(edits.count(), 0);
-        QCOMPARE(list.Text(1), u"Aïoli"_qs);
     }
 
     void pictureIsTurnedAsItsOrientationSays() {

@@ -195,16 +195,6 @@ private Q_SLOTS:
         OpenDatabase(third, true, false, connectString());
     }
 
-    void closedDatabaseTakesItsRecordsetsAlong() {
-        Database database = filled();
-        Recordset rows = database.OpenRecordset(u"SELECT * From Plat"_s);
-        QCOMPARE(rows.Fields(u"Note").Text(), u"x"_s);
-        database.Close();
-        QVERIFY_THROWS_EXCEPTION(DatabaseError, rows.Fields(u"Note").Text());
-        QVERIFY_THROWS_EXCEPTION(DatabaseError, database.Execute(u"DELETE * FROM Plat"_s));
-        open();
-    }
-
     void rowsLeftEqualByTheOrder() {
         Database database = open(kVowelBlind);
         database.Execute(

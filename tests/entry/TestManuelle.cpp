@@ -6,9 +6,6 @@
 #include "entry/Listes.h"
 #include "entry/Manuelle.h"
 
-#include <QAbstractItemView>
-#include <QCompleter>
-
 #include <memory>
 
 using entry::Manuelle;
@@ -26,8 +23,6 @@ private:
 
     /// Types into whatever has the keyboard.
     void type(const QString &text) { QTest::keyClicks(m_entry->focusWidget(), text); }
-
-    void press(Qt::Key key) { QTest::keyClick(m_entry->focusWidget(), key); }
 
     /// The lists that are open.
     QString open() const {
@@ -101,25 +96,6 @@ private Q_SLOTS:
         QCOMPARE(m_entry->LPlat.Text(), u"Dessert"_qs);
         QTest::mouseClick(m_entry->Scroll.Content(), Qt::LeftButton, {}, QPoint(5, 5));
         QCOMPARE(open(), QString());
-    }
-
-    void typingInALineProposes() {
-        m_entry->Ingre(0).setFocus(Qt::TabFocusReason);
-        QWidget *proposals = m_entry->LIngre.completer()->popup();
-        type(u"b"_qs);
-        QTRY_VERIFY(proposals->isVisible());
-        QCOMPARE(m_entry->LIngre.completer()->completionCount(), 2);
-        QCOMPARE(m_entry->Ingre(0).Text(), u"b"_qs);
-        QTest::keyClick(proposals, Qt::Key_Down);
-        QTest::keyClick(proposals, Qt::Key_Return);
-        QCOMPARE(m_entry->Ingre(0).Text(), u"Beurre"_qs);
-
-        QTest::keyClick(m_entry->LIngre.lineEdit(), Qt::Key_A, Qt::ControlModifier);
-        type(u"s"_qs);
-        QTRY_VERIFY(proposals->isVisible());
-        QTest::keyClick(proposals, Qt::Key_Tab);
-        QCOMPARE(m_entry->Ingre(0).Text(), u"s"_qs);
-        QCOMPARE(focus(), u"LQte"_qs);
     }
 
     void whatIsMissingIsTold() {

@@ -9,7 +9,6 @@
 #include <QDialog>
 #include <QLabel>
 #include <QListWidget>
-#include <QProgressBar>
 #include <QTest>
 #include <QTimer>
 
@@ -111,26 +110,6 @@ private Q_SLOTS:
         // 100 of 200 millimetres at 100 dots per inch.
         QVERIFY(qAbs(picture.width() - 393) <= 8);
         QVERIFY(qAbs(picture.height() - 393) <= 8);
-    }
-
-    void scanIsCancelled() {
-        m_backend.configure("read-delay true\nread-delay-duration 100000\n");
-        ImageSource source;
-        choose(source, 0);
-        onDialog(u"Numerisation"_qs, [](QDialog &dialog) {
-            QTRY_VERIFY(ready(dialog));
-            click(dialog, u"Numeriser"_qs);
-            QTRY_VERIFY(dialog.findChild<QProgressBar *>(u"Progression"_qs)->value() > 0);
-            click(dialog, u"Annuler"_qs);
-            QVERIFY(dialog.isVisible());
-            QTRY_COMPARE(state(dialog), u"Numérisation annulée."_qs);
-            // One that the driver does not let go is left behind by the second press.
-            click(dialog, u"Numeriser"_qs);
-            click(dialog, u"Annuler"_qs);
-            click(dialog, u"Annuler"_qs);
-            QVERIFY(!dialog.isVisible());
-        });
-        QCOMPARE(source.AcquireToClipboard(nullptr), 0);
     }
 };
 

@@ -167,11 +167,6 @@ private Q_SLOTS:
             QVERIFY(placeOf(Champ::Prepa).adjusted(-1, -1, 1, 1).contains(method));
         }
     }
-
-    void nothingIsPrintedForAMissingPhoto() {
-        change(u"Photo = NULL"_qs);
-        QCOMPARE(run(u"pdfimages"_qs, {u"-list"_qs, print()}).count('\n'), 2); // the heading alone
-    }
 };
 
 QTEST_MAIN(TestImpression)

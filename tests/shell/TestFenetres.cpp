@@ -130,15 +130,6 @@ private Q_SLOTS:
         QCOMPARE(mode(), u"2"_qs);
         QCOMPARE(about().Mode(), 1);
     }
-
-    void modesThatDoNotExist() {
-        for (const QString &wrong : {u"3"_qs, u"-1"_qs}) {
-            setMode(wrong);
-            QVERIFY_THROWS_EXCEPTION(std::out_of_range, shell::Patch(m_test->main()));
-        }
-        setMode(u"bleu"_qs);
-        QVERIFY_THROWS_EXCEPTION(platform::settings::ConversionError, m_test->start());
-    }
 };
 
 QTEST_MAIN(TestFenetres)

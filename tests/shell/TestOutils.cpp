@@ -88,14 +88,6 @@ private Q_SLOTS:
         }
     }
 
-    void theMenuOpensTheCreationWhereRowsAreRecipes() {
-        browser::Pop &pop = m_program->windows->Pop;
-        clickRow(m_program->main().Liste, 1, Qt::RightButton);
-        QTRY_VERIFY(pop.Menu1.isVisible());
-        pop.Menu1.close();
-        use([&] { pop.Ajouter.trigger(); }, &Fenetres::Creation, [](const entry::Manuelle & /*window*/) {});
-    }
-
     void aMinimisedWindowComesBackAsItWas() {
         const std::function<void()> byMenu = [this] { Q_EMIT m_program->main().CreationDemandee(); };
         for (const auto &open : {tool(0), byMenu}) {

@@ -31,18 +31,12 @@ public:
 
     template <typename Number>
     static QByteArray number(Number value) {
-        QByteArray bytes(sizeof value, '\0');
-        qToLittleEndian(value, bytes.data());
-        return bytes;
+        return {reinterpret_cast<const char *>(&value), sizeof value};
     }
 
     /// A text as UTF-16.
     static QByteArray wide(const QString &text) {
-        QByteArray bytes;
-        for (const QChar character : text) {
-            bytes += number(character.unicode());
-        }
-        return bytes;
+        return {reinterpret_cast<const char *>(text.utf16()), 2 * text.size()};
     }
 
     /// A text in the compact form: single bytes and pairs by turns, with a zero between them.
@@ -95,9 +89,10 @@ private:
     static constexpr quint16 kStruck = 0x8000;
     static constexpr quint16 kPointer = 0x4000;
 
+    /// 0 for what is of no fixed size.
     static int sizeOf(Type type) {
-        return QMap<Type, int>{
-            {Bool, 1}, {Byte, 1}, {Int, 2}, {Long, 4}, {Money, 8}, {Float, 4}, {Double, 8}}[type];
+        constexpr std::array sizes{0, 1, 1, 2, 4, 8, 4, 8};
+        return std::size_t(type) < sizes.size() ? sizes.at(std::size_t(type)) : 0;
     }
 
     static QByteArray memoHead(qsizetype length, quint32 place) {

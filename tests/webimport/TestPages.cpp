@@ -236,13 +236,9 @@ private Q_SLOTS:
         const QString methodes = u"<!-- DEBUT EXPLICATION RECETTE -->\r\n"_qs;
         QTest::newRow("both layouts again and again")
             << grande(fichier("commentee.html") + fichier("debut-fin.html"));
-        QTest::newRow("empty lines behind a long field")
-            << QString(u"<!--Cuisson -->" + QString(kGrande / 2, u'x') + QString(kGrande / 2, u'\r'));
         QTest::newRow("nested tags in a field")
             << QString(u"<!--Cuisson -->" + u"<FONT "_qs.repeated(kGrande / 40) +
                        u"<FONT size=-2>size=-2>"_qs.repeated(kGrande / 40) + QString(kGrande / 4, u'\r'));
-        QTest::newRow("pictures without line break") << QString(
-            u"<!-- DEBUT EXPLICATION RECETTE -->" + grande(u".gif\">"_qs) + u"<!-- FIN RECETTE -->");
         QTest::newRow("method of many lines") << QString(methodes + grande(u".gif\">Cuisez.<BR>\r\n"_qs));
         QTest::newRow("ingredients closed on every line") << QString(
             u"<!-- debut ingredient -->" + QString(kGrande / 2, u'x') +
