@@ -49,13 +49,13 @@ private Q_SLOTS:
         QTest::addColumn<QSize>("target");
         QTest::addColumn<float>("angle");
         QTest::addColumn<int>("sum");
-        QTest::newRow("a quarter") << QSize(64, 31) << QSize(31, 64) << kQuartDroite << 0;
+        QTest::newRow("a quarter") << QSize(64, 31) << QSize(31, 64) << kQuartDroite << 10821;
         QTest::newRow("large enough for every way to round")
-            << QSize(1401, 700) << QSize(700, 1401) << kQuartGauche << 0;
-        QTest::newRow("beyond a full turn") << QSize(201, 199) << QSize(199, 201) << 7.F << 0;
-        QTest::newRow("into a larger surface") << QSize(20, 10) << QSize(60, 50) << 0.7F << 0;
-        QTest::newRow("into a smaller surface") << QSize(60, 50) << QSize(9, 14) << -2.5F << 0;
-        QTest::newRow("from a surface without points") << QSize(0, 0) << QSize(9, 14) << 0.7F << 0;
+            << QSize(1401, 700) << QSize(700, 1401) << kQuartGauche << 23257;
+        QTest::newRow("beyond a full turn") << QSize(201, 199) << QSize(199, 201) << 7.F << 33980;
+        QTest::newRow("into a larger surface") << QSize(20, 10) << QSize(60, 50) << 0.7F << 8909;
+        QTest::newRow("into a smaller surface") << QSize(60, 50) << QSize(9, 14) << -2.5F << 56733;
+        QTest::newRow("from a surface without points") << QSize(0, 0) << QSize(9, 14) << 0.7F << 5322;
     }
 
     void turnFollowsItsArithmetic() {
