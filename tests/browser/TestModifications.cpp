@@ -145,6 +145,7 @@ private Q_SLOTS:
         for (const QString &key : {u"3"_qs, u"4"_qs}) {
             choose(open(6, m_window->LCategorie), kDots);
             QCOMPARE(stored(u"NCategorie"_qs), key);
+            choose(open(6, m_window->LCategorie), u"10 mn"_qs);
         }
     }
 
