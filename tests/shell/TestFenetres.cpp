@@ -119,6 +119,7 @@ private Q_SLOTS:
         setMode(u"1"_qs);
         m_test->start();
         QCOMPARE(m_test->main().Mode(), 1);
+        QCOMPARE(about().Mode(), 1);
         const auto user = in<shell::Patch>([&](shell::Patch &patch) {
             patch.c(2).click();
             patch.OK.SetValue(true);
