@@ -172,9 +172,7 @@ void ListBox::mouseReleaseEvent(QMouseEvent *event) {
 
 void ListBox::mouseDoubleClickEvent(QMouseEvent *event) {
     QListView::mouseDoubleClickEvent(event);
-    // Beside the rows it means none of them; without a selected one the handler tells that there is none.
-    const bool onRow = indexAt(event->position().toPoint()).isValid();
-    if (event->button() == Qt::LeftButton && (onRow || SelectedIndex() == 0)) {
+    if (event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid()) {
         Q_EMIT DblClick();
     }
 }
