@@ -77,13 +77,8 @@ private:
         const auto user = in<QFileDialog>([this, file](QFileDialog &files) {
             m_proposed = files.selectedFiles().value(0);
             m_filters = files.nameFilters().join(u'|');
-            if (file.isEmpty()) {
-                files.reject();
-            } else {
-                files.setOption(QFileDialog::DontConfirmOverwrite);
-                files.selectFile(file);
-                static_cast<QDialog &>(files).accept();
-            }
+            files.setOption(QFileDialog::DontConfirmOverwrite);
+            chooseIn(files, file);
             return true;
         });
         press(button);

@@ -41,8 +41,7 @@ private:
     Choix choose(const QString &file, QString &folder) {
         const auto cook = in<QFileDialog>([&](QFileDialog &dialog) {
             m_start = dialog.directory().path();
-            dialog.selectFile(file);
-            file.isEmpty() ? dialog.reject() : static_cast<QDialog &>(dialog).accept();
+            chooseIn(dialog, file);
             return true;
         });
         return ChoisirImage(m_frame, folder);

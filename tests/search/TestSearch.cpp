@@ -144,7 +144,7 @@ private Q_SLOTS:
         TrierListe(*m_main, 0);
         QVERIFY_THROWS_EXCEPTION(std::out_of_range, doubleClick(m_find->Liste, 1));
         found(0, true, u"nothing"_qs);
-        QVERIFY_THROWS_EXCEPTION(std::out_of_range, doubleClick(m_find->Liste, 1));
+        doubleClick(m_find->Liste, 1); // beside the rows: nothing
     }
 };
 

@@ -54,7 +54,10 @@ QString choose(QFileDialog &dialog, const QString &filter, const QString &start)
         dialog.setDirectory(place.path());
         dialog.selectFile(place.fileName());
     }
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    // Asked afterwards, a dialog that has just read its folder answers with the file that it began with.
+    QString chosen;
+    QObject::connect(&dialog, &QFileDialog::fileSelected, [&chosen](const QString &file) { chosen = file; });
+    return dialog.exec() == QDialog::Accepted ? chosen : QString();
 }
 
 } // namespace
