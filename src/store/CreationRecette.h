@@ -12,7 +12,7 @@ namespace store {
 struct LigneSaisie {
     QString quantite, mesure, ingredient;
 
-    bool vide() const { return quantite.isEmpty() && mesure.isEmpty() && ingredient.isEmpty(); }
+    bool Vide() const { return quantite.isEmpty() && mesure.isEmpty() && ingredient.isEmpty(); }
 };
 
 /// The fields of a new recipe, as the window holds them in which it is made.
