@@ -110,7 +110,7 @@ void BrancherColonne(Manuelle &fenetre, const ColonneSaisie &colonne) {
         TextBox &champ = (*colonne.champs)(index);
         BrancherChamp(fenetre, liste, champ);
         QObject::connect(&champ, &TextBox::Entered, &fenetre, [&fenetre, &liste, &champ, index] {
-            CacherListes(fenetre); // while the list still serves its former line
+            CacherListes(fenetre); // while the list still serves its previous line
             liste.SetTag(QString::number(index));
             Ouvrir(fenetre, liste, champ);
         });

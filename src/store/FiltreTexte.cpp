@@ -12,7 +12,7 @@ constexpr std::size_t kLettres = 0x180; // the Latin letters of Western language
 /// A character of two bytes in UTF-8.
 using Paire = std::array<char, 2>;
 
-/// The upper case of each of the first characters beyond ASCII; zeros for those whose upper case has not two bytes, as
+/// The upper case of each of the first characters beyond ASCII; zeros for those whose upper case is not two bytes long, as
 /// that of ı.
 std::array<Paire, kLettres> CalculerMajuscules() {
     std::array<Paire, kLettres> majuscules{};
@@ -46,7 +46,7 @@ bool MettreAsciiEnMajuscules(QByteArrayView texte, std::string &majuscules) {
     return HorsAscii(static_cast<char>(tous));
 }
 
-/// Puts the letters of two bytes into upper case; false if there is one that the table does not tell.
+/// Puts the letters of two bytes into upper case; false if there is one that is not in the table.
 bool MettreAccentsEnMajuscules(std::string &texte) {
     static const std::array<Paire, kLettres> majuscules = CalculerMajuscules();
     for (std::size_t i = 0; i < texte.size(); ++i) {

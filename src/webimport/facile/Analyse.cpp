@@ -102,7 +102,7 @@ PageCapturee PasserParLeFichier(const Facile &fenetre, const QString &texte) {
                      .hote = store::PartnerSiteHost.toString()}};
 }
 
-/// @param texte the page before it went through the file, by which its layout is told
+/// @param texte the page before it went through the file, which decides its layout
 ChampsPage Extraire(Facile &fenetre, const PageCapturee &page, const QString &texte) {
     if (EstPageDebutFin(texte)) {
         return ExtrairePageDebutFin(page, fenetre.Memoire);
