@@ -49,7 +49,7 @@ platform::database::Database OuvrirLivre() {
 }
 
 platform::database::Database OuvrirLivre(const QString &chemin) {
-    auto livre = platform::database::OpenDatabase(chemin, true, false, Connexion(), CollationFrancaise);
+    auto livre = platform::database::OpenDatabase(chemin, true, false, Connexion(), kCollationFrancaise);
     if (livre.UserVersion() != kVersionDuLivre) {
         MettreAJour(livre);
     }

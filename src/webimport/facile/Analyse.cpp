@@ -89,8 +89,8 @@ void Montrer(Facile &fenetre, const ChampsPage &champs) {
     fenetre.NomPhoto.SetText(champs.NomPhoto);
     fenetre.NomPhoto.setCursorPosition(0);
     MontrerLignes(fenetre, champs.Lignes);
-    Montrer(fenetre.Saisie(0), champs.Saisie[SaisieMethode], CouleursMethode);
-    Montrer(fenetre.Saisie(1), champs.Saisie[SaisieComplements], CouleursComplements);
+    Montrer(fenetre.Saisie(0), champs.Saisie[SaisieMethode], kCouleursMethode);
+    Montrer(fenetre.Saisie(1), champs.Saisie[SaisieComplements], kCouleursComplements);
 }
 
 /// The page as it comes back from the temporary file, in whose characters the site is written.
