@@ -239,7 +239,7 @@ void ChargerLesListesCombo(Frmmain &frm) {
         if (const store::Table *table = valeur.Table()) {
             charger(valeur.Liste(frm), *table);
         }
-        if (valeur.texte != Texte::AOuverture) {
+        if (valeur.texte != TexteDeListe::AOuverture) {
             valeur.Liste(frm).SetText(valeur.Bouton(frm).Caption());
         }
     }

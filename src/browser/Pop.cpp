@@ -70,7 +70,7 @@ void Pop::BrancherFenetre(Frmmain &frm) {
         const int vue = VueCourante();
         frm.Volet.Designer(vue == 0 ? kHaut : QString());
         if (vue != 0) {
-            // The row stands for a group from here on, no more for the recipe that may be shown beside it.
+            // From here on the row stands for a group, not for the recipe that may be shown beside it.
             frm.Volet.Quitter();
         }
         const Vue *courante = VueNumero(vue);

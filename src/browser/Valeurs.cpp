@@ -84,7 +84,7 @@ void OuvrirValeur(Frmmain &frm, const Valeur &valeur) {
     CacherListeModif(frm);
     DropList &liste = valeur.Liste(frm);
     Ribbon &bouton = valeur.Bouton(frm);
-    const bool aOuverture = valeur.texte != Texte::AAffichage;
+    const bool aOuverture = valeur.texte != TexteDeListe::AAffichage;
     if (aOuverture && liste.Count() > 0) {
         liste.SetText(bouton.Caption());
     }

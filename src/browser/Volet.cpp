@@ -24,7 +24,7 @@ void Volet::Suivre(const QString &nom, const platform::controls::List &liste) {
     });
 }
 
-/// The list was loaded anew or has lost its last row, so no row of it names anything.
+/// The list was reloaded or has lost its last row, so none of its rows names anything.
 void Volet::ListeVidee(const QString &nom) {
     if (nom == kHaut) {
         m_cle.clear();

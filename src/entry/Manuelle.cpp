@@ -203,8 +203,8 @@ void Manuelle::DeposerPhoto(const QString &fichier) {
     Poser(pictures::PoserImage(CadreDeLaPhoto(), fichier));
 }
 
-void Manuelle::Poser(pictures::Choix choix) {
-    if (choix == pictures::Choix::Faite) {
+void Manuelle::Poser(pictures::ChoixImage choix) {
+    if (choix == pictures::ChoixImage::Faite) {
         Principale.ImageTemp.SetPicture(Photo.Picture());
     }
     LegenderPhoto();

@@ -81,7 +81,7 @@ private:
     pictures::CadreImage CadreDeLaPhoto();
     void ChoisirPhoto();
     void DeposerPhoto(const QString &fichier);
-    void Poser(pictures::Choix choix);
+    void Poser(pictures::ChoixImage choix);
     void Quitter();
     std::vector<QWidget *> Ordre();
 };

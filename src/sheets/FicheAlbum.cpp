@@ -243,14 +243,15 @@ void FicheAlbum::RemplirFiche() {
 }
 
 void FicheAlbum::CopierLignes() {
-    struct Colonne {
+    struct ColonneCopiee {
         Array<Ribbon> &champs, &source;
         const ControlRow &modele;
     };
 
-    for (const Colonne &colonne : {Colonne{Qte, m_frm.Quantite, rowNamed(kControles, "Qte(0)")},
-                                   Colonne{Mesure, m_frm.Mesure, rowNamed(kControles, "Mesure(0)")},
-                                   Colonne{Ingre, m_frm.Ingre, rowNamed(kControles, "Ingre(0)")}}) {
+    for (const ColonneCopiee &colonne :
+         {ColonneCopiee{Qte, m_frm.Quantite, rowNamed(kControles, "Qte(0)")},
+          ColonneCopiee{Mesure, m_frm.Mesure, rowNamed(kControles, "Mesure(0)")},
+          ColonneCopiee{Ingre, m_frm.Ingre, rowNamed(kControles, "Ingre(0)")}}) {
         while (colonne.champs.Count() > 1) {
             colonne.champs.UnloadLast();
         }

@@ -71,7 +71,7 @@ constexpr std::array kCommandes{
     Commande{.outil = Outil::SitePartenaire,
              .agir = [](Fenetres &fenetres) { OuvrirAdresse(fenetres.Principale, store::PartnerSiteHome); }},
     Commande{.outil = Outil::SiteAuteur,
-             .agir = [](Fenetres &fenetres) { OuvrirAdresse(fenetres.Principale, store::AuteurSite); }},
+             .agir = [](Fenetres &fenetres) { OuvrirAdresse(fenetres.Principale, store::kAuteurSite); }},
     Commande{.outil = Outil::APropos, .faire = FaireAccueil, .retour = Outil::SiteAuteur, .remplace = false},
     Commande{.outil = Outil::Aide,
              .agir = [](Fenetres &fenetres) { OuvrirAdresse(fenetres.Principale, u"aide/index.htm"); }},

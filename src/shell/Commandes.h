@@ -27,7 +27,7 @@ struct Commande {
     std::optional<browser::Outil> retour{};
     /// Gives the display mode in which the window is made.
     int (*mode)() = ModeAffichage;
-    /// Whether the window is made anew each time, or stays for the run.
+    /// Whether the window is made each time it is opened, or stays for the run.
     bool ephemere = false;
     /// Whether the main window is hidden meanwhile.
     bool remplace = true;

@@ -80,7 +80,7 @@ void RechargerListes(browser::Frmmain &frm) {
         TrierListe(frm, browser::VueCourante());
     } catch (const platform::database::DatabaseError &) {
     } catch (const platform::settings::ConversionError &) {
-    } catch (const std::out_of_range &) { // of a recipe with a class that there is not
+    } catch (const std::out_of_range &) { // of a recipe whose class does not exist
     }
     frm.Chargement.hide();
 }

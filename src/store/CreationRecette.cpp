@@ -137,7 +137,7 @@ TextesNouveaux Creation::EcrireLignes() {
     m_etapes.Executer([&] {
         Recordset lignes = m_livre.OpenRecordset(QStringLiteral("SELECT * From Ingre"));
         for (const LigneSaisie &ligne : m_saisie.lignes | std::views::reverse) {
-            if (!ligne.vide()) {
+            if (!ligne.Vide()) {
                 EcrireLigne(lignes, ligne, nouveaux);
             }
         }

@@ -12,10 +12,10 @@ namespace store {
 struct LigneSaisie {
     QString quantite, mesure, ingredient;
 
-    bool vide() const { return quantite.isEmpty() && mesure.isEmpty() && ingredient.isEmpty(); }
+    bool Vide() const { return quantite.isEmpty() && mesure.isEmpty() && ingredient.isEmpty(); }
 };
 
-/// The fields of a new recipe, as the window holds them in which it is made.
+/// The fields of a new recipe, as its window holds them.
 struct RecetteSaisie {
     QString titre;
     QString cout, difficulte, vin, dureeCuisson, personnes, plat, dureeReal;
@@ -23,7 +23,7 @@ struct RecetteSaisie {
     std::vector<LigneSaisie> lignes;
 };
 
-/// What one window of creation does otherwise than another.
+/// What differs between the windows in which recipes are created.
 struct ModeDeCreation {
     bool dureeSansBalises;   ///< each <B> and </B> of the preparation time becomes a blank
     bool vinSansApostrophes; ///< the apostrophes of the wine advice go; otherwise a new row has them doubled

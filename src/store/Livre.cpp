@@ -15,11 +15,11 @@ namespace store {
 
 namespace {
 
-QString connexion() {
+QString Connexion() {
     return QStringLiteral(";pwd =PoivreEtSel4");
 }
 
-QString schema() {
+QString SchemaEntier() {
     QStringList instructions;
     for (const Table *table : kTables) {
         instructions.append(CreationDeTable(*table));
@@ -49,7 +49,7 @@ platform::database::Database OuvrirLivre() {
 }
 
 platform::database::Database OuvrirLivre(const QString &chemin) {
-    auto livre = platform::database::OpenDatabase(chemin, true, false, connexion(), CollationFrancaise);
+    auto livre = platform::database::OpenDatabase(chemin, true, false, Connexion(), kCollationFrancaise);
     if (livre.UserVersion() != kVersionDuLivre) {
         MettreAJour(livre);
     }
@@ -57,11 +57,11 @@ platform::database::Database OuvrirLivre(const QString &chemin) {
 }
 
 void PreparerCle() {
-    platform::database::PrepareKey(CheminBase(), connexion());
+    platform::database::PrepareKey(CheminBase(), Connexion());
 }
 
 void CreerLivre(const QString &chemin) {
-    platform::database::CreateDatabase(chemin, connexion(), schema());
+    platform::database::CreateDatabase(chemin, Connexion(), SchemaEntier());
 }
 
 } // namespace store

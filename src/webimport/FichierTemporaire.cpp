@@ -17,7 +17,7 @@ constexpr char kTypeTexte = 8;
 constexpr int kPageDeCodes = 1252;
 constexpr int kCaracteres = 256;
 
-[[noreturn]] void echouer(const QFile &fichier) {
+[[noreturn]] void Echouer(const QFile &fichier) {
     throw ErreurExecution(fichier.fileName().toStdString() + " : " + fichier.errorString().toStdString());
 }
 
@@ -54,14 +54,14 @@ void EcrireTexte(const QString &chemin, const QString &texte) {
     QFile fichier(chemin);
     const QByteArray octets = EnregistrementDuTexte(texte);
     if (!fichier.open(QIODevice::ReadWrite) || fichier.write(octets) != octets.size() || !fichier.flush()) {
-        echouer(fichier);
+        Echouer(fichier);
     }
 }
 
 QString LireTexte(const QString &chemin) {
     QFile fichier(chemin);
     if (!fichier.open(QIODevice::ReadOnly)) {
-        echouer(fichier);
+        Echouer(fichier);
     }
     return TexteDuFichier(fichier.readAll());
 }

@@ -27,7 +27,7 @@ void requireMarks(const QString &texte) {
     QTextDocument document;
     document.setPlainText(texte);
     const QString avant = document.toPlainText();
-    MarquerTexte(document, CouleursMethode);
+    MarquerTexte(document, kCouleursMethode);
     const QString apres = document.toPlainText();
     require(avant.contains(u"<B>") ? apres.size() < avant.size() || avant.contains(u"<B></B>")
                                    : apres == avant);

@@ -38,7 +38,7 @@ private:
     QString path(const QString &name) const { return m_folder.filePath(name); }
 
     /// Runs the choice; the cook takes that file, or cancels when it is empty.
-    Choix choose(const QString &file, QString &folder) {
+    ChoixImage choose(const QString &file, QString &folder) {
         const auto cook = in<QFileDialog>([&](QFileDialog &dialog) {
             m_start = dialog.directory().path();
             chooseIn(dialog, file);
@@ -117,9 +117,9 @@ private Q_SLOTS:
         const QString summer = path(u"ailleurs/L'ÉTÉ.JPG"_qs);
         QVERIFY(image.save(summer));
         QString folder;
-        QCOMPARE(choose({}, folder), Choix::Abandonnee);
+        QCOMPARE(choose({}, folder), ChoixImage::Abandonnee);
         QCOMPARE(m_start, path(u"Savorel/image"_qs));
-        QCOMPARE(choose(summer, folder), Choix::Faite);
+        QCOMPARE(choose(summer, folder), ChoixImage::Faite);
         QCOMPARE(m_photo.Tag(), summer);
         choose({}, folder);
         QCOMPARE(m_start, path(u"ailleurs"_qs));
@@ -139,7 +139,7 @@ private Q_SLOTS:
         QVERIFY(!before.isNull());
         for (const QString &name : {u"texte.jpg"_qs, u"immense.bmp"_qs, u"."_qs}) {
             const Reponse message(u"OK"_qs);
-            QCOMPARE(PoserImage(m_frame, path(name)), Choix::Illisible);
+            QCOMPARE(PoserImage(m_frame, path(name)), ChoixImage::Illisible);
             QVERIFY2(message.asked(), qPrintable(name));
             QVERIFY(m_photo.Tag().endsWith(u"L'ÉTÉ.JPG"_qs));
             QCOMPARE(m_photo.Picture(), before);

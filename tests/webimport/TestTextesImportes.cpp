@@ -24,7 +24,7 @@ private:
     static QString marque(const QString &texte) {
         QTextDocument document;
         document.setPlainText(texte);
-        MarquerTexte(document, CouleursComplements);
+        MarquerTexte(document, kCouleursComplements);
         QString resultat;
         for (QTextBlock bloc = document.begin(); bloc.isValid(); bloc = bloc.next()) {
             for (auto i = bloc.begin(); !i.atEnd(); ++i) {

@@ -7,7 +7,7 @@ class QLockFile;
 
 namespace platform::desktop {
 
-/// Tells whether a program runs already for this user, and makes this process the running one if not, for as
+/// Tells whether the program is already running for this user, and makes this process the running one if not, for as
 /// long as the object lives. A process that was killed leaves no claim behind.
 class SingleInstance {
 public:

@@ -96,7 +96,7 @@ protected:
         adapt();
     }
 
-    /// The dialog of the properties is made anew after each choice.
+    /// The dialog of the properties is made again after each choice.
     void childEvent(QChildEvent *event) override {
         if (event->added()) {
             event->child()->installEventFilter(this);

@@ -208,8 +208,8 @@ void Facile::PeindreFiche() {
     CadrePhoto.SetBackColor(kLightGround);
     Photo.hide();
     Scroll(1).SetBackColor(kLightGround);
-    Saisie(0).SetDefaultColor(QColor(CouleursMethode.ordinaire));
-    Saisie(1).SetDefaultColor(QColor(CouleursComplements.ordinaire));
+    Saisie(0).SetDefaultColor(QColor(kCouleursMethode.ordinaire));
+    Saisie(1).SetDefaultColor(QColor(kCouleursComplements.ordinaire));
     for (DropList *liste : {&LQte, &LQte2, &LIngre}) {
         liste->hide();
     }
