@@ -72,13 +72,11 @@ void DropBox::Open(QWidget *covered) {
 
 void DropBox::offerTyped(const QString &written) {
     if (m_typedOnTop) {
-        m_rows.removeRows(0, 1);
+        m_rows.RemoveFirst();
         m_typedOnTop = false;
     }
-    if (m_offersTyped && !written.trimmed().isEmpty() &&
-        findText(written, Qt::MatchExactly | Qt::MatchCaseSensitive) < 0) {
-        m_rows.insertRows(0, 1);
-        m_rows.setData(m_rows.index(0), written);
+    if (m_offersTyped && !written.trimmed().isEmpty() && !m_rows.Texts().contains(written)) {
+        m_rows.InsertFirst(written);
         m_typedOnTop = true;
     }
 }
@@ -87,8 +85,9 @@ void DropBox::offerTyped(const QString &written) {
 void DropBox::openAtText() {
     const QString written = currentText();
     const QSignalBlocker quiet(this);
+    m_rows.SetTexts(m_rows.Texts()); // a list made before learns of rows that were read since
     offerTyped(written);
-    setCurrentIndex(findText(written, Qt::MatchExactly | Qt::MatchCaseSensitive));
+    setCurrentIndex(static_cast<int>(m_rows.Texts().indexOf(written)));
     setEditText(written);
 }
 
@@ -113,7 +112,7 @@ int DropBox::longestRow(int limit) const {
     const QFontMetrics metrics = view()->fontMetrics();
     const int widestLetter = metrics.horizontalAdvance(QLatin1Char('W'));
     int longest = 0;
-    for (const QString &row : m_rows.stringList()) {
+    for (const QString &row : m_rows.Texts()) {
         // Of thousands of rows few can be longer than the longest so far, and only those are measured.
         if (row.size() * widestLetter > longest && !isDotted(row)) {
             longest = std::max(longest, metrics.horizontalAdvance(row.left(limit)));
@@ -159,15 +158,23 @@ bool DropBox::eventFilter(QObject *watched, QEvent *event) {
 
 void DropBox::Clear() {
     const QSignalBlocker quiet(this);
-    m_rows.setStringList({});
+    m_rows.SetTexts({});
     m_typedOnTop = false;
     clearEditText();
+}
+
+void DropBox::Refresh() {
+    const QSignalBlocker quiet(this);
+    const QString written = currentText();
+    m_rows.Refresh();
+    m_typedOnTop = false;
+    setEditText(written);
 }
 
 void DropBox::AddItems(const QStringList &texts) {
     const QSignalBlocker quiet(this);
     const QString written = currentText();
-    m_rows.setStringList(m_rows.stringList() + texts);
+    m_rows.SetTexts(m_rows.Texts() + texts);
     // The toolkit would choose the first row of a list that was empty.
     setCurrentIndex(-1);
     setEditText(written);
