@@ -231,21 +231,22 @@ void AfficherIngredients(Frmmain &frm, qint64 numero) {
 }
 
 void ChargerLesListesCombo(Frmmain &frm) {
-    const auto charger = [](DropList &liste, const store::Table &table) {
-        liste.Clear();
-        liste.AddItems(store::ChargerCombo(table));
+    const auto rafraichir = [](DropList &liste) {
+        liste.Refresh();
+        liste.SetText({});
     };
+    for (DropList *liste : {&frm.LMesure, &frm.LQuantite, &frm.LIngre}) {
+        rafraichir(*liste);
+    }
     for (const Valeur &valeur : kValeurs) {
-        if (const store::Table *table = valeur.Table()) {
-            charger(valeur.Liste(frm), *table);
+        DropList &liste = valeur.Liste(frm);
+        if (valeur.Table() != nullptr) {
+            rafraichir(liste);
         }
         if (valeur.texte != TexteDeListe::AOuverture) {
-            valeur.Liste(frm).SetText(valeur.Bouton(frm).Caption());
+            liste.SetText(valeur.Bouton(frm).Caption());
         }
     }
-    charger(frm.LMesure, store::kMesure);
-    charger(frm.LQuantite, store::kQuantite);
-    charger(frm.LIngre, store::kIngredient);
 }
 
 void CacherListeModif(Frmmain &frm) {

@@ -22,7 +22,8 @@ void AfficherIngredients(Frmmain &frm, qint64 numero);
 /// Stacks the controls of the detail in Scroll(0).
 void PlacerFiche(Frmmain &frm);
 
-/// Refills the drop lists of the detail from their tables.
+/// Has the drop lists of the detail filled from their tables, each when its rows are first asked for, and sets their
+/// texts.
 void ChargerLesListesCombo(Frmmain &frm);
 
 /// Hides the drop lists of the detail.

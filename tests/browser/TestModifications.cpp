@@ -142,6 +142,26 @@ private Q_SLOTS:
         QCOMPARE(count(u"SELECT NCategorie From Categorie"_qs), 2);
     }
 
+    void aListOffersWhatTheBookHoldsWhenItOpens() {
+        DropList &times = open(6, m_window->LCategorie);
+        times.showPopup();
+        times.hidePopup();
+        LivreEssai::execute({u"INSERT INTO Categorie VALUES (3, '2 heures')"_qs, u"DELETE From Verre"_qs});
+        open(6, times).showPopup();
+        const QModelIndex added = times.model()->index(times.findText(u"2 heures"_qs), 0);
+        QVERIFY(!times.view()->visualRect(added).isEmpty());
+        choose(times, u"2 heures"_qs);
+        QCOMPARE(stored(u"NCategorie"_qs), u"3"_qs);
+
+        // Over an empty table it keeps its place and its text.
+        DropList &persons = m_window->LVerre;
+        persons.SetLeft(Twips(75));
+        typeInto(persons, u"12"_qs);
+        QCOMPARE(open(0, persons).Count(), 0);
+        QCOMPARE(persons.Left().value(), 75.0F);
+        QCOMPARE(persons.Text(), u"12"_qs);
+    }
+
     void dotsAddABlankRowEachTime() {
         for (const QString &key : {u"3"_qs, u"4"_qs}) {
             choose(open(6, m_window->LCategorie), kDots);
