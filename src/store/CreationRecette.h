@@ -13,6 +13,8 @@ struct LigneSaisie {
     QString quantite, mesure, ingredient;
 
     bool vide() const { return quantite.isEmpty() && mesure.isEmpty() && ingredient.isEmpty(); }
+
+    bool operator==(const LigneSaisie &) const = default;
 };
 
 /// The fields of a new recipe, as the window holds them in which it is made.
@@ -21,6 +23,8 @@ struct RecetteSaisie {
     QString cout, difficulte, vin, dureeCuisson, personnes, plat, dureeReal;
     QString preparation, complements; ///< rich texts
     std::vector<LigneSaisie> lignes;
+
+    bool operator==(const RecetteSaisie &) const = default;
 };
 
 /// What one window of creation does otherwise than another.

@@ -84,7 +84,7 @@ private:
             nameField(dialog)->setText(name);
             QTest::keyClick(nameField(dialog), Qt::Key_Return);
         });
-        const QString chosen = ShowSave(nullptr, u"Enregistrer"_qs, kFilter, m_folder.path(), u"bmp"_qs);
+        const QString chosen = ShowSave(nullptr, u"Enregistrer"_qs, kFilter, {m_folder.path()}, u"bmp"_qs);
         return {chosen, asked};
     }
 
@@ -144,7 +144,7 @@ private Q_SLOTS:
             nameField(dialog)->setText(u"l'été b.bmp"_qs);
             QTest::keyClick(nameField(dialog), Qt::Key_Return);
         });
-        QCOMPARE(ShowOpen(nullptr, u"Ouvrir"_qs, kFilter, path(u"images"_qs)),
+        QCOMPARE(ShowOpen(nullptr, u"Ouvrir"_qs, kFilter, {path(u"images"_qs)}),
                  path(u"images/l'été b.bmp"_qs));
     }
 
@@ -155,7 +155,17 @@ private Q_SLOTS:
             QCOMPARE(nameField(dialog)->text(), u"A.JPG"_qs);
             dialog.reject();
         });
-        QCOMPARE(ShowOpen(nullptr, u"Ouvrir"_qs, kFilter, path(u"images/A.JPG"_qs)), QString());
+        QCOMPARE(ShowOpen(nullptr, u"Ouvrir"_qs, kFilter, Start::at(path(u"images/A.JPG"_qs))), QString());
+    }
+
+    void aFolderThatIsGoneIsNoName() {
+        const auto user = answering<QFileDialog>([this](QFileDialog &dialog) {
+            QCOMPARE(nameField(dialog)->text(), QString());
+            QCOMPARE(dialog.directory().path(), m_folder.path());
+            dialog.reject();
+        });
+        QCOMPARE(ShowSave(nullptr, u"Enregistrer"_qs, kFilter, {path(u"absent/Documents"_qs)}, u"bmp"_qs),
+                 QString());
     }
 
     void savingCompletesTheNameBeforeItAsks() {
