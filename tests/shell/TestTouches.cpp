@@ -71,6 +71,9 @@ private Q_SLOTS:
         for (const bool typed : {true, false}) {
             std::optional<bool> asked;
             const auto user = in<entry::Manuelle>([&](entry::Manuelle &window) {
+                if (!window.isActiveWindow()) {
+                    return false;
+                }
                 if (typed) {
                     QTest::keyClicks(&window.TitreRecette, u"Riz"_qs);
                 }
@@ -107,6 +110,8 @@ private Q_SLOTS:
         press(*m_window, Qt::Key_Delete);
         QCOMPARE(no.question(), u"Voulez-vous réellement supprimer Aïoli ?"_qs);
 
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window));
         const Reponse none(u"Non"_qs);
         press(*m_window, Qt::Key_F2);
         QPointer<QLineEdit> editor = qobject_cast<QLineEdit *>(QApplication::focusWidget());
