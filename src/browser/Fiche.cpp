@@ -192,7 +192,7 @@ void AjouterLignePointillee(Frmmain &frm, int i) {
 
 } // namespace
 
-void ChargerRecette(Frmmain &frm, qint64 numero) {
+bool ChargerRecette(Frmmain &frm, qint64 numero) {
     AfficherIngredients(frm, numero);
     frm.Scroll(0).ScrollToTop();
     frm.Scroll(0).SetScrollableHeight(kMargeFiche);
@@ -201,7 +201,7 @@ void ChargerRecette(Frmmain &frm, qint64 numero) {
     auto recette = base.OpenRecordset(QStringLiteral("SELECT * From Cocktails where Numero = ") +
                                       QString::number(numero) + QStringLiteral(" order by Recette asc"));
     if (recette.RecordCount() == 0) {
-        return;
+        return false;
     }
     const auto texte = [&recette](store::ChampRecette champ) {
         return recette.Fields(store::Position(champ)).Text();
@@ -213,6 +213,7 @@ void ChargerRecette(Frmmain &frm, qint64 numero) {
     AfficherTexte(frm.Saisie(kPreparation.saisie), texte(kPreparation.champ));
     AfficherComplements(frm, texte(kComplements.champ));
     frm.Scroll(0).SetScrollableHeight(frm.Saisie(kComplements.saisie).Bottom() + kMargeFiche);
+    return true;
 }
 
 void AfficherIngredients(Frmmain &frm, qint64 numero) {

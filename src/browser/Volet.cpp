@@ -72,9 +72,10 @@ void Volet::MontrerRecette(const QString &liste, qint64 numero, const QString &t
 }
 
 void Volet::MontrerSansOutil(qint64 numero) {
-    ChargerRecette(m_frm, numero);
-    m_recette = numero;
-    m_frm.Scroll(0).show();
+    if (ChargerRecette(m_frm, numero)) {
+        m_recette = numero;
+        m_frm.Scroll(0).show();
+    }
 }
 
 qint64 Volet::Numero() const {

@@ -68,7 +68,7 @@ private:
 };
 
 void Creation::Ecrire(ChampRecette champ, const QVariant &valeur) {
-    m_etapes.Executer([&] { m_recettes.Fields(Position(champ)) = valeur; });
+    m_etapes.Executer([&] { m_recettes.Fields(Description(champ).nom) = valeur; });
 }
 
 /// Writes the number of a text of the table that the column refers to. Without a number the column stays Null.

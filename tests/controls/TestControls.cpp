@@ -204,7 +204,7 @@ private Q_SLOTS:
         QCOMPARE(box.cursorPosition(), 11);
         auto &list = shown<DropList>();
         QTest::keyClick(&list, Qt::Key_V, Qt::ControlModifier);
-        QCOMPARE(list.Text(), u"1 heure 20 "_qs);
+        QCOMPARE(list.Text(), u"1 heure 20"_qs);
 
         auto *file = new QMimeData;
         file->setUrls({QUrl::fromLocalFile(u"/tarte.jpg"_qs)});
@@ -213,7 +213,7 @@ private Q_SLOTS:
         QVERIFY(!enters.isAccepted());
         QApplication::clipboard()->setMimeData(file);
         QTest::keyClick(&list, Qt::Key_V, Qt::ControlModifier);
-        QCOMPARE(list.Text(), u"1 heure 20 "_qs);
+        QCOMPARE(list.Text(), u"1 heure 20"_qs);
     }
 
     void whatIsCutIsWholeInItsToolTip() {
