@@ -165,6 +165,34 @@ void ChoisirPhoto(Frmmain &frm) {
 
 } // namespace
 
+bool RangeesModifiables() {
+    const Vue *courante = VueNumero(VueCourante());
+    return courante != nullptr && courante->vocabulaire.empty();
+}
+
+void ViserHaut(Frmmain &frm) {
+    const int vue = VueCourante();
+    frm.Volet.Designer(vue == 0 ? kHaut : QString());
+    if (vue != 0) {
+        // The row stands for a group from here on, no more for the recipe that may be shown beside it.
+        frm.Volet.Quitter();
+    }
+}
+
+void AgirSurRangee(Frmmain &frm, List &liste, void (*acte)(Frmmain &)) {
+    if (liste.SelectedIndex() == 0 || (&liste == &frm.Liste && !RangeesModifiables())) {
+        return;
+    }
+    // While an arrow is held down, what is shown is still of another row.
+    if (&liste == &frm.LFilms) {
+        ClicFilms(frm);
+    } else {
+        FlecheListe(frm);
+        ViserHaut(frm);
+    }
+    acte(frm);
+}
+
 bool PeutAjouter(const Frmmain &frm) {
     return AjouteUneRecette(frm) || AjoutDe(VueCourante()) != nullptr;
 }

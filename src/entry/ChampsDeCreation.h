@@ -43,6 +43,9 @@ store::RecetteSaisie LireChamps(Fenetre &fenetre) {
     return saisie;
 }
 
+/// Asks whether to leave a window with a recipe that is not created.
+bool ConfirmerAbandon(QWidget &fenetre);
+
 /// Adds to the lists of the lines what the save has added to the book.
 template <class Fenetre>
 void ProposerNouveaux(Fenetre &fenetre, const store::TextesNouveaux &nouveaux) {

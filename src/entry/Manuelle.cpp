@@ -1,5 +1,6 @@
 #include "Manuelle.h"
 
+#include "ChampsDeCreation.h"
 #include "CreerRecette.h"
 #include "Listes.h"
 
@@ -116,6 +117,7 @@ Manuelle::Manuelle(browser::Frmmain &frm)
     ChargerListesDesLignes(*this);
     ViderSaisies();
     Brancher();
+    NoterDepart();
     TitreRecette.setFocus();
 }
 
@@ -208,6 +210,15 @@ void Manuelle::Poser(pictures::ChoixImage choix) {
         Principale.ImageTemp.SetPicture(Photo.Picture());
     }
     LegenderPhoto();
+}
+
+void Manuelle::NoterDepart() {
+    m_depart = LireChamps(*this);
+}
+
+bool Manuelle::MayEscape() {
+    const bool intacte = Photo.Picture().isNull() && LireChamps(*this) == m_depart;
+    return intacte || ConfirmerAbandon(*this);
 }
 
 void Manuelle::Quitter() {

@@ -34,7 +34,7 @@ ChoixImage ChoisirImage(const CadreImage &cadre, QString &dossier) {
         dialogs::ShowOpen(&cadre.fenetre, QStringLiteral("Chercher une image"),
                           QStringLiteral("Tous les fichiers images (*.bmp,*.jpg,*.jpeg,*.gif)|"
                                          "*.bmp;*.jpg;*.jpeg;*.gif"),
-                          PremierDossier(dossier));
+                          {PremierDossier(dossier)});
     if (fichier.isEmpty()) {
         return ChoixImage::Abandonnee;
     }

@@ -89,7 +89,7 @@ void RechargerListes(browser::Frmmain &frm) {
 
 void SauvegarderBase(browser::Frmmain &frm) {
     const QString fichier = dialogs::ShowSave(&frm, QStringLiteral("Sauvegarder la base de donnée"), kFiltre,
-                                              DossierPropose(), QStringLiteral("mdb"));
+                                              {DossierPropose()}, QStringLiteral("mdb"));
     if (fichier.isEmpty()) {
         return;
     }
@@ -104,7 +104,7 @@ void SauvegarderBase(browser::Frmmain &frm) {
 
 void RestaurerBase(browser::Frmmain &frm) {
     const QString fichier = dialogs::ShowOpen(&frm, QStringLiteral("Restaurer une ancienne base de donnée"),
-                                              kFiltre, DossierPropose());
+                                              kFiltre, {DossierPropose()});
     if (!fichier.isEmpty()) {
         if (store::EstLeLivre(fichier)) {
             // Copied onto itself, the book would stay what it is.

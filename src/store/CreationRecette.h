@@ -13,6 +13,8 @@ struct LigneSaisie {
     QString quantite, mesure, ingredient;
 
     bool Vide() const { return quantite.isEmpty() && mesure.isEmpty() && ingredient.isEmpty(); }
+
+    bool operator==(const LigneSaisie &) const = default;
 };
 
 /// The fields of a new recipe, as its window holds them.
@@ -21,6 +23,8 @@ struct RecetteSaisie {
     QString cout, difficulte, vin, dureeCuisson, personnes, plat, dureeReal;
     QString preparation, complements; ///< rich texts
     std::vector<LigneSaisie> lignes;
+
+    bool operator==(const RecetteSaisie &) const = default;
 };
 
 /// What differs between the windows in which recipes are created.

@@ -68,7 +68,7 @@ private:
             nameField(dialog)->setText(name);
             QTest::keyClick(nameField(dialog), Qt::Key_Return);
         });
-        const QString chosen = ShowSave(nullptr, u"Enregistrer"_qs, kFilter, m_folder.path(), u"bmp"_qs);
+        const QString chosen = ShowSave(nullptr, u"Enregistrer"_qs, kFilter, {m_folder.path()}, u"bmp"_qs);
         return {chosen, asked};
     }
 
@@ -104,6 +104,16 @@ private Q_SLOTS:
                 answering<QInputDialog>([key](QInputDialog &box) { QTest::keyClick(&box, key); });
             QCOMPARE(InputBox(nullptr, u"Titre"_qs, u"Texte"_qs).has_value(), key == Qt::Key_Return);
         }
+    }
+
+    void aFolderThatIsGoneIsNoName() {
+        const auto user = answering<QFileDialog>([this](QFileDialog &dialog) {
+            QCOMPARE(nameField(dialog)->text(), QString());
+            QCOMPARE(dialog.directory().path(), m_folder.path());
+            dialog.reject();
+        });
+        QCOMPARE(ShowSave(nullptr, u"Enregistrer"_qs, kFilter, {path(u"absent/Documents"_qs)}, u"bmp"_qs),
+                 QString());
     }
 
     void savingCompletesTheNameBeforeItAsks() {

@@ -81,6 +81,29 @@ private Q_SLOTS:
         QCOMPARE(LivreEssai::setting(u"Tris"_qs), u"4"_qs);
     }
 
+    void aFileLeftBehindIsNoRunningProgram() {
+        const QTemporaryDir place;
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(place.path()));
+        qputenv("XDG_CACHE_HOME", QFile::encodeName(place.filePath(u"cache"_qs)));
+        std::optional<SingleInstance> first(std::in_place, u"Essai"_qs);
+        const QString lock = place.filePath(QDir(place.path()).entryList({u"*.lock"_qs}).value(0));
+        first.reset();
+        QVERIFY(!QFile::exists(lock));
+        writeFile(lock, "1\nsavorel\n");
+        // A folder stands for a file that nobody can open.
+        for (const bool readable : {true, false}) {
+            if (!readable) {
+                QVERIFY(QDir().mkpath(lock));
+            }
+            first.emplace(u"Essai"_qs);
+            QVERIFY(!first->IsRunningElsewhere());
+            QVERIFY(SingleInstance(u"Essai"_qs).IsRunningElsewhere());
+            QVERIFY(SingleInstance(u"Essai"_qs).IsRunningElsewhere());
+            first.reset();
+        }
+        QVERIFY(QDir(place.filePath(u"cache"_qs)).isEmpty());
+    }
+
     void refusedQuitKeepsThePlace() {
         m_test->start();
         m_window->move(30, 40);

@@ -209,6 +209,16 @@ void DropBox::paintEvent(QPaintEvent *event) {
     paintFocusRing(painter, *this);
 }
 
+/// Escape closes the proposals before it may leave the window.
+bool DropBox::event(QEvent *event) {
+    if (event->type() == QEvent::ShortcutOverride && m_proposals != nullptr && m_proposals->isVisible() &&
+        static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
+        event->accept();
+        return true;
+    }
+    return QComboBox::event(event);
+}
+
 void DropBox::keyPressEvent(QKeyEvent *event) {
     if (m_proposals != nullptr && m_proposals->TakeKey(*event)) {
         return;
