@@ -76,17 +76,17 @@ void runScript(sqlite3 *db, const char *sql) {
 Connection::Connection(const QString &name, const Options &options)
     : m_db(openFile(name, options.readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE)),
       m_collation(options.collation),
-      m_exclusive(options.exclusive) {
+      m_journalled(options.exclusive && !options.readOnly) {
     sqlite3 *db = m_db.get();
     if (const QByteArray salt = saltOf(db); !options.passphrase.isEmpty()) {
         useKey(db, options.passphrase, salt);
     }
     sqlite3_create_collation(db, "NOCASE", SQLITE_UTF8, &m_collation, compareTexts);
-    if (m_exclusive && options.readOnly) {
+    if (options.exclusive && options.readOnly) {
         // A file that cannot be written cannot be locked for writing either: the lasting lock of a reader keeps
         // writers out.
         runScript(db, "PRAGMA locking_mode = EXCLUSIVE; PRAGMA schema_version");
-    } else if (m_exclusive) {
+    } else if (m_journalled) {
         // The journal is cut short by each commit and goes at the close, since a lasting lock keeps it.
         runScript(db, "PRAGMA locking_mode = EXCLUSIVE; PRAGMA journal_mode = TRUNCATE;"
                       "BEGIN EXCLUSIVE; COMMIT");
@@ -106,8 +106,15 @@ void Connection::close() {
     while (sqlite3_stmt *statement = sqlite3_next_stmt(m_db.get(), nullptr)) {
         sqlite3_finalize(statement);
     }
-    if (m_exclusive) {
-        sqlite3_exec(m_db.get(), "PRAGMA locking_mode = NORMAL; PRAGMA journal_mode = DELETE", nullptr,
+    if (m_journalled) {
+        // Where a change has failed half-way and could not be taken back, only the journal can heal the file. A
+        // transaction plays it back first; while that fails, what stands behind it does not run, and the journal stays
+        // for the next open.
+        if (sqlite3_get_autocommit(m_db.get()) == 0) {
+            sqlite3_exec(m_db.get(), "ROLLBACK", nullptr, nullptr, nullptr);
+        }
+        sqlite3_exec(m_db.get(),
+                     "BEGIN EXCLUSIVE; COMMIT; PRAGMA locking_mode = NORMAL; PRAGMA journal_mode = DELETE", nullptr,
                      nullptr, nullptr);
     }
     m_db.reset();

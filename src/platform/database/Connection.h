@@ -71,7 +71,7 @@ private:
 
     SqliteHandle m_db;
     Collation m_collation;
-    bool m_exclusive;
+    bool m_journalled; ///< the lasting lock keeps the journal, which close() removes
 };
 
 } // namespace platform::database
