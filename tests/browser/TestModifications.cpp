@@ -1,5 +1,5 @@
-#include "Lignes.h"
 #include "LivreEssai.h"
+#include "Rows.h"
 
 #include "browser/Fiche.h"
 #include "browser/TableDesValeurs.h"

@@ -1,6 +1,6 @@
-#include "Lignes.h"
 #include "LivreEssai.h"
 #include "Reponse.h"
+#include "Rows.h"
 
 #include "browser/Operations.h"
 #include "browser/Pop.h"

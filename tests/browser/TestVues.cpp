@@ -6,6 +6,7 @@
 
 #include <array>
 #include <memory>
+#include <tuple>
 
 using namespace browser;
 using platform::controls::List;
@@ -71,31 +72,11 @@ private Q_SLOTS:
         }
     }
 
-    void recipesAreOrderedAndTheFirstIsShown() {
-        fill();
-        Frmmain &frm = opened(0);
-        QCOMPARE(texts(frm.Liste), u"Bisque, Éclair, Tarte"_qs);
-        QCOMPARE(frm.Liste.Key(3), u"N 1"_qs);
-        QCOMPARE(frm.Liste.SelectedIndex(), 1);
-        QCOMPARE(frm.LTDroit.Caption(), u"Bisque"_qs);
-        QVERIFY(recipeShown(frm));
-        QVERIFY(!frm.LFilms.isVisible());
-        QCOMPARE(frm.Outils(2).Tag(), kHaut);
-        QCOMPARE(frm.Saisie(0).Text(), u"Mixer"_qs);
-    }
-
     void groupShowsItsRecipes() {
         fill();
         const QString both = u"Bisque, Tarte"_qs; // the newest first
 
-        struct Case {
-            int view;
-            QString groups;
-            int row;
-            QString recipes;
-        };
-
-        const auto cases = std::to_array<Case>({
+        const auto cases = std::to_array<std::tuple<int, QString, int, QString>>({
             {1, u"1 heure, 10 mn"_qs, 2, both},
             {2, u"4 personnes"_qs, 1, both},
             {3, u"Sans Commentaire, Peu Cher, Moyen, Cher, Très Cher"_qs, 2, u"Tarte"_qs},
@@ -104,7 +85,6 @@ private Q_SLOTS:
             {6, u"Beurre, Eau"_qs, 1, both},
             {7, u"20 mn"_qs, 1, both},
         });
-
         for (const auto &[view, groups, row, recipes] : cases) {
             Frmmain &frm = opened(0);
             QTest::mouseClick(&frm.Bouton(view), Qt::LeftButton);
@@ -148,29 +128,6 @@ private Q_SLOTS:
         QCOMPARE(texts(frm.LFilms), u"Éclair"_qs);
         QVERIFY(!frm.Outils(2).isVisible());
         QCOMPARE(frm.LTDroit.Caption(), u"1 heure"_qs);
-
-        clickRow(frm.LFilms, 1);
-        LivreEssai::execute({u"DELETE From Verre"_qs});
-        QTest::mouseClick(&frm.Bouton(2), Qt::LeftButton);
-        QVERIFY(!frm.Scroll(0).isVisible());
-        QVERIFY(!frm.LBtn(2).isVisible());
-        QVERIFY(frm.Cadre(1).isVisible());
-        QCOMPARE(frm.LTDroit.Caption(), QString());
-    }
-
-    void arrowsMoveTheRecipe() {
-        fill();
-        Frmmain &frm = opened(0);
-        QTest::keyClick(&frm.Liste, Qt::Key_Down);
-        QTest::keyClick(&frm.Liste, Qt::Key_Down);
-        QCOMPARE(frm.LTDroit.Caption(), u"Tarte"_qs);
-        QCOMPARE(frm.Saisie(0).Text(), u"Cuire"_qs);
-
-        QTest::mouseClick(&frm.Bouton(1), Qt::LeftButton);
-        QTest::keyClick(&frm.Liste, Qt::Key_Down);
-        clickRow(frm.LFilms, 1);
-        QTest::keyClick(&frm.LFilms, Qt::Key_Down);
-        QCOMPARE(frm.LTDroit.Caption(), u"Tarte"_qs);
     }
 
     void secondClickRenamesInTheTable() {

@@ -1,11 +1,9 @@
 #include "Shown.h"
 
-#include "platform/controls/FileDrop.h"
 #include "platform/controls/RichTextBox.h"
 
 #include <QApplication>
 #include <QClipboard>
-#include <QDropEvent>
 #include <QElapsedTimer>
 #include <QMimeData>
 #include <QSignalBlocker>
@@ -35,7 +33,7 @@ private:
         QTest::keyClick(m_box, Qt::Key(key), modifiers);
     }
 
-    /// A key on a mixed selection over two paragraphs, on formatted text, and between two typed letters.
+    /// A key on a mixed selection over two paragraphs, and on formatted text.
     void formatWith(int key, const QString &on, const QString &off) {
         m_box->SetTextRTF(u"{\\rtf1 a" + on + u" b" + off + u" c\\par d}");
         m_box->Select(0, 5);
@@ -45,15 +43,6 @@ private:
         m_box->Select(1, 1);
         press(key);
         QVERIFY(stored().startsWith(on + u" a" + off + u" b" + on + u" c"));
-        QCOMPARE(raised(), 2);
-
-        m_box->SetTextRTF(u"a"_qs);
-        m_box->Select(1, 0);
-        press(key);
-        QTest::keyClicks(m_box, u"b"_qs);
-        press(key);
-        QTest::keyClicks(m_box, u"c"_qs);
-        QCOMPARE(stored(), u"a" + on + u" b" + off + u" c");
         QCOMPARE(raised(), 2);
     }
 
@@ -157,20 +146,6 @@ private Q_SLOTS:
         formatWith(Qt::Key_B, u"\\b"_qs, u"\\b0"_qs);
         formatWith(Qt::Key_I, u"\\i"_qs, u"\\i0"_qs);
         formatWith(Qt::Key_U, u"\\ul"_qs, u"\\ulnone"_qs);
-    }
-
-    void aDroppedFileGoesToWhatTheBoxStandsIn() {
-        const auto *area = new FileDrop(*m_window);
-        QSignalSpy dropped(area, &FileDrop::Dropped);
-        QMimeData file;
-        file.setUrls({QUrl::fromLocalFile(u"/tarte.jpg"_qs)});
-        const QPoint place = m_box->viewport()->rect().center();
-        QDragEnterEvent enters(place, Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(m_box->viewport(), &enters);
-        QDropEvent drops(place, Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(m_box->viewport(), &drops);
-        QCOMPARE(dropped.count(), 1);
-        QCOMPARE(raised(), 0);
     }
 
     void anEmptiedBoxKeepsItsColour() {

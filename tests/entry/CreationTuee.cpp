@@ -2,8 +2,8 @@
 // after each kill whether the book opens and what it holds is whole.
 
 #include "KilledAtWait.h"
-#include "Lignes.h"
 #include "LivreEssai.h"
+#include "Rows.h"
 
 #include "store/CreationRecette.h"
 

@@ -1,5 +1,5 @@
-#include "Lignes.h"
 #include "LivreEssai.h"
+#include "Rows.h"
 
 #include "pictures/CheminPhoto.h"
 #include "pictures/EnregistrerPhoto.h"

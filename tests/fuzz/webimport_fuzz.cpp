@@ -1,13 +1,9 @@
-// Feeds both page parsers any bytes, as a captured page holds them, and the marking pass the texts that they
-// give.
+// Feeds both page parsers any bytes, as a captured page holds them.
 #include "webimport/ErreurExecution.h"
 #include "webimport/FichierTemporaire.h"
-#include "webimport/Marquage.h"
 #include "webimport/PageCommentee.h"
 #include "webimport/PageDebutFin.h"
 
-#include <QGuiApplication>
-#include <QTextDocument>
 #include <cstdint>
 #include <cstdlib>
 
@@ -23,16 +19,6 @@ void require(bool holds) {
     }
 }
 
-void requireMarks(const QString &texte) {
-    QTextDocument document;
-    document.setPlainText(texte);
-    const QString avant = document.toPlainText();
-    MarquerTexte(document, kCouleursMethode);
-    const QString apres = document.toPlainText();
-    require(avant.contains(u"<B>") ? apres.size() < avant.size() || avant.contains(u"<B></B>")
-                                   : apres == avant);
-}
-
 /// A field that no page can give: more rows than hyphens, or a step without its hyphen.
 void requireSoundFields(const ChampsPage &champs, const QString &texte) {
     require(qsizetype(champs.Lignes.size()) <= 2 * texte.size());
@@ -41,12 +27,6 @@ void requireSoundFields(const ChampsPage &champs, const QString &texte) {
 }
 
 } // namespace
-
-extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static const QGuiApplication application(*argc, *argv);
-    return 0;
-}
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     const QByteArray octets(reinterpret_cast<const char *>(data), qsizetype(size));
@@ -67,6 +47,5 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     } catch (const ErreurExecution &) {
         // As above.
     }
-    requireMarks(texte);
     return 0;
 }

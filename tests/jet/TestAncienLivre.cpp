@@ -1,6 +1,6 @@
 #include "Files.h"
-#include "Lignes.h"
 #include "OldBook.h"
+#include "Rows.h"
 #include "SmallFilesOnly.h"
 
 #include "store/AncienLivre.h"
@@ -101,7 +101,7 @@ private Q_SLOTS:
                 << contentOf(outside.filePath(QString(name).replace(u".mdb"_s, u".json"_s)));
         }
         if (names.isEmpty()) {
-            qInfo("No further old books in " OLD_BOOKS);
+            qInfo("No further Jet books in " OLD_BOOKS);
         }
     }
 
@@ -129,7 +129,7 @@ private Q_SLOTS:
         for (const auto &[table, content] : tables.asKeyValueRange()) {
             QVariantList expected = content.toList();
             count += expected.size();
-            // A table with a key has its rows in its order, the lines of the recipes in that of the old book.
+            // A table with a key has its rows in its order, the lines of the recipes in that of the file they come from.
             if (table != u"Ingre") {
                 std::ranges::sort(expected, {}, [key = keyOf(table)](const QVariant &row) {
                     return row.toMap()[key].toLongLong();

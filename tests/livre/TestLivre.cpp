@@ -1,5 +1,5 @@
 // The book as delivered, read as the program reads it.
-#include "Lignes.h"
+#include "Rows.h"
 
 #include "platform/richtext/RichText.h"
 #include "store/Programme.h"

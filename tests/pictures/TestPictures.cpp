@@ -2,7 +2,6 @@
 #include "Meanwhile.h"
 #include "Reponse.h"
 
-#include "pictures/AjusterPhoto.h"
 #include "pictures/CheminPhoto.h"
 #include "pictures/ChoisirImage.h"
 #include "pictures/LecteurPhoto.h"
@@ -14,14 +13,11 @@
 #include <QTest>
 
 #include <array>
-#include <stdexcept>
 #include <utility>
 
 using namespace pictures;
 using platform::controls::ControlRow;
-using platform::controls::Extent;
 using platform::controls::Image;
-using platform::controls::Rectangle;
 using platform::controls::Twips;
 
 class TestPictures : public QObject {
@@ -58,37 +54,6 @@ private Q_SLOTS:
              {u"photos/tarte.jpg"_qs, u"photos/été/melon.jpg"_qs, u"dehors.jpg"_qs, u"photos/a\\b.jpg"_qs}) {
             writeFile(path(u"Savorel/"_qs + name), {});
         }
-    }
-
-    void pictureFits() {
-        struct Case {
-            Rectangle (*fit)(const Rectangle &frame, Extent natural);
-            float width, height;
-            std::array<float, 4> place;
-        };
-
-        // In the frame, relative to it.
-        const auto inside = [](const Rectangle &frame, Extent natural) {
-            return PlaceDansCadre({frame.width, frame.height}, natural);
-        };
-        const auto cases = std::to_array<Case>({
-            {inside, 3000, 3000, {1200, 200, 3600, 3200}},    // the width from the whole height
-            {inside, 8000, 4000, {200, 400, 5600, 2800}},     // both from the reduced one
-            {inside, 3001, 3000, {1199, 200, 3601.2F, 3200}}, // an odd rest is truncated
-            // Over the frame, beside which the picture lies.
-            {PlacePhotoScan, 3000, 3000, {1300, 225, 3600, 3550}},
-            {PlacePhotoScan, 8000, 4000, {125, 512, 5950, 2975}},
-            {PlaceNumerisation, 3000, 3000, {1300, 200, 3600, 3600}},
-            {PlaceNumerisation, 8000, 4000, {105, 502, 5990, 2995}},
-        });
-        const Rectangle frame{Twips(100), Twips(200), Twips(6000), Twips(3600)};
-        for (const auto &[fit, width, height, place] : cases) {
-            const Rectangle fitted = fit(frame, {Twips(width), Twips(height)});
-            QCOMPARE((std::array{fitted.left.value(), fitted.top.value(), fitted.width.value(),
-                                 fitted.height.value()}),
-                     place);
-        }
-        QVERIFY_THROWS_EXCEPTION(std::domain_error, PlacePhotoScan(frame, {}));
     }
 
     void valueNamesAFile() {

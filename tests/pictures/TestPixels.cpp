@@ -30,16 +30,6 @@ class TestPixels : public QObject {
 
 private Q_SLOTS:
 
-    void backgroundShinesThrough() {
-        QImage icon(2, 1, QImage::Format_ARGB32);
-        icon.fill(Qt::transparent);
-        icon.setPixelColor(0, 0, Qt::blue);
-        Surface surface;
-        surface.setPicture(icon);
-        QCOMPARE(surface.picture().pixelColor(0, 0), QColor(Qt::blue));
-        QCOMPARE(surface.picture().pixelColor(1, 0), QColor(Qt::white));
-    }
-
     /// The sums are those of the turn calculated point by point, as it is defined: each product in double precision,
     /// each coordinate rounded to the even neighbour.
     void turnFollowsItsArithmetic_data() {

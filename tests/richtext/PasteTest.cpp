@@ -4,14 +4,11 @@
 #include "platform/richtext/RichText.h"
 
 #include <QColor>
-#include <QElapsedTimer>
 #include <QMimeData>
 #include <QTest>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
-
-#include <cstring>
 
 using namespace platform::richtext;
 using namespace Qt::StringLiterals;
@@ -162,20 +159,6 @@ private Q_SLOTS:
         paste(cursor, data, kGround);
         const QString marks = u"[#a0faff]"_s;
         QCOMPARE(described(copy).remove(marks), described(original).remove(marks));
-    }
-
-    void takesTimeInProportion() {
-        for (const char *piece :
-             {"<p style='color:#333;margin:0'>Mettre le <b>beurre</b>.</p>\n", "<ul><li>un<li>deux</ul>",
-              "<tr><td>un</td><td>deux</td></tr>", "<b>x ", "<a b=\"", "<&", "<style>/*"}) {
-            QTextDocument document;
-            QElapsedTimer timer;
-            timer.start();
-            pasteHtml(document,
-                      QString::fromLatin1(piece).repeated((1 << 18) / qsizetype(std::strlen(piece))));
-            // Many times what it takes, sanitizers included; growth by the square would need minutes.
-            QVERIFY2(timer.elapsed() < 20000, piece);
-        }
     }
 };
 

@@ -49,17 +49,6 @@ private Q_SLOTS:
 
     void init() { m_backend.configure(); }
 
-    void devicesAndTheirOptions() {
-        Scanner scanner;
-        QCOMPARE(scanner.devices().result().size(), 2);
-        const ScanOptions options = scanner.options(kDevice).result();
-        QCOMPARE(options.modes, QStringList({u"Gray"_qs, u"Color"_qs}));
-        QCOMPARE(options.sources, QStringList({u"Flatbed"_qs, u"Automatic Document Feeder"_qs}));
-        QCOMPARE(options.resolutions, QList<double>({75, 100, 150, 200, 300, 400, 600, 1200}));
-        QCOMPARE(options.glass, QSizeF(200, 200));
-        QVERIFY_THROWS_EXCEPTION(ScannerError, scanner.options(u"test:9"_qs).result());
-    }
-
     void kindsOfPictures() {
         const auto kinds = std::to_array<std::pair<QByteArray, QString>>({
             {"", u"Gray"_qs},
@@ -107,15 +96,6 @@ private Q_SLOTS:
             QCOMPARE(error.sentence(), u"Le couvercle du scanner est ouvert."_qs);
         }
         QVERIFY(!scanner.options(kDevice).result().modes.isEmpty());
-    }
-
-    void pictureTooLargeIsRefused() {
-        ScanSettings settings;
-        settings.resolution = 1200;
-        settings.mode = u"Gray"_qs;
-        m_backend.configure("geometry_max 1000.0\n");
-        Scanner scanner;
-        QVERIFY_THROWS_EXCEPTION(ScannerError, scanner.scan(kDevice, settings).result());
     }
 
     void endsWhileScanning() {

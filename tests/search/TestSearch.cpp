@@ -8,6 +8,7 @@
 #include <array>
 #include <memory>
 #include <stdexcept>
+#include <tuple>
 
 using namespace browser;
 using search::FrmFind;
@@ -74,13 +75,7 @@ private Q_SLOTS:
     }
 
     void matchesTheTextInUpperCase() {
-        struct Search {
-            int option;
-            bool prefix;
-            QString text, expected;
-        };
-
-        const auto searches = std::to_array<Search>({
+        const auto searches = std::to_array<std::tuple<int, bool, QString, QString>>({
             {0, true, u""_qs, u"Straße, Éclair, Pâté en croûte, Tarte"_qs}, // newest first, none with markup
             {0, true, u"pate"_qs, u""_qs},
             {0, false, u"CROÛ"_qs, u"Pâté en croûte"_qs},
@@ -105,13 +100,7 @@ private Q_SLOTS:
     }
 
     void bringsUpARowInItsView() {
-        struct Row {
-            int before, option;
-            QString text;
-            int view;
-        };
-
-        const auto rows = std::to_array<Row>({
+        const auto rows = std::to_array<std::tuple<int, int, QString, int>>({
             {3, 0, u"Tarte"_qs, 0},
             {1, 1, u"10 mn"_qs, 1}, // chosen in the main window too
             {0, 3, u"Œufs"_qs, 6},

@@ -6,7 +6,6 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFileDialog>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPrintDialog>
@@ -94,18 +93,6 @@ private Q_SLOTS:
         QCOMPARE(line(0), QStringList(3, QString()));
     }
 
-    void buttonHeldDownGoesToTheEnd() {
-        FicheAlbum &sheet = open();
-        QVERIFY(!sheet.Navi(0).isEnabled());
-        sheet.Navi(1).setAutoRepeatDelay(10);
-        sheet.Navi(1).setFocus();
-        QTest::mousePress(&sheet.Navi(1), Qt::LeftButton);
-        QTRY_COMPARE(sheet.Recette.Caption(), u"Crème"_qs);
-        QCOMPARE(sheet.focusWidget(), &sheet.Navi(0)); // not the printer
-        QTest::mouseRelease(&sheet.Navi(1), Qt::LeftButton);
-        QCOMPARE(m_open->window.LTDroit.Caption(), u"Crème"_qs); // the main window has come along
-    }
-
     void lowerListIsWalkedInAGroup() {
         m_open->window.Bouton(2).SetValue(true); // by number of persons
         clickRow(m_open->window.LFilms, 2);
@@ -130,10 +117,6 @@ private Q_SLOTS:
             [](QDialog &properties) {
                 properties.findChild<QComboBox *>(u"pageSizeCombo"_qs)->setCurrentText(u"A5"_qs);
                 QVERIFY(!properties.findChild<QWidget *>(u"landscape"_qs)->isEnabled());
-                const auto labels = properties.findChildren<QLabel *>();
-                QVERIFY(std::any_of(labels.begin(), labels.end(), [](const QLabel *label) {
-                    return label->isVisible() && label->text() == u"Les pages s'impriment toujours debout.";
-                }));
             });
         QCOMPARE(printTo(m_open->book.path(u"menu"_qs)), QStringList(u"Aïoli.pdf"_qs));
         const QString path = m_open->book.path(u"menu.pdf"_qs);

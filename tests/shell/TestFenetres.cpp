@@ -1,5 +1,4 @@
 #include "EssaiCoque.h"
-#include "Reponse.h"
 
 #include "platform/settings/Conversion.h"
 #include "shell/Patch.h"
@@ -9,20 +8,6 @@
 
 using platform::controls::Ribbon;
 using shell::Splash;
-
-namespace {
-
-constexpr int kAbout = 9;
-
-void setMode(const QString &mode) {
-    platform::settings::SaveSetting(u"Savorel"_qs, u"Patch"_qs, u"Mode"_qs, mode);
-}
-
-QString mode() {
-    return platform::settings::GetSetting(u"Savorel"_qs, u"Patch"_qs, u"Mode"_qs);
-}
-
-} // namespace
 
 class TestFenetres : public QObject {
     Q_OBJECT
@@ -108,17 +93,8 @@ private Q_SLOTS:
         QCOMPARE(pop.FenetreOuverte, browser::Pop::kSeule);
     }
 
-    void closingFromTheTaskBarAsks() {
-        m_test->start();
-        m_test->main().Btn_Min.SetValue(true);
-        const Reponse no(u"Non"_qs);
-        m_test->windows->Pop.close();
-        QCOMPARE(no.question(), u"Voulez vous quitter Savorel ?"_qs);
-        QVERIFY(m_test->windows->Pop.isVisible());
-    }
-
     void displayModeIsChosen() {
-        setMode(u"1"_qs);
+        platform::settings::SaveSetting(u"Savorel"_qs, u"Patch"_qs, u"Mode"_qs, u"1"_qs);
         m_test->start();
         QCOMPARE(m_test->main().Mode(), 1);
         QCOMPARE(about().Mode(), 1);
@@ -130,7 +106,7 @@ private Q_SLOTS:
         });
         QTest::mouseDClick(&m_test->main().LPatch, Qt::LeftButton);
         QCOMPARE(m_test->main().Mode(), 2);
-        QCOMPARE(mode(), u"2"_qs);
+        QCOMPARE(platform::settings::GetSetting(u"Savorel"_qs, u"Patch"_qs, u"Mode"_qs), u"2"_qs);
         QCOMPARE(about().Mode(), 1);
     }
 };

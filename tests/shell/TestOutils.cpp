@@ -83,14 +83,6 @@ private Q_SLOTS:
         }
     }
 
-    void eachToolHasItsDrawing() {
-        browser::Frmmain &frm = m_program->main();
-        for (int index = 0; index < frm.Outils.Count(); ++index) {
-            QVERIFY2(!frm.Outils(index).Picture().isNull(), qPrintable(frm.LBtn(index).Caption()));
-        }
-        QVERIFY(frm.LBtn(frm.Outils.Count()).isHidden());
-    }
-
     void theSheetShowsTheRecipeOfTheList() {
         for (const auto &[row, title, lines] :
              {std::tuple(1, u"Aïoli"_qs, 1), std::tuple(2, u"Tarte"_qs, 3)}) {
@@ -117,14 +109,6 @@ private Q_SLOTS:
                 QCOMPARE(window.focusWidget(), &window.Saisie(1));
             });
         }
-        use<sheets::FicheAlbum>(tool(2), Outil::Fiches,
-                                [this](sheets::FicheAlbum &window) { minimise(window); });
-        use<pictures::atelier::Acquisition>(
-            tool(3), Outil::Acquisition, [this](pictures::atelier::Acquisition &window) {
-                window.PhotoScan.SetPicture(QImage(4, 4, QImage::Format_RGB32));
-                minimise(window);
-                QCOMPARE(window.PhotoScan.Picture().width(), 4);
-            });
     }
 };
 

@@ -1,4 +1,4 @@
-#include "Lignes.h"
+#include "Rows.h"
 
 #include "store/AccesBase.h"
 #include "store/Programme.h"

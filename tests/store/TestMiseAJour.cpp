@@ -1,4 +1,4 @@
-#include "Lignes.h"
+#include "Rows.h"
 
 #include "platform/database/DatabaseError.h"
 #include "store/Programme.h"

@@ -202,7 +202,7 @@ inline QString longText() {
     return u"Découper en dés, cuire « à l'œil » \U0001F373. "_qs.repeated(200);
 }
 
-/// An old book with four recipes, of which all types of columns, forms of texts and fates of rows occur.
+/// A book of the Jet 4 format with four recipes, in which all types of columns, forms of texts and fates of rows occur.
 inline QByteArray oldBook() {
     using W = Jet4Writer;
     W book;

@@ -4,11 +4,8 @@
 #include "webimport/PageCommentee.h"
 #include "webimport/PageDebutFin.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QTest>
-
-#include <algorithm>
 
 using namespace webimport;
 
@@ -73,8 +70,6 @@ QStringList resume(const ChampsPage &champs) {
     }
     return textes.join(u"\r\n"_qs).split(u"\r\n"_qs);
 }
-
-constexpr qsizetype kGrande = 5 * 1024 * 1024;
 
 } // namespace
 
@@ -233,35 +228,6 @@ private Q_SLOTS:
         QCOMPARE(lire(u"<!-- debut EXPLICATION recette --><IMG src=\"p.gif\">Pelez."_qs), u"- Pelez."_qs);
         QCOMPARE(lire(etrangere + u"<!-- FIN EXPLICATION RECETTE -->"), u"- Accueil"_qs);
         QCOMPARE(lire(etrangere), QString());
-    }
-
-    void hostilePages_data() {
-        QTest::addColumn<QString>("texte");
-        const auto grande = [](const QString &motif) { return motif.repeated(kGrande / motif.size()); };
-        const QString methodes = u"<!-- DEBUT EXPLICATION RECETTE -->\r\n"_qs;
-        QTest::newRow("both layouts again and again")
-            << grande(fichier("commentee.html") + fichier("debut-fin.html"));
-        QTest::newRow("nested tags in a field")
-            << QString(u"<!--Cuisson -->" + u"<FONT "_qs.repeated(kGrande / 40) +
-                       u"<FONT size=-2>size=-2>"_qs.repeated(kGrande / 40) + QString(kGrande / 4, u'\r'));
-        QTest::newRow("method of many lines") << QString(methodes + grande(u".gif\">Cuisez.<BR>\r\n"_qs));
-        QTest::newRow("ingredients closed on every line") << QString(
-            u"<!-- debut ingredient -->" + QString(kGrande / 2, u'x') +
-            u"\r<LI>sel</LI><!-- fin ingredient --><!-- FIN INGREDIENT -->"_qs.repeated(kGrande / 128));
-        QString octets(kGrande, Qt::Uninitialized);
-        std::generate(octets.begin(), octets.end(),
-                      [n = 1U]() mutable { return QChar(char16_t(((n = n * 48271U) >> 16) & 0xFF)); });
-        QTest::newRow("binary bytes") << octets;
-    }
-
-    void hostilePages() {
-        QFETCH(const QString, texte);
-        QElapsedTimer duree;
-        duree.start();
-        commentee(texte);
-        debutFin(texte);
-        // Some seconds with the sanitizers; a step that looks at the whole page for each line takes hours.
-        QVERIFY2(duree.elapsed() < 60'000, qPrintable(QString::number(duree.elapsed())));
     }
 };
 

@@ -182,23 +182,6 @@ private Q_SLOTS:
         QVERIFY(!m_fenetre->Creer.Value());
     }
 
-    void keyboardGoesThroughTheFieldsBeforeTheButtons() {
-        m_fenetre->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_fenetre.get()));
-        lire({.ingredients = u"ail\r\n <LI>sel"_qs});
-        QStringList noms;
-        for (QString nom = m_fenetre->focusWidget()->objectName(); !noms.contains(nom);
-             nom = m_fenetre->focusWidget()->objectName()) {
-            noms += nom;
-            QTest::keyClick(m_fenetre->focusWidget(), Qt::Key_Tab);
-        }
-        QCOMPARE(noms.mid(0, 18),
-                 (QStringList{u"TitreRecette"_qs, u"DReal"_qs, u"Liste(3)"_qs, u"Liste(4)"_qs, u"Liste(5)"_qs,
-                              u"Liste(0)"_qs, u"Liste(1)"_qs, u"Liste(2)"_qs, u"NomPhoto"_qs, u"Qte(0)"_qs,
-                              u"Qte2(0)"_qs, u"Ingre(0)"_qs, u"Qte(1)"_qs, u"Qte2(1)"_qs, u"Ingre(1)"_qs,
-                              u"Saisie(0)"_qs, u"Saisie(1)"_qs, u"Revenir"_qs}));
-    }
-
     void refusedSaveLeavesTheButtonDown() {
         lire({.cuisson = {}});
         QCOMPARE(creer(), u"Veuillez d'abord saisir une durée de cuisson !"_qs);
