@@ -239,5 +239,9 @@ inline QByteArray oldBook() {
                 {{W::number(7), W::number(1)}},
                 {{W::number(5), null}, W::Struck},
                 {{W::number(5), null}}});
+    for (const char *name :
+         {"Categorie", "DureeReal", "Verre", "Realisation", "VIN", "Ingredient", "Quantite", "Mesure"}) {
+        book.table(QString::fromLatin1(name), {{u"N"_qs + QString::fromLatin1(name), W::Long}}, {});
+    }
     return book.file();
 }
