@@ -18,6 +18,9 @@ void measureIngredients(const GeneratedBook &book, Report &report);
 /// A recipe displayed and painted, in a small and in a large book.
 void measureRecipe(const GeneratedBook &small, const GeneratedBook &large, Report &report);
 
+/// The list of all ingredients opened over a line of a recipe, and painted.
+void measureChoices(const GeneratedBook &book, Report &report);
+
 /// The rows of the search read, listed and painted, and one brought up in the main window.
 void measureSearch(const GeneratedBook &book, Report &report);
 

@@ -53,7 +53,7 @@ public:
         m_server.start(QStringLiteral("Xvfb"),
                        {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
                         QStringLiteral("0"), QStringLiteral("1280x1024x24"),
-                        // A display of a user has other clients, and does not begin anew after each.
+                        // A display of a user has other clients, and does not restart after each.
                         QStringLiteral("-noreset")});
         m_server.waitForReadyRead(kWaitForServer);
         m_display = u':' + QString::fromLatin1(m_server.readLine().trimmed());

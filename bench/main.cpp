@@ -47,6 +47,7 @@ bool measureAll(const QString &resultFile) {
     }
     bench::measureIngredients(large, report);
     bench::measureRecipe(small, large, report);
+    bench::measureChoices(large, report);
     bench::measureSearch(large, report);
     bench::measureSheet(large, report);
     bench::measureKeyStroke(large, report);

@@ -4,7 +4,7 @@ set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_AUTOMOC ON)
-# Told the language level, moc walks into the standard library and stumbles over its concepts.
+# Given the language level, moc walks into the standard library and stumbles over its concepts.
 set(CMAKE_AUTOMOC_COMPILER_PREDEFINES OFF)
 
 if(NOT CMAKE_BUILD_TYPE)

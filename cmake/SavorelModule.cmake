@@ -30,13 +30,13 @@ function(savorel_module)
   target_link_libraries(${module} PUBLIC ${M_USES} ${M_LIBRARIES} PRIVATE ${M_PRIVATE_LIBRARIES})
 endfunction()
 
-# savorel_test(<name> <sources> USES <modules> [LIBRARIES <targets>] [ARGUMENTS <words>]): a test program run by CTest,
+# savorel_test(<name> <sources> USES <modules> [LIBRARIES <targets>]): a test program run by CTest,
 # offscreen. What tests share stands in tests/support.
 function(savorel_test name)
-  cmake_parse_arguments(T "" "" "USES;LIBRARIES;ARGUMENTS" ${ARGN})
+  cmake_parse_arguments(T "" "" "USES;LIBRARIES" ${ARGN})
   add_executable(${name} ${T_UNPARSED_ARGUMENTS})
   target_link_libraries(${name} PRIVATE Qt6::Test test_support ${T_USES} ${T_LIBRARIES})
-  add_test(NAME ${name} COMMAND ${name} ${T_ARGUMENTS})
+  add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES
     TIMEOUT 300
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;ASAN_OPTIONS=detect_leaks=0")

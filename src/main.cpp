@@ -14,37 +14,48 @@
 
 namespace {
 
-/// Runs an action of the program. An exception ends the process there and then, without unwinding the event
-/// loops below, which are not made for it.
-template <class Action>
-auto guarded(Action action) {
-    try {
-        return action();
-    } catch (const shell::FinDuProgramme &fin) {
-        std::_Exit(fin.code);
-    } catch (const std::exception &failure) {
-        platform::dialogs::Message(nullptr, store::TitreProgramme.toString(),
-                                   QString::fromUtf8(failure.what()), platform::dialogs::Icon::Critical);
-        std::_Exit(EXIT_FAILURE);
-    }
-}
+using platform::desktop::SingleInstance;
 
 class Application : public QApplication {
 public:
-    using QApplication::QApplication;
+    Application(int &argc, char **argv, SingleInstance &instance)
+        : QApplication(argc, argv), m_instance(instance) {}
+
+    /// Runs an action of the program. An exception ends the process there and then, without unwinding the event
+    /// loops below, which are not made for it.
+    template <class Action>
+    auto guarded(Action action) {
+        try {
+            return action();
+        } catch (const shell::FinDuProgramme &fin) {
+            end(fin.code);
+        } catch (const std::exception &failure) {
+            platform::dialogs::Message(nullptr, store::TitreProgramme.toString(),
+                                       QString::fromUtf8(failure.what()), platform::dialogs::Icon::Critical);
+            end(EXIT_FAILURE);
+        }
+    }
 
     bool notify(QObject *receiver, QEvent *event) override {
         return guarded([&] { return QApplication::notify(receiver, event); });
     }
+
+private:
+    [[noreturn]] void end(int code) {
+        m_instance.Release();
+        std::_Exit(code);
+    }
+
+    SingleInstance &m_instance;
 };
 
 } // namespace
 
 int main(int argc, char *argv[]) {
-    const platform::desktop::SingleInstance instance(store::TitreProgramme.toString());
-    Application application(argc, argv);
+    SingleInstance instance(store::TitreProgramme.toString());
+    Application application(argc, argv, instance);
     shell::PreparerApplication();
-    return guarded([&instance] {
+    return application.guarded([&instance] {
         shell::Fenetres fenetres;
         shell::ChargerFrmmain(fenetres, instance);
         return QApplication::exec();

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Makes the pictures of docs/pictures/ anew, from the book as delivered. Needs what ./run has installed, and no display.
+# Makes the pictures of docs/pictures/ from the book as delivered. Needs what ./run has installed, and no display.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source tools/paquets.sh

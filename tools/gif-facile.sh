@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Makes the GIF pictures of the demonstration site, assets/facile/images and photos, anew from their drawings. Nothing in
+# Makes the GIF pictures of the demonstration site, assets/facile/images and photos, from their drawings. Nothing in
 # the build writes this format, so the pictures are kept beside the drawings. Needs ImageMagick and what ./run installs.
 set -euo pipefail
 cd "$(dirname "$0")/.."

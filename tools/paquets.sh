@@ -23,7 +23,7 @@ installer_paquets() {
 }
 
 # isoler_le_navigateur: the browser of the import locks its processes in, which it cannot do for root and where the kernel
-# gives a user no name spaces of his own; there it must be told to do without.
+# gives a user no name spaces of his own; there the lock is switched off.
 isoler_le_navigateur() {
     if [ "$(id -u)" -eq 0 ] || ! unshare --user true 2>/dev/null; then
         echo "QTWEBENGINE_DISABLE_SANDBOX=1: the browser of the import cannot lock its processes in for this user"

@@ -192,7 +192,7 @@ void AjouterLignePointillee(Frmmain &frm, int i) {
 
 } // namespace
 
-void ChargerRecette(Frmmain &frm, qint64 numero) {
+bool ChargerRecette(Frmmain &frm, qint64 numero) {
     AfficherIngredients(frm, numero);
     frm.Scroll(0).ScrollToTop();
     frm.Scroll(0).SetScrollableHeight(kMargeFiche);
@@ -201,7 +201,7 @@ void ChargerRecette(Frmmain &frm, qint64 numero) {
     auto recette = base.OpenRecordset(QStringLiteral("SELECT * From Cocktails where Numero = ") +
                                       QString::number(numero) + QStringLiteral(" order by Recette asc"));
     if (recette.RecordCount() == 0) {
-        return;
+        return false;
     }
     const auto texte = [&recette](store::ChampRecette champ) {
         return recette.Fields(store::Position(champ)).Text();
@@ -213,6 +213,7 @@ void ChargerRecette(Frmmain &frm, qint64 numero) {
     AfficherTexte(frm.Saisie(kPreparation.saisie), texte(kPreparation.champ));
     AfficherComplements(frm, texte(kComplements.champ));
     frm.Scroll(0).SetScrollableHeight(frm.Saisie(kComplements.saisie).Bottom() + kMargeFiche);
+    return true;
 }
 
 void AfficherIngredients(Frmmain &frm, qint64 numero) {
@@ -230,21 +231,22 @@ void AfficherIngredients(Frmmain &frm, qint64 numero) {
 }
 
 void ChargerLesListesCombo(Frmmain &frm) {
-    const auto charger = [](DropList &liste, const store::Table &table) {
-        liste.Clear();
-        liste.AddItems(store::ChargerCombo(table));
+    const auto rafraichir = [](DropList &liste) {
+        liste.Refresh();
+        liste.SetText({});
     };
+    for (DropList *liste : {&frm.LMesure, &frm.LQuantite, &frm.LIngre}) {
+        rafraichir(*liste);
+    }
     for (const Valeur &valeur : kValeurs) {
-        if (const store::Table *table = valeur.Table()) {
-            charger(valeur.Liste(frm), *table);
+        DropList &liste = valeur.Liste(frm);
+        if (valeur.Table() != nullptr) {
+            rafraichir(liste);
         }
-        if (valeur.texte != Texte::AOuverture) {
-            valeur.Liste(frm).SetText(valeur.Bouton(frm).Caption());
+        if (valeur.texte != TexteDeListe::AOuverture) {
+            liste.SetText(valeur.Bouton(frm).Caption());
         }
     }
-    charger(frm.LMesure, store::kMesure);
-    charger(frm.LQuantite, store::kQuantite);
-    charger(frm.LIngre, store::kIngredient);
 }
 
 void CacherListeModif(Frmmain &frm) {

@@ -11,9 +11,9 @@ class Frmmain;
 /// Between the rows of the detail and at its right and lower edge.
 inline constexpr platform::geometry::Twips kMargeFiche{400};
 
-/// Shows the recipe of that number in the detail; the controls keep what they held when there is none. Throws
+/// Shows the recipe of that number in the detail; false when there is none, and the controls keep what they held. Throws
 /// DatabaseError, and std::out_of_range for a cost or difficulty outside its vocabulary.
-void ChargerRecette(Frmmain &frm, qint64 numero);
+bool ChargerRecette(Frmmain &frm, qint64 numero);
 
 /// Shows the ingredient lines of a recipe, a row of three buttons for each and a dotted one behind them. A
 /// line that cannot be read leaves a gap.
@@ -22,7 +22,8 @@ void AfficherIngredients(Frmmain &frm, qint64 numero);
 /// Stacks the controls of the detail in Scroll(0).
 void PlacerFiche(Frmmain &frm);
 
-/// Refills the drop lists of the detail from their tables.
+/// Has the drop lists of the detail filled from their tables, each when its rows are first asked for, and sets their
+/// texts.
 void ChargerLesListesCombo(Frmmain &frm);
 
 /// Hides the drop lists of the detail.

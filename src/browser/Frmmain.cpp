@@ -4,6 +4,7 @@
 #include "Lignes.h"
 #include "Operations.h"
 #include "TableDesOutils.h"
+#include "TableDesTouches.h"
 #include "TableDesValeurs.h"
 #include "TableDesVues.h"
 #include "Valeurs.h"
@@ -304,6 +305,10 @@ void Frmmain::PeindreFiche() {
     }
 }
 
+void Frmmain::RevenirALaListe() {
+    (Volet.EnBas() && LFilms.SelectedIndex() != 0 ? LFilms : Liste).setFocus();
+}
+
 std::vector<Frmmain::DropList *> Frmmain::ListesModif() {
     std::vector<DropList *> listes{&LQuantite, &LMesure, &LIngre};
     for (const Valeur &valeur : kValeurs) {
@@ -352,7 +357,10 @@ void Frmmain::ChargerLigne() {
 void Frmmain::BrancherBoutons() {
     for (int vue = 0; vue < Bouton.Count(); ++vue) {
         Ribbon &bouton = Bouton(vue);
-        whenPressed(bouton, [this, vue] { PresserBouton(*this, vue); });
+        whenPressed(bouton, [this, vue] {
+            PresserBouton(*this, vue);
+            Liste.setFocus();
+        });
         connect(&bouton, &Ribbon::Entered, this, [&bouton] { Survoler(bouton, Qt::yellow); });
         connect(&bouton, &Ribbon::Exited, this, [&bouton] { Survoler(bouton, Qt::white); });
     }
@@ -361,6 +369,7 @@ void Frmmain::BrancherBoutons() {
     }
     whenPressed(Btn_Quit, [this] { Q_EMIT FermetureDemandee(); });
     whenPressed(Btn_Min, [this] { Q_EMIT ReductionDemandee(); });
+    pressByKeys(*this, kTouches);
 }
 
 void Frmmain::BrancherListes() {
@@ -374,6 +383,12 @@ void Frmmain::BrancherListes() {
             [this](int index, const QString &texte) { RenommerFilms(*this, index, texte); });
     for (List *liste : {&Liste, &LFilms}) {
         connect(liste, &List::Focused, this, [liste] { liste->SetLabelEdit(List::LabelEditMode::Manual); });
+        onKey(
+            *liste, Qt::Key_F2, [this, liste] { AgirSurRangee(*this, *liste, ModifierRangee); },
+            Qt::WidgetShortcut);
+        onKey(
+            *liste, Qt::Key_Delete, [this, liste] { AgirSurRangee(*this, *liste, SupprimerRangee); },
+            Qt::WidgetShortcut);
     }
 }
 

@@ -106,6 +106,9 @@ public:
 
     void SetCouleurSelection(const QColor &couleur);
 
+    /// Gives the keyboard to the list whose row names what is shown, in which typing goes to a row.
+    void RevenirALaListe();
+
     /// The drop lists of the detail.
     std::vector<DropList *> ListesModif();
 

@@ -72,6 +72,7 @@ void OuvrirLigne(Frmmain &frm, const ColonneDeLigne &colonne, int i) {
     CacherListeModif(frm);
     DropList &liste = frm.*colonne.liste;
     Ribbon &bouton = (frm.*colonne.boutons)(i);
+    liste.Refresh();
     liste.SetText(bouton.Caption());
     liste.SetLeft(bouton.Left());
     liste.SetTop(bouton.Top());
@@ -106,6 +107,7 @@ void ChoisirLigne(Frmmain &frm, const ColonneDeLigne &colonne) {
 void BrancherListesDeLigne(Frmmain &frm) {
     for (const ColonneDeLigne &colonne : kColonnesDeLigne) {
         DropList &liste = frm.*colonne.liste;
+        liste.SetSource([&colonne] { return store::ChargerCombo(*colonne.table); });
         liste.SetOffersTyped(true);
         QObject::connect(&liste, &DropList::Click, &frm, [&frm, &colonne] { ChoisirLigne(frm, colonne); });
         QObject::connect(&liste, &DropList::Escaped, &frm, [&frm, &liste, &colonne] {

@@ -23,20 +23,20 @@ namespace {
 using namespace platform::controls;
 namespace dialogs = platform::dialogs;
 
-/// What a view asks for when a value is added, and how the list is headed and counted then. Some texts date from
-/// other uses of the same tables.
-struct Creation {
+/// What a view asks for when a value is added, and how the list is headed and counted then. The texts follow the names
+/// of the tables, so those of Categorie and Verre speak of categories and glasses.
+struct AjoutDeValeur {
     int vue = 0;
     QStringView invite, titre, suffixe, entete;
 };
 
-constexpr std::array kCreations{
-    Creation{1, u"Veuillez saisir une nouvelle catégorie", u"Création d'une nouvelle Catégorie",
-             u" Catégorie(s) ...", u" Liste des Catégories "},
-    Creation{2, u"Veuillez saisir un nouveau type de verre ", u"Création d'un nouveau type de verre ",
-             u" Verre(s) ...", u" Liste des Verres"},
-    Creation{6, u"Veuillez saisir un nouvel ingrédient", u"Création d'un nouvel ingrédient",
-             u" Ingredient(s) ...", u" Liste des Ingredients"},
+constexpr std::array kAjouts{
+    AjoutDeValeur{1, u"Veuillez saisir une nouvelle catégorie", u"Création d'une nouvelle Catégorie",
+                  u" Catégorie(s) ...", u" Liste des Catégories "},
+    AjoutDeValeur{2, u"Veuillez saisir un nouveau type de verre ", u"Création d'un nouveau type de verre ",
+                  u" Verre(s) ...", u" Liste des Verres"},
+    AjoutDeValeur{6, u"Veuillez saisir un nouvel ingrédient", u"Création d'un nouvel ingrédient",
+                  u" Ingredient(s) ...", u" Liste des Ingredients"},
 };
 
 /// Text after the count of each view when one of its rows has been deleted.
@@ -49,10 +49,10 @@ bool AjouteUneRecette(const Frmmain &frm) {
     return frm.Volet.EnBas() || VueCourante() == 0;
 }
 
-const Creation *CreationDe(int vue) {
-    const auto *trouvee = std::find_if(kCreations.begin(), kCreations.end(),
-                                       [vue](const Creation &creation) { return creation.vue == vue; });
-    return trouvee != kCreations.end() ? trouvee : nullptr;
+const AjoutDeValeur *AjoutDe(int vue) {
+    const auto *trouvee = std::find_if(kAjouts.begin(), kAjouts.end(),
+                                       [vue](const AjoutDeValeur &ajout) { return ajout.vue == vue; });
+    return trouvee != kAjouts.end() ? trouvee : nullptr;
 }
 
 bool ConfirmerSuppression(Frmmain &frm, const QString &texte) {
@@ -131,15 +131,15 @@ void StockerPhoto(Frmmain &frm) {
 }
 
 /// Asks for a new value of a view and adds it, whether it is there already or not.
-void AjouterValeur(Frmmain &frm, const Creation &creation) {
-    const auto texte = dialogs::InputBox(&frm, creation.titre.toString(), creation.invite.toString());
+void AjouterValeur(Frmmain &frm, const AjoutDeValeur &ajout) {
+    const auto texte = dialogs::InputBox(&frm, ajout.titre.toString(), ajout.invite.toString());
     if (!texte || store::SansBlancs(*texte).isEmpty()) {
         return;
     }
-    const store::Table &table = *VueNumero(creation.vue)->table;
+    const store::Table &table = *VueNumero(ajout.vue)->table;
     store::AjouterFiche(*texte, table);
     const QString avant = frm.Volet.CleCourante();
-    ChargerListe(frm, {&table, creation.entete, creation.suffixe}, creation.vue);
+    ChargerListe(frm, {&table, ajout.entete, ajout.suffixe}, ajout.vue);
     const QString compte = frm.LBGauche.Caption();
     ListeHaute(frm);
     if (frm.Volet.CleCourante() == avant) {
@@ -154,26 +154,54 @@ void MontrerChoix(Frmmain &frm) {
 }
 
 void ChoisirPhoto(Frmmain &frm) {
-    const pictures::Choix choix = pictures::ChoisirImage(CadreDe(frm), frm.DossierImages);
-    if (choix != pictures::Choix::Illisible) {
+    const pictures::ChoixImage choix = pictures::ChoisirImage(CadreDe(frm), frm.DossierImages);
+    if (choix != pictures::ChoixImage::Illisible) {
         StockerPhoto(frm);
     }
-    if (choix == pictures::Choix::Faite) {
+    if (choix == pictures::ChoixImage::Faite) {
         MontrerChoix(frm);
     }
 }
 
 } // namespace
 
+bool RangeesModifiables() {
+    const Vue *courante = VueNumero(VueCourante());
+    return courante != nullptr && courante->vocabulaire.empty();
+}
+
+void ViserHaut(Frmmain &frm) {
+    const int vue = VueCourante();
+    frm.Volet.Designer(vue == 0 ? kHaut : QString());
+    if (vue != 0) {
+        // The row stands for a group from here on, no more for the recipe that may be shown beside it.
+        frm.Volet.Quitter();
+    }
+}
+
+void AgirSurRangee(Frmmain &frm, List &liste, void (*acte)(Frmmain &)) {
+    if (liste.SelectedIndex() == 0 || (&liste == &frm.Liste && !RangeesModifiables())) {
+        return;
+    }
+    // While an arrow is held down, what is shown is still of another row.
+    if (&liste == &frm.LFilms) {
+        ClicFilms(frm);
+    } else {
+        FlecheListe(frm);
+        ViserHaut(frm);
+    }
+    acte(frm);
+}
+
 bool PeutAjouter(const Frmmain &frm) {
-    return AjouteUneRecette(frm) || CreationDe(VueCourante()) != nullptr;
+    return AjouteUneRecette(frm) || AjoutDe(VueCourante()) != nullptr;
 }
 
 void AjouterRangee(Frmmain &frm) {
     if (AjouteUneRecette(frm)) {
         Q_EMIT frm.CreationDemandee();
-    } else if (const Creation *creation = CreationDe(VueCourante())) {
-        AjouterValeur(frm, *creation);
+    } else if (const AjoutDeValeur *ajout = AjoutDe(VueCourante())) {
+        AjouterValeur(frm, *ajout);
     }
 }
 
@@ -217,7 +245,7 @@ void ClicCadrePhoto(Frmmain &frm) {
 
 void DeposerPhoto(Frmmain &frm, const QString &fichier) {
     CacherListeModif(frm);
-    if (pictures::PoserImage(CadreDe(frm), fichier) == pictures::Choix::Faite) {
+    if (pictures::PoserImage(CadreDe(frm), fichier) == pictures::ChoixImage::Faite) {
         StockerPhoto(frm);
         MontrerChoix(frm);
     }

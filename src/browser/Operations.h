@@ -11,6 +11,15 @@ class Frmmain;
 /// What the entries of the popup menus do. They act on the list named by Outils(2).Tag and throw DatabaseError, and
 /// std::out_of_range when it has no selected row.
 
+/// Whether the rows of Liste can be renamed and deleted; those of a fixed vocabulary cannot.
+bool RangeesModifiables();
+
+/// Turns what the entries do to Liste.
+void ViserHaut(Frmmain &frm);
+
+/// Does what an entry does to the selected row of a list, if there is one that can be changed.
+void AgirSurRangee(Frmmain &frm, platform::controls::List &liste, void (*acte)(Frmmain &));
+
 /// Whether something can be added to that list.
 bool PeutAjouter(const Frmmain &frm);
 

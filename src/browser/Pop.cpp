@@ -2,7 +2,6 @@
 
 #include "Frmmain.h"
 #include "Operations.h"
-#include "TableDesVues.h"
 
 #include "store/Programme.h"
 
@@ -49,6 +48,9 @@ void Pop::Composer() {
     Nommer(Supprimer, "Supprimer");
     Nommer(ModifPhoto, "ModifPhoto");
     Nommer(SuppPhoto, "SuppPhoto");
+    // Only shown here: the lists take the keys.
+    Modifier.setShortcut(Qt::Key_F2);
+    Supprimer.setShortcut(Qt::Key_Delete);
     Menu1.addActions({&Ajouter, &Modifier, &Supprimer});
     Menu2.addActions({&ModifPhoto, &SuppPhoto});
 }
@@ -67,14 +69,8 @@ void Pop::BrancherFenetre(Frmmain &frm) {
         MenuDesListes(frm, lieu);
     });
     connect(&frm.Liste, &List::RightClicked, this, [this, &frm](const QPoint &lieu) {
-        const int vue = VueCourante();
-        frm.Volet.Designer(vue == 0 ? kHaut : QString());
-        if (vue != 0) {
-            // The row stands for a group from here on, no more for the recipe that may be shown beside it.
-            frm.Volet.Quitter();
-        }
-        const Vue *courante = VueNumero(vue);
-        if (courante != nullptr && courante->vocabulaire.empty()) {
+        ViserHaut(frm);
+        if (RangeesModifiables()) {
             MenuDesListes(frm, lieu);
         }
     });

@@ -10,8 +10,8 @@ namespace browser {
 
 class Frmmain;
 
-/// The window that stands for the program on the task bar while it is minimised, and that carries the two popup menus of the main window:
-/// Menu1 for the lists, Menu2 for the photo.
+/// The window that stands for the program on the task bar while it is minimised, and that holds the two popup menus of
+/// the main window: Menu1 for the lists, Menu2 for the photo.
 class Pop : public platform::controls::SkinnedWindow {
     Q_OBJECT
 

@@ -26,7 +26,7 @@ enum class Outil {
 inline constexpr std::size_t kNombreOutils = static_cast<std::size_t>(Outil::Aide) + 1;
 
 /// How a tool looks: the text of its panel, its tool tip, what it does in the words of a status line, and the name of
-/// its drawing in assets/icones. What a press does is told by shell, which does not compile while it leaves a tool out.
+/// its drawing in assets/icones. What a press does stands in shell/Commandes.cpp, which does not compile while it lacks a tool.
 struct AspectOutil {
     Outil outil{};
     std::u16string_view legende{}, bulle{}, phrase{};

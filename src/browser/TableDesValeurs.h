@@ -16,7 +16,7 @@ namespace browser {
 enum class Forme { Recherche, Code, Vin };
 
 /// When the list takes the text of its button.
-enum class Texte { AOuverture, AAffichage, LesDeux };
+enum class TexteDeListe { AOuverture, AAffichage, LesDeux };
 
 /// What Enter in the edit box does.
 enum class Entree { Confirme, SansEffet };
@@ -35,7 +35,7 @@ struct Valeur {
     int ligne = 0;
     Cadrage cadrage = Cadrage::Fixe;
     Forme forme = Forme::Recherche;
-    Texte texte = Texte::AOuverture;
+    TexteDeListe texte = TexteDeListe::AOuverture;
     Entree entree = Entree::Confirme;
     /// Of a code; an empty class of it is not offered.
     std::span<const QStringView> vocabulaire{};
@@ -51,17 +51,17 @@ struct Valeur {
 /// In reading order.
 inline constexpr std::array kValeurs{
     Valeur{store::ChampRecette::NCategorie, 6, 7, &Frmmain::LCategorie, 0, Cadrage::MoitieGauche,
-           Forme::Recherche, Texte::LesDeux},
+           Forme::Recherche, TexteDeListe::LesDeux},
     Valeur{store::ChampRecette::NDureeReal, 5, 5, &Frmmain::LDureeReal, 0, Cadrage::MoitieDroite,
-           Forme::Recherche, Texte::AOuverture},
+           Forme::Recherche, TexteDeListe::AOuverture},
     Valeur{store::ChampRecette::Nverre, 0, 1, &Frmmain::LVerre, 1, Cadrage::MoitieGauche, Forme::Recherche,
-           Texte::AAffichage},
+           TexteDeListe::AAffichage},
     Valeur{store::ChampRecette::Nreal, 1, 2, &Frmmain::LMateriel, 1, Cadrage::MoitieDroite, Forme::Recherche,
-           Texte::AAffichage},
-    Valeur{store::ChampRecette::Cout, 2, 8, &Frmmain::LCout, 2, Cadrage::Fixe, Forme::Code, Texte::AOuverture,
-           Entree::SansEffet, store::Cout},
+           TexteDeListe::AAffichage},
+    Valeur{store::ChampRecette::Cout, 2, 8, &Frmmain::LCout, 2, Cadrage::Fixe, Forme::Code,
+           TexteDeListe::AOuverture, Entree::SansEffet, store::Cout},
     Valeur{store::ChampRecette::difficulte, 3, 9, &Frmmain::LDiff, 2, Cadrage::Fixe, Forme::Code,
-           Texte::AOuverture, Entree::SansEffet, store::Difficulte},
+           TexteDeListe::AOuverture, Entree::SansEffet, store::Difficulte},
     Valeur{store::ChampRecette::Teneur, 4, 10, &Frmmain::LTeneur, 2, Cadrage::JusquauBord, Forme::Vin},
 };
 

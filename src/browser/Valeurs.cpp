@@ -84,7 +84,10 @@ void OuvrirValeur(Frmmain &frm, const Valeur &valeur) {
     CacherListeModif(frm);
     DropList &liste = valeur.Liste(frm);
     Ribbon &bouton = valeur.Bouton(frm);
-    const bool aOuverture = valeur.texte != Texte::AAffichage;
+    if (valeur.Table() != nullptr) {
+        liste.Refresh();
+    }
+    const bool aOuverture = valeur.texte != TexteDeListe::AAffichage;
     if (aOuverture && liste.Count() > 0) {
         liste.SetText(bouton.Caption());
     }
@@ -114,6 +117,9 @@ void ColorerSelection(Frmmain &frm, RichTextBox &saisie) {
 
 void BrancherValeur(Frmmain &frm, const Valeur &valeur) {
     DropList &liste = valeur.Liste(frm);
+    if (const store::Table *table = valeur.Table()) {
+        liste.SetSource([table] { return store::ChargerCombo(*table); });
+    }
     const auto choisir = [&frm, &valeur] { ChoisirValeur(frm, valeur); };
     whenPressed(valeur.Bouton(frm), [&frm, &valeur] { OuvrirValeur(frm, valeur); });
     QObject::connect(&liste, &DropList::Click, &frm, choisir);

@@ -24,7 +24,7 @@ void Volet::Suivre(const QString &nom, const platform::controls::List &liste) {
     });
 }
 
-/// The list was loaded anew or has lost its last row, so no row of it names anything.
+/// The list was reloaded or has lost its last row, so none of its rows names anything.
 void Volet::ListeVidee(const QString &nom) {
     if (nom == kHaut) {
         m_cle.clear();
@@ -72,9 +72,10 @@ void Volet::MontrerRecette(const QString &liste, qint64 numero, const QString &t
 }
 
 void Volet::MontrerSansOutil(qint64 numero) {
-    ChargerRecette(m_frm, numero);
-    m_recette = numero;
-    m_frm.Scroll(0).show();
+    if (ChargerRecette(m_frm, numero)) {
+        m_recette = numero;
+        m_frm.Scroll(0).show();
+    }
 }
 
 qint64 Volet::Numero() const {

@@ -36,7 +36,7 @@ public:
     void MontrerRecette(const QString &liste, qint64 numero, const QString &titre);
 
     /// Shows a recipe under the title of a group, without the tool of its sheet: it has the number of the group that
-    /// takes the place of a deleted one.
+    /// takes the place of a deleted one. Where no recipe has it the theme stays: what is typed must have a place to go.
     void MontrerSansOutil(qint64 numero);
 
     /// Number of the recipe shown, on which every change acts. Throws std::out_of_range when there is none.

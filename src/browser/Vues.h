@@ -53,8 +53,8 @@ void ChargerRecettesIngredient(Frmmain &frm);
 void ClicListe(Frmmain &frm);
 void FlecheListe(Frmmain &frm);
 void ClicFilms(Frmmain &frm);
-/// Selects the neighbour of the row that names the recipe shown, 1 below or -1 above it, which must exist, and shows its recipe as the user's choice
-/// of it does. Throws DatabaseError.
+/// Selects the neighbour of the row that names the recipe shown, 1 below or -1 above it, which must exist, and shows its
+/// recipe as if the user had chosen it. Throws DatabaseError.
 void AllerAuVoisin(Frmmain &frm, int pas);
 /// Stores the new text of a row edited in place, if it differs.
 void RenommerListe(Frmmain &frm, int index, const QString &texte);

@@ -20,4 +20,10 @@ bool EstRempli(QWidget &fenetre, platform::controls::TextBox &champ, const QStri
     return false;
 }
 
+bool ConfirmerAbandon(QWidget &fenetre) {
+    return dialogs::Ask(&fenetre, store::TitreProgramme.toString(),
+                        QStringLiteral("Cette recette n'est pas créée.\r\r"
+                                       "Voulez-vous revenir au menu principal sans la créer ?"));
+}
+
 } // namespace entry

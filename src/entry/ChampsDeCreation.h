@@ -4,16 +4,16 @@
 #include "platform/dialogs/MessageBox.h"
 #include "store/CreationRecette.h"
 
-/// What the windows have in common in which a recipe is created. Their fields bear the same names.
+/// What the windows in which a recipe is created have in common. Their fields have the same names.
 namespace entry {
 
 /// A box over the window, under the program's title.
 void Annoncer(QWidget &fenetre, const QString &texte, platform::dialogs::Icon icone);
 
-/// False for a field without text, which is told and gets the keyboard.
+/// False for an empty field: the user is told so, and the field gets the keyboard.
 bool EstRempli(QWidget &fenetre, platform::controls::TextBox &champ, const QString &reproche);
 
-/// False where a field is empty that no recipe does without, which is told as by EstRempli.
+/// False when a mandatory field is empty, which is reported as EstRempli does.
 template <class Fenetre>
 bool PeutEtreCreee(Fenetre &fenetre) {
     return EstRempli(fenetre, fenetre.TitreRecette,
@@ -42,6 +42,9 @@ store::RecetteSaisie LireChamps(Fenetre &fenetre) {
     }
     return saisie;
 }
+
+/// Asks whether to leave a window with a recipe that is not created.
+bool ConfirmerAbandon(QWidget &fenetre);
 
 /// Adds to the lists of the lines what the save has added to the book.
 template <class Fenetre>

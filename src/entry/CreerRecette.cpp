@@ -33,6 +33,7 @@ void PresserCreer(Manuelle &fenetre) {
     fenetre.Creer.SetValue(false);
     if (fenetre.creationFaite) {
         ReinitChamps(fenetre);
+        fenetre.NoterDepart();
         Annoncer(fenetre, QStringLiteral("Création réussie ! "), dialogs::Icon::Information);
         fenetre.TitreRecette.setFocus();
     }

@@ -31,12 +31,12 @@ std::array<Paire, 7> Paires(Manuelle &fenetre) {
 }
 
 /// A list that serves a column of the ingredient lines.
-struct Colonne {
+struct ColonneSaisie {
     DropList *liste;
     ControlArray<TextBox> *champs;
 };
 
-std::array<Colonne, 3> Colonnes(Manuelle &fenetre) {
+std::array<ColonneSaisie, 3> Colonnes(Manuelle &fenetre) {
     return {
         {{&fenetre.LQte, &fenetre.Qte}, {&fenetre.LQte2, &fenetre.Qte2}, {&fenetre.LIngre, &fenetre.Ingre}}};
 }
@@ -49,7 +49,7 @@ TextBox *ChampServi(Manuelle &fenetre, const QWidget *liste) {
             return paire.champ;
         }
     }
-    for (const Colonne &colonne : Colonnes(fenetre)) {
+    for (const ColonneSaisie &colonne : Colonnes(fenetre)) {
         if (colonne.liste == liste && !colonne.liste->Tag().isEmpty()) {
             return &(*colonne.champs)(colonne.liste->Tag().toInt());
         }
@@ -103,14 +103,14 @@ void BrancherListe(Manuelle &fenetre, DropList &liste) {
     QObject::connect(&liste, &DropList::Click, &fenetre, recopier);
 }
 
-void BrancherColonne(Manuelle &fenetre, const Colonne &colonne) {
+void BrancherColonne(Manuelle &fenetre, const ColonneSaisie &colonne) {
     DropList &liste = *colonne.liste;
     liste.SetProposes();
     for (int index = 0; index < colonne.champs->Count(); ++index) {
         TextBox &champ = (*colonne.champs)(index);
         BrancherChamp(fenetre, liste, champ);
         QObject::connect(&champ, &TextBox::Entered, &fenetre, [&fenetre, &liste, &champ, index] {
-            CacherListes(fenetre); // while the list still serves its former line
+            CacherListes(fenetre); // while the list still serves its previous line
             liste.SetTag(QString::number(index));
             Ouvrir(fenetre, liste, champ);
         });
@@ -165,7 +165,7 @@ void BrancherListes(Manuelle &fenetre) {
         QObject::connect(paire.champ, &TextBox::Entered, &fenetre,
                          [&fenetre, paire] { Ouvrir(fenetre, *paire.liste, *paire.champ); });
     }
-    for (const Colonne &colonne : Colonnes(fenetre)) {
+    for (const ColonneSaisie &colonne : Colonnes(fenetre)) {
         BrancherColonne(fenetre, colonne);
     }
     fenetre.Saisie.ForEach([&fenetre](RichTextBox &saisie) {

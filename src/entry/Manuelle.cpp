@@ -1,5 +1,6 @@
 #include "Manuelle.h"
 
+#include "ChampsDeCreation.h"
 #include "CreerRecette.h"
 #include "Listes.h"
 
@@ -116,6 +117,7 @@ Manuelle::Manuelle(browser::Frmmain &frm)
     ChargerListesDesLignes(*this);
     ViderSaisies();
     Brancher();
+    NoterDepart();
     TitreRecette.setFocus();
 }
 
@@ -203,11 +205,20 @@ void Manuelle::DeposerPhoto(const QString &fichier) {
     Poser(pictures::PoserImage(CadreDeLaPhoto(), fichier));
 }
 
-void Manuelle::Poser(pictures::Choix choix) {
-    if (choix == pictures::Choix::Faite) {
+void Manuelle::Poser(pictures::ChoixImage choix) {
+    if (choix == pictures::ChoixImage::Faite) {
         Principale.ImageTemp.SetPicture(Photo.Picture());
     }
     LegenderPhoto();
+}
+
+void Manuelle::NoterDepart() {
+    m_depart = LireChamps(*this);
+}
+
+bool Manuelle::MayEscape() {
+    const bool intacte = Photo.Picture().isNull() && LireChamps(*this) == m_depart;
+    return intacte || ConfirmerAbandon(*this);
 }
 
 void Manuelle::Quitter() {

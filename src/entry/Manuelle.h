@@ -10,6 +10,7 @@
 #include "platform/controls/ScrollPanel.h"
 #include "platform/controls/TextBox.h"
 #include "platform/controls/ToolWindow.h"
+#include "store/CreationRecette.h"
 
 #include <vector>
 
@@ -65,6 +66,9 @@ public:
     /// The drop lists in the order in which they are hidden.
     std::vector<DropList *> Listes();
 
+    /// Takes what the fields hold now for the beginning of a recipe of which nothing is typed yet.
+    void NoterDepart();
+
     /// Empties both texts; what is typed next has the colour of its box.
     void ViderSaisies();
 
@@ -73,6 +77,7 @@ public:
 
 protected:
     bool focusNextPrevChild(bool next) override;
+    bool MayEscape() override;
 
 private:
     void ChargerLignes();
@@ -81,9 +86,11 @@ private:
     pictures::CadreImage CadreDeLaPhoto();
     void ChoisirPhoto();
     void DeposerPhoto(const QString &fichier);
-    void Poser(pictures::Choix choix);
+    void Poser(pictures::ChoixImage choix);
     void Quitter();
     std::vector<QWidget *> Ordre();
+
+    store::RecetteSaisie m_depart;
 };
 
 } // namespace entry

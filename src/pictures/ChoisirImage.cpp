@@ -29,31 +29,31 @@ QString PremierDossier(const QString &dossier) {
 
 } // namespace
 
-Choix ChoisirImage(const CadreImage &cadre, QString &dossier) {
+ChoixImage ChoisirImage(const CadreImage &cadre, QString &dossier) {
     const QString fichier =
         dialogs::ShowOpen(&cadre.fenetre, QStringLiteral("Chercher une image"),
                           QStringLiteral("Tous les fichiers images (*.bmp,*.jpg,*.jpeg,*.gif)|"
                                          "*.bmp;*.jpg;*.jpeg;*.gif"),
-                          PremierDossier(dossier));
+                          {PremierDossier(dossier)});
     if (fichier.isEmpty()) {
-        return Choix::Abandonnee;
+        return ChoixImage::Abandonnee;
     }
     dossier = QFileInfo(fichier).path();
     return PoserImage(cadre, fichier);
 }
 
-Choix PoserImage(const CadreImage &cadre, const QString &fichier) {
+ChoixImage PoserImage(const CadreImage &cadre, const QString &fichier) {
     QImage image;
     try {
         image = platform::images::LoadPicture(fichier);
     } catch (const platform::images::PictureError &erreur) {
         dialogs::Message(&cadre.fenetre, store::TitreProgramme.toString(), QString::fromUtf8(erreur.what()),
                          dialogs::Icon::Exclamation);
-        return Choix::Illisible;
+        return ChoixImage::Illisible;
     }
     cadre.photo.SetTag(QDir::toNativeSeparators(QFileInfo(fichier).absoluteFilePath()));
     MontrerPhoto(cadre.cadre, cadre.photo, image);
-    return Choix::Faite;
+    return ChoixImage::Faite;
 }
 
 } // namespace pictures

@@ -33,7 +33,7 @@ QImage PhotoLisible(const QString &chemin) {
 struct LecteurPhoto::Lecture {
     QImage image;
     QSemaphore lue;
-    Suite suite; ///< empty once it was called, or when nobody waits any more
+    Suite suite; ///< empty once it was called, or when nobody waits for it
 
     /// Whether the picture has come, waiting for it that many ms, or without end for -1; it is handed over then.
     bool Livrer(int patience) {

@@ -22,14 +22,14 @@ public:
     ~LecteurPhoto();
 
     /// Reads a file and hands its picture over: before it returns, where that takes at most 0.3 s; else when the
-    /// picture is there. One that is asked for takes the place of the one before, which no longer comes.
+    /// picture is there. A new request replaces a pending one, whose picture then never comes.
     /// @return whether it came at once
     bool Lire(const QString &chemin, Suite suite);
 
     /// Waits for the picture that is still to come, if there is one, and hands it over.
     void Attendre();
 
-    /// The picture that is still to come is no longer wanted.
+    /// Drops the picture that is still to come.
     void Oublier();
 
 private:

@@ -114,7 +114,7 @@ bool Rotation(const Surface &source, Surface &destination, float angle, const Su
             throw std::domain_error("Division par zéro");
         }
         suivi.avancement(static_cast<double>(i) / dernier);
-        // Taken anew for each step: the events run at its end may have given a surface another picture.
+        // Taken again at each step: the events run at its end may have given a surface another picture.
         const Memoire<const QRgb> lue{source.points(), source.width(), source.height()};
         const Memoire<QRgb> ecrite{destination.points(), destination.width(), destination.height()};
         TournerUnPas(lue, ecrite, centres, i, dernier, tour);

@@ -6,7 +6,7 @@
 
 namespace pictures {
 
-/// What is told to the caller while a picture turns.
+/// What the caller learns while a picture turns.
 struct SuiviRotation {
     /// At the beginning of each step: how much is done, from 0 to 1.
     std::function<void(double)> avancement;

@@ -15,7 +15,7 @@ void ChoisirTable(FrmFind &fenetre, int index);
 void Rechercher(FrmFind &fenetre);
 
 /// Brings the selected row up in the main window, in the view of what was searched.
-/// Throws std::out_of_range when no row is selected or the main window does not have it any more, and DatabaseError.
+/// Throws std::out_of_range when no row is selected or the main window no longer has it, and DatabaseError.
 void MontrerResultat(FrmFind &fenetre, browser::Frmmain &frm);
 
 } // namespace search

@@ -8,6 +8,7 @@
 #include "browser/Vues.h"
 #include "pictures/AjusterPhoto.h"
 #include "platform/controls/Fonts.h"
+#include "platform/controls/Keys.h"
 #include "platform/controls/WaitPointer.h"
 #include "platform/controls/WhenPressed.h"
 #include "platform/dialogs/MessageBox.h"
@@ -65,6 +66,8 @@ constexpr std::array kControles{
     ControlRow{"Prepa", 240, 5880, 14055, 4455, u"", u"", u"Préparation"},
     ControlRow{"Deco", 240, 10845, 14055, 1815, u"", u"", u"Compléments"},
 };
+
+constexpr std::array kTouches{KeyRow{"Navi(3)", Qt::CTRL | Qt::Key_P}};
 
 /// What the fields of the page repeat.
 struct Copie {
@@ -183,6 +186,7 @@ void FicheAlbum::Brancher() {
     for (int index = 0; index < Navi.Count(); ++index) {
         whenPressed(Navi(index), actions.at(static_cast<std::size_t>(index)));
     }
+    pressByKeys(*this, kTouches);
     for (const int index : {0, 1}) {
         Navi(index).setAutoRepeat(true);
         Navi(index).setAutoRepeatInterval(kRepetition);
@@ -243,14 +247,15 @@ void FicheAlbum::RemplirFiche() {
 }
 
 void FicheAlbum::CopierLignes() {
-    struct Colonne {
+    struct ColonneCopiee {
         Array<Ribbon> &champs, &source;
         const ControlRow &modele;
     };
 
-    for (const Colonne &colonne : {Colonne{Qte, m_frm.Quantite, rowNamed(kControles, "Qte(0)")},
-                                   Colonne{Mesure, m_frm.Mesure, rowNamed(kControles, "Mesure(0)")},
-                                   Colonne{Ingre, m_frm.Ingre, rowNamed(kControles, "Ingre(0)")}}) {
+    for (const ColonneCopiee &colonne :
+         {ColonneCopiee{Qte, m_frm.Quantite, rowNamed(kControles, "Qte(0)")},
+          ColonneCopiee{Mesure, m_frm.Mesure, rowNamed(kControles, "Mesure(0)")},
+          ColonneCopiee{Ingre, m_frm.Ingre, rowNamed(kControles, "Ingre(0)")}}) {
         while (colonne.champs.Count() > 1) {
             colonne.champs.UnloadLast();
         }

@@ -45,6 +45,7 @@ void OuvrirOutil(Fenetres &fenetres, const Commande &commande) {
     if (commande.remplace) {
         fenetres.Principale.show();
     }
+    fenetres.Principale.RevenirALaListe();
     fenetres.Oublier(commande.outil);
 }
 

@@ -57,13 +57,24 @@ void ChargerFiche(ToolWindow &fenetre) {
 constexpr std::array kCommandes{
     Commande{.outil = Outil::CreationManuelle,
              .faire = Faire<entry::Manuelle>,
+             .aide = u"aide/ajouter.htm",
              .mode = ModeCreation,
              .ephemere = true},
+    Commande{.outil = Outil::CreationFacile,
+             .faire = FaireImport,
+             .preparer = OterRestes,
+             .aide = u"aide/ajouter.htm",
+             .mode = ModeCreation},
+    Commande{.outil = Outil::Fiches,
+             .faire = Faire<sheets::FicheAlbum>,
+             .preparer = ChargerFiche,
+             .aide = u"aide/fiches.htm"},
     Commande{
-        .outil = Outil::CreationFacile, .faire = FaireImport, .preparer = OterRestes, .mode = ModeCreation},
-    Commande{.outil = Outil::Fiches, .faire = Faire<sheets::FicheAlbum>, .preparer = ChargerFiche},
-    Commande{.outil = Outil::Acquisition, .faire = FaireAtelier, .ephemere = true},
-    Commande{.outil = Outil::Recherche, .faire = Faire<search::FrmFind>, .retour = Outil::Sauvegarde},
+        .outil = Outil::Acquisition, .faire = FaireAtelier, .aide = u"aide/images.htm", .ephemere = true},
+    Commande{.outil = Outil::Recherche,
+             .faire = Faire<search::FrmFind>,
+             .aide = u"aide/rechercher.htm",
+             .retour = Outil::Sauvegarde},
     Commande{.outil = Outil::Sauvegarde,
              .agir = [](Fenetres &fenetres) { SauvegarderBase(fenetres.Principale); }},
     Commande{.outil = Outil::Restauration,
@@ -71,8 +82,12 @@ constexpr std::array kCommandes{
     Commande{.outil = Outil::SitePartenaire,
              .agir = [](Fenetres &fenetres) { OuvrirAdresse(fenetres.Principale, store::PartnerSiteHome); }},
     Commande{.outil = Outil::SiteAuteur,
-             .agir = [](Fenetres &fenetres) { OuvrirAdresse(fenetres.Principale, store::AuteurSite); }},
-    Commande{.outil = Outil::APropos, .faire = FaireAccueil, .retour = Outil::SiteAuteur, .remplace = false},
+             .agir = [](Fenetres &fenetres) { OuvrirAdresse(fenetres.Principale, store::kAuteurSite); }},
+    Commande{.outil = Outil::APropos,
+             .faire = FaireAccueil,
+             .aide = u"aide/auteur.htm",
+             .retour = Outil::SiteAuteur,
+             .remplace = false},
     Commande{.outil = Outil::Aide,
              .agir = [](Fenetres &fenetres) { OuvrirAdresse(fenetres.Principale, u"aide/index.htm"); }},
 };
@@ -81,12 +96,13 @@ constexpr std::size_t Place(Outil outil) {
     return static_cast<std::size_t>(outil);
 }
 
-/// Whether each tool has its row, in order, and does one thing, and no two windows come back for the same value.
+/// Whether each tool has its row, in order, does one thing, has its page of the help if it is a window, and no two windows come back for the same value.
 constexpr bool SontToutes() {
     std::array<int, browser::kNombreOutils> retours{};
     for (std::size_t i = 0; i < kCommandes.size(); ++i) {
         const Commande &commande = kCommandes[i];
-        if (Place(commande.outil) != i || (commande.faire == nullptr) == (commande.agir == nullptr)) {
+        if (Place(commande.outil) != i || (commande.faire == nullptr) == (commande.agir == nullptr) ||
+            (commande.faire == nullptr) != commande.aide.empty()) {
             return false;
         }
         if (commande.faire != nullptr && ++retours[Place(commande.Retour())] > 1) {
@@ -96,7 +112,8 @@ constexpr bool SontToutes() {
     return kCommandes.size() == browser::kNombreOutils;
 }
 
-static_assert(SontToutes(), "a tool does nothing, two things, or what another one does after a minimise");
+static_assert(SontToutes(), "a tool does nothing, two things, has a window without help, or does what "
+                            "another one does after a minimise");
 
 } // namespace
 

@@ -23,11 +23,13 @@ struct Commande {
     void (*agir)(Fenetres &) = nullptr;
     /// Done with the window before each press shows it.
     void (*preparer)(ToolWindow &) = nullptr;
+    /// The page of the help on the window.
+    QStringView aide{};
     /// The tool whose press, as the last one, brings the window back after a minimise; its own where empty.
     std::optional<browser::Outil> retour{};
     /// Gives the display mode in which the window is made.
     int (*mode)() = ModeAffichage;
-    /// Whether the window is made anew each time, or stays for the run.
+    /// Whether the window is made each time it is opened, or stays for the run.
     bool ephemere = false;
     /// Whether the main window is hidden meanwhile.
     bool remplace = true;

@@ -11,6 +11,7 @@
 #include "browser/Vues.h"
 #include "pictures/EnregistrerPhoto.h"
 #include "platform/controls/Fonts.h"
+#include "platform/controls/Skin.h"
 #include "platform/dialogs/French.h"
 #include "platform/dialogs/MessageBox.h"
 #include "platform/files/FileError.h"
@@ -30,6 +31,7 @@
 #include <QProxyStyle>
 #include <QScreen>
 #include <QThreadPool>
+#include <QToolTip>
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
@@ -204,6 +206,8 @@ void PreparerApplication() {
     QApplication::setApplicationName(Titre());
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setStyle(new Style(QStringLiteral("Fusion"))); // the application owns it
+    QApplication::setPalette(programPalette());
+    QToolTip::setPalette(programPalette());
     QApplication::setWindowIcon(platform::images::programIcon());
     substituteFonts();
     QApplication::setFont(interfaceFont(Face::Verdana, 8.25));

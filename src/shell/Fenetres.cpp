@@ -1,7 +1,10 @@
 #include "Fenetres.h"
 
 #include "Commandes.h"
+#include "OuvrirAdresse.h"
 #include "Reduction.h"
+
+#include "platform/controls/Keys.h"
 
 namespace shell {
 
@@ -23,6 +26,7 @@ std::unique_ptr<platform::controls::ToolWindow> Fenetres::Faire(browser::Outil o
     fenetre->CenterOn(Principale);
     QObject::connect(fenetre.get(), &ToolWindow::MinimiseRequested, &Principale,
                      [this, &reduite = *fenetre] { Reduire(*this, reduite); });
+    onKey(*fenetre, Qt::Key_F1, [&commande, &ouverte = *fenetre] { OuvrirAdresse(ouverte, commande.aide); });
     return fenetre;
 }
 

@@ -34,7 +34,7 @@ public:
         return dynamic_cast<Classe &>(Fenetre(outil));
     }
 
-    /// Unloads the window of a tool if it is made anew each time, unless it is open: then the one who opened it does.
+    /// Unloads the window of a tool if it is made each time, unless it is open: then the one who opened it does.
     void Oublier(browser::Outil outil);
 
     /// The tool windows made so far.

@@ -1,9 +1,11 @@
 #include "Patch.h"
 
 #include "Modes.h"
+#include "OuvrirAdresse.h"
 
 #include "browser/Frmmain.h"
 #include "platform/controls/Fonts.h"
+#include "platform/controls/Keys.h"
 #include "platform/controls/WhenPressed.h"
 #include "platform/images/ResourcePicture.h"
 
@@ -27,6 +29,8 @@ constexpr std::array kControles{
     ControlRow{"OK", 2250, 3120, 1500, 420, u"OK"},
     ControlRow{"Quit", 5400, 120, 360, 360, u"", u"Fermer"},
 };
+
+constexpr std::array kTouches{KeyRow{"Quit", Qt::Key_Escape}};
 
 } // namespace
 
@@ -82,6 +86,8 @@ void Patch::Brancher(browser::Frmmain &frm) {
         Unload();
     });
     connect(this, &SkinnedWindow::CloseRequested, this, &Patch::Unload);
+    pressByKeys(*this, kTouches);
+    onKey(*this, Qt::Key_F1, [this] { OuvrirAdresse(*this, u"aide/reglages.htm"); });
 }
 
 } // namespace shell

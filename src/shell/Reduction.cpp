@@ -24,6 +24,7 @@ void RouvrirFenetre(Fenetres &fenetres) {
     if (const Commande *commande = CommandeDuRetour(fenetres.Pop.FenetreOuverte)) {
         fenetres.Fenetre(commande->outil).ShowModal();
         fenetres.Oublier(commande->outil);
+        fenetres.Principale.RevenirALaListe();
     }
 }
 

@@ -105,7 +105,7 @@ void RechargerListes(browser::Frmmain &frm) {
         TrierListe(frm, browser::VueCourante());
     } catch (const platform::database::DatabaseError &) {
     } catch (const platform::settings::ConversionError &) {
-    } catch (const std::out_of_range &) { // of a recipe with a class that there is not
+    } catch (const std::out_of_range &) { // of a recipe whose class does not exist
     }
     frm.Chargement.hide();
 }
@@ -114,7 +114,7 @@ void RechargerListes(browser::Frmmain &frm) {
 
 void SauvegarderBase(browser::Frmmain &frm) {
     const QString fichier = dialogs::ShowSave(&frm, QStringLiteral("Sauvegarder la base de donnée"), kFiltre,
-                                              DossierPropose(), QStringLiteral("mdb"));
+                                              {DossierPropose()}, QStringLiteral("mdb"));
     if (fichier.isEmpty()) {
         return;
     }
@@ -129,7 +129,7 @@ void SauvegarderBase(browser::Frmmain &frm) {
 
 void RestaurerBase(browser::Frmmain &frm) {
     const QString fichier = dialogs::ShowOpen(&frm, QStringLiteral("Restaurer une ancienne base de donnée"),
-                                              kFiltre, DossierPropose());
+                                              kFiltre, {DossierPropose()});
     if (!fichier.isEmpty()) {
         if (store::EstLeLivre(fichier)) {
             // Copied onto itself, the book would stay what it is.

@@ -10,7 +10,7 @@ namespace shell {
 void SauvegarderBase(browser::Frmmain &frm);
 
 /// Puts a file that the user chooses in the place of the book, converted if it is an old book, and loads the lists
-/// again. A file that cannot be copied is passed over in silence; one that cannot be converted is told.
+/// again. A file that cannot be copied is passed over in silence; one that cannot be converted is reported.
 void RestaurerBase(browser::Frmmain &frm);
 
 /// Makes the book of the program ready for the first list: converts it where it is one of old, which is kept as

@@ -80,7 +80,7 @@ void Splash::Brancher() {
             OuvrirAdresse(*this, store::kLiens[static_cast<std::size_t>(index)].adresse);
         });
     }
-    whenPressed(Orvane, [this] { OuvrirAdresse(*this, store::AuteurSite); });
+    whenPressed(Orvane, [this] { OuvrirAdresse(*this, store::kAuteurSite); });
 }
 
 } // namespace shell

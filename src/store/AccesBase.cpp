@@ -16,7 +16,7 @@ using platform::database::Recordset;
 namespace {
 
 /// True for a text with a tag of the web import, which no choice list shows.
-bool porteBalise(const QString &texte) {
+bool PorteBalise(const QString &texte) {
     static constexpr std::array<QStringView, 4> kBalises{u"<B>", u"</B>", u"<I>", u"</I>"};
     // Hardly any text holds one: a single look settles nearly all of a list of thousands.
     return texte.contains(u'<') &&
@@ -24,29 +24,29 @@ bool porteBalise(const QString &texte) {
                        [&texte](QStringView balise) { return texte.contains(balise); });
 }
 
-QString fichesDeCle(const Table &table, qint64 cle) {
+QString RequeteFiche(const Table &table, qint64 cle) {
     return u"SELECT * From " + table.nom + u" where " + table.Cle() + u" = " + QString::number(cle);
 }
 
-QString ligneIngre(qint64 recette, const LigneIngre &ligne) {
+QString RequeteLigne(qint64 recette, const LigneIngre &ligne) {
     return u"SELECT * From Ingre where Numero = " + QString::number(recette) + u" and NQuantite = " +
            QString::number(ligne.quantite) + u" and NMesure = " + QString::number(ligne.mesure) +
            u" and NIngre = " + QString::number(ligne.ingredient);
 }
 
-void valider(Recordset &fiches) {
+void Valider(Recordset &fiches) {
     fiches.Update();
     fiches.SetBookmark(fiches.LastModified());
 }
 
 /// Writes a column of the row of a key, and the key itself, as every change of a row does.
-void ecrireFiche(const Table &table, qint64 cle, int position, const QVariant &valeur) {
+void EcrireFiche(const Table &table, qint64 cle, int position, const QVariant &valeur) {
     Database base = OuvrirLivre();
-    Recordset fiche = base.OpenRecordset(fichesDeCle(table, cle));
+    Recordset fiche = base.OpenRecordset(RequeteFiche(table, cle));
     fiche.Edit();
     fiche.Fields(0) = cle;
     fiche.Fields(position) = valeur;
-    valider(fiche);
+    Valider(fiche);
 }
 
 } // namespace
@@ -64,7 +64,7 @@ QStringList ChargerCombo(const Table &table) {
     QStringList textes;
     for (; !fiches.AtEnd(); fiches.MoveNext()) {
         const QString texte = SansBlancs(fiches.Fields(1).Text());
-        if (!texte.isEmpty() && !porteBalise(texte)) {
+        if (!texte.isEmpty() && !PorteBalise(texte)) {
             textes.append(texte);
         }
     }
@@ -77,7 +77,7 @@ QStringList ChargerListeSimple(const Table &table) {
     QStringList textes;
     for (Recordset fiches = base.OpenRecordset(RequeteListe(table)); !fiches.AtEnd(); fiches.MoveNext()) {
         const QString texte = fiches.Fields(1).Text();
-        if (!porteBalise(texte)) {
+        if (!PorteBalise(texte)) {
             textes.append(SansBlancs(texte));
         }
     }
@@ -102,11 +102,11 @@ std::vector<Resultat> ChargerResultats(const QString &requete, bool enTete, cons
 }
 
 void ModifierLibelle(const Table &table, qint64 cle, const QString &texte) {
-    ecrireFiche(table, cle, 1, texte);
+    EcrireFiche(table, cle, 1, texte);
 }
 
 void ModifierChamp(qint64 recette, ChampRecette champ, const QVariant &valeur) {
-    ecrireFiche(kCocktails, recette, Position(champ),
+    EcrireFiche(kCocktails, recette, Position(champ),
                 valeur.toString().isEmpty() ? QVariant(QStringLiteral(" ")) : valeur);
 }
 
@@ -120,16 +120,16 @@ void RemplacerLigneIngre(qint64 recette, const LigneIngre &ancienne, const Ligne
     Database base = OuvrirLivre();
     // The new line comes first: killed between the two, the program leaves one line too many, never one too few.
     const qsizetype quiPart = ancienne == nouvelle ? 1 : 0;
-    if (Recordset lignes = base.OpenRecordset(ligneIngre(recette, nouvelle));
+    if (Recordset lignes = base.OpenRecordset(RequeteLigne(recette, nouvelle));
         lignes.RecordCount() <= quiPart) {
         lignes.AddNew();
         lignes.Fields(u"Numero") = recette;
         lignes.Fields(u"NQuantite") = nouvelle.quantite;
         lignes.Fields(u"NMesure") = nouvelle.mesure;
         lignes.Fields(u"NIngre") = nouvelle.ingredient;
-        valider(lignes);
+        Valider(lignes);
     }
-    if (Recordset lignes = base.OpenRecordset(ligneIngre(recette, ancienne)); lignes.RecordCount() > 0) {
+    if (Recordset lignes = base.OpenRecordset(RequeteLigne(recette, ancienne)); lignes.RecordCount() > 0) {
         lignes.Delete();
     }
 }
@@ -137,7 +137,7 @@ void RemplacerLigneIngre(qint64 recette, const LigneIngre &ancienne, const Ligne
 void SupprimerFiches(const Table &table, qint64 valeur) {
     Database base = OuvrirLivre();
     while (true) {
-        Recordset fiches = base.OpenRecordset(fichesDeCle(table, valeur));
+        Recordset fiches = base.OpenRecordset(RequeteFiche(table, valeur));
         if (fiches.RecordCount() == 0) {
             return;
         }

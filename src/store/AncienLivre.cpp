@@ -22,7 +22,7 @@ namespace {
 constexpr double kLimiteDesReels = 9007199254740992.0; // 2^53
 
 /// The whole number that a value is, spells or is nearest to; else Null.
-QVariant enNombre(const QVariant &valeur) {
+QVariant EnNombre(const QVariant &valeur) {
     if (valeur.typeId() == QMetaType::LongLong) {
         return valeur;
     }
@@ -34,7 +34,7 @@ QVariant enNombre(const QVariant &valeur) {
     return lisible && std::abs(reel) <= kLimiteDesReels ? QVariant(std::llround(reel)) : QVariant();
 }
 
-QVariant enTexte(const QVariant &valeur) {
+QVariant EnTexte(const QVariant &valeur) {
     return valeur.isValid() ? QVariant(valeur.toString()) : QVariant();
 }
 
@@ -45,7 +45,7 @@ public:
         : m_insertion(base), m_progression(progression) {}
 
     void table(const QString &nom, const QStringList &colonnes) override {
-        terminerTable();
+        TerminerTable();
         const auto *const trouvee = std::ranges::find_if(kTables, [&](const Table *candidate) {
             return candidate->nom.compare(nom, Qt::CaseInsensitive) == 0;
         });
@@ -72,9 +72,9 @@ public:
         for (size_t i = 0; i < m_table->champs.size(); ++i) {
             const qsizetype place = m_places[qsizetype(i)];
             const QVariant valeur = place < 0 ? QVariant() : valeurs[place];
-            fiche.append(m_table->champs[i].sorte == Sorte::Texte ? enTexte(valeur) : enNombre(valeur));
+            fiche.append(m_table->champs[i].sorte == Sorte::Texte ? EnTexte(valeur) : EnNombre(valeur));
         }
-        if (m_table->champs.front().sorte == Sorte::Cle && !prendreNumero(fiche.front())) {
+        if (m_table->champs.front().sorte == Sorte::Cle && !PrendreNumero(fiche.front())) {
             fiche.front() = QVariant();
             m_sansNumero.append(fiche);
         } else {
@@ -88,7 +88,7 @@ public:
         }
     }
 
-    void terminer() {
+    void Terminer() {
         if (!m_lues.contains(&kCocktails)) {
             throw platform::jet::JetError(QStringLiteral(
                 "Ce fichier n'est pas un livre de recettes : il n'a pas de table « Cocktails »."));
@@ -100,13 +100,13 @@ public:
                                               u" » est introuvable.");
             }
         }
-        terminerTable();
+        TerminerTable();
         m_insertion.commit();
     }
 
 private:
     /// False for a number that is absent or given already.
-    bool prendreNumero(const QVariant &numero) {
+    bool PrendreNumero(const QVariant &numero) {
         if (!numero.isValid() || m_numeros.contains(numero.toLongLong())) {
             return false;
         }
@@ -115,7 +115,7 @@ private:
     }
 
     /// Adds the rows without a number: the engine gives them the next ones, which are only known now.
-    void terminerTable() {
+    void TerminerTable() {
         for (const QVariantList &fiche : m_sansNumero) {
             m_insertion.row(fiche);
         }
@@ -133,7 +133,7 @@ private:
     QSet<const Table *> m_lues;
 };
 
-void remplir(const QString &source, const QString &destination, const ProgressionConversion &progression) {
+void Remplir(const QString &source, const QString &destination, const ProgressionConversion &progression) {
     QStringList tables;
     for (const Table *table : kTables) {
         tables.append(table->nom.toString());
@@ -141,7 +141,7 @@ void remplir(const QString &source, const QString &destination, const Progressio
     platform::database::Database base = OuvrirLivre(destination);
     Transfert transfert(base, progression);
     platform::jet::readJet(DossierProgramme() + u"/lecteur-jet", source, tables, transfert);
-    transfert.terminer();
+    transfert.Terminer();
 }
 
 } // namespace
@@ -157,7 +157,7 @@ void ConvertirAncienLivre(const QString &source, const QString &destination,
         if (const auto droits = platform::files::rightsOf(CheminBase())) {
             platform::files::setRights(destination, *droits & DroitsDuLivre());
         }
-        remplir(source, destination, progression);
+        Remplir(source, destination, progression);
     } catch (...) {
         QFile::remove(destination);
         QFile::remove(destination + QStringLiteral("-journal"));

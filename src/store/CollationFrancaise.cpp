@@ -31,7 +31,7 @@ static_assert(kBases.size() == kDernierAccent - kPremierAccent + 1);
 constexpr char32_t kOctetInvalide = 0x110000;
 
 /// Takes what follows the first byte of a character beyond ASCII off a text.
-char32_t prendreSuite(unsigned char premier, std::string_view &texte) {
+char32_t PrendreSuite(unsigned char premier, std::string_view &texte) {
     const size_t suite = premier >= 0xF0 ? 3 : premier >= 0xE0 ? 2 : 1;
     if (premier < 0xC2 || premier > 0xF4 || texte.size() < suite) {
         return kOctetInvalide + premier;
@@ -49,14 +49,14 @@ char32_t prendreSuite(unsigned char premier, std::string_view &texte) {
 }
 
 /// Takes the next character off a text that is not empty.
-inline char32_t prendre(std::string_view &texte) {
+inline char32_t Prendre(std::string_view &texte) {
     const auto premier = static_cast<unsigned char>(texte.front());
     texte.remove_prefix(1);
-    return premier < 0x80 ? premier : prendreSuite(premier, texte);
+    return premier < 0x80 ? premier : PrendreSuite(premier, texte);
 }
 
 /// The small letter of a capital of Latin-1 or Latin Extended-A.
-constexpr char32_t minusculeAccentuee(char32_t c) {
+constexpr char32_t MinusculeAccentuee(char32_t c) {
     if (c >= 0xC0 && c <= 0xDE) {
         return c == 0xD7 ? c : c + 0x20;
     }
@@ -69,11 +69,11 @@ constexpr char32_t minusculeAccentuee(char32_t c) {
     return capitale ? c + 1 : c;
 }
 
-constexpr char32_t minusculeDe(char32_t c) {
+constexpr char32_t MinusculeDe(char32_t c) {
     if (c < 0x80) {
         return c >= U'A' && c <= U'Z' ? c + 0x20 : c;
     }
-    return minusculeAccentuee(c);
+    return MinusculeAccentuee(c);
 }
 
 /// What a small letter counts as among the base letters: one, or two.
@@ -82,7 +82,7 @@ struct Base {
     char32_t seconde = 0;
 };
 
-constexpr Base baseAccentuee(char32_t c) {
+constexpr Base BaseAccentuee(char32_t c) {
     switch (c) {
     case U'æ':
         return {U'a', U'e'};
@@ -109,18 +109,18 @@ struct Lettre {
 constexpr auto kLettres = [] {
     std::array<Lettre, kDernierAccent + 1> lettres{};
     for (char32_t c = 0; c < lettres.size(); ++c) {
-        const char32_t petite = minusculeDe(c);
-        lettres[c] = {petite, petite < kPremierAccent ? Base{petite} : baseAccentuee(petite)};
+        const char32_t petite = MinusculeDe(c);
+        lettres[c] = {petite, petite < kPremierAccent ? Base{petite} : BaseAccentuee(petite)};
     }
     return lettres;
 }();
 
-inline Lettre lettre(char32_t c) {
+inline Lettre LettreDe(char32_t c) {
     return c < kLettres.size() ? kLettres[c] : Lettre{c, {c}};
 }
 
-inline char32_t minuscule(char32_t c) {
-    return lettre(c).minuscule;
+inline char32_t Minuscule(char32_t c) {
+    return LettreDe(c).minuscule;
 }
 
 /// The base letters of a text, one after the other.
@@ -129,14 +129,14 @@ public:
     explicit Bases(std::string_view texte) : m_texte(texte) {}
 
     /// The next letter plus 1; 0 at the end.
-    char32_t suivante() {
+    char32_t Suivante() {
         if (m_seconde != 0) {
             return std::exchange(m_seconde, 0) + 1;
         }
         if (m_texte.empty()) {
             return 0;
         }
-        const Base b = lettre(prendre(m_texte)).base;
+        const Base b = LettreDe(Prendre(m_texte)).base;
         m_seconde = b.seconde;
         return b.premiere + 1;
     }
@@ -148,7 +148,7 @@ private:
 
 /// Writes a number below 0x200000 in the form of UTF-8: the bytes are in the order of the numbers, and 0
 /// alone gives a byte 0. Returns the place after it.
-inline char *ecrire(char *cle, char32_t c) {
+inline char *Ecrire(char *cle, char32_t c) {
     if (c < 0x80) {
         *cle++ = static_cast<char>(c);
         return cle;
@@ -168,7 +168,7 @@ inline char *ecrire(char *cle, char32_t c) {
     return cle;
 }
 
-/// What ecrire() makes of the small letters of ASCII plus 1, as far as that is a single byte.
+/// What Ecrire() makes of the small letters of ASCII plus 1, as far as that is a single byte.
 constexpr auto kClesAscii = [] {
     std::array<char, 0x7F> cles{};
     for (char32_t c = 0; c < cles.size(); ++c) {
@@ -177,7 +177,7 @@ constexpr auto kClesAscii = [] {
     return cles;
 }();
 
-int signe(char32_t gauche, char32_t droite) {
+int Signe(char32_t gauche, char32_t droite) {
     return gauche < droite ? -1 : int(gauche > droite);
 }
 
@@ -187,20 +187,20 @@ int ComparerFrancais(std::string_view gauche, std::string_view droite) {
     Bases basesGauche(gauche);
     Bases basesDroite(droite);
     while (true) {
-        const char32_t g = basesGauche.suivante();
-        const char32_t d = basesDroite.suivante();
+        const char32_t g = basesGauche.Suivante();
+        const char32_t d = basesDroite.Suivante();
         if (g != d) {
-            return signe(g, d);
+            return Signe(g, d);
         }
         if (g == 0) {
             break;
         }
     }
     while (!gauche.empty() && !droite.empty()) {
-        const char32_t g = minuscule(prendre(gauche));
-        const char32_t d = minuscule(prendre(droite));
+        const char32_t g = Minuscule(Prendre(gauche));
+        const char32_t d = Minuscule(Prendre(droite));
         if (g != d) {
-            return signe(g, d);
+            return Signe(g, d);
         }
     }
     return int(droite.empty()) - int(gauche.empty());
@@ -222,12 +222,12 @@ void AjouterCleDeTri(std::string_view texte, QByteArray &cles) {
             texte.remove_prefix(1);
             continue;
         }
-        const Lettre l = lettre(prendre(texte));
-        bases = ecrire(bases, l.base.premiere + 1);
+        const Lettre l = LettreDe(Prendre(texte));
+        bases = Ecrire(bases, l.base.premiere + 1);
         if (l.base.seconde != 0) {
-            bases = ecrire(bases, l.base.seconde + 1);
+            bases = Ecrire(bases, l.base.seconde + 1);
         }
-        lettres = ecrire(lettres, l.minuscule + 1);
+        lettres = Ecrire(lettres, l.minuscule + 1);
         accents = accents || l.base.premiere != l.minuscule;
     }
     *bases++ = '\0';

@@ -14,6 +14,6 @@ int ComparerFrancais(std::string_view gauche, std::string_view droite);
 /// Appends bytes in the order of ComparerFrancais; equal texts give equal bytes.
 void AjouterCleDeTri(std::string_view texte, QByteArray &cles);
 
-inline constexpr platform::database::Collation CollationFrancaise{ComparerFrancais, AjouterCleDeTri};
+inline constexpr platform::database::Collation kCollationFrancaise{ComparerFrancais, AjouterCleDeTri};
 
 } // namespace store

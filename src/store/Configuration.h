@@ -30,7 +30,7 @@
 namespace store {
 
 /// Site of the author.
-inline constexpr QStringView AuteurSite = SAVOREL_AUTEUR;
+inline constexpr QStringView kAuteurSite = SAVOREL_AUTEUR;
 
 /// Host of the partner's recipe site: its name, and a word that each of its own full addresses holds.
 inline constexpr QStringView PartnerSiteHost = SAVOREL_PARTENAIRE;

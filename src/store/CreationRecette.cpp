@@ -68,7 +68,7 @@ private:
 };
 
 void Creation::Ecrire(ChampRecette champ, const QVariant &valeur) {
-    m_etapes.Executer([&] { m_recettes.Fields(Position(champ)) = valeur; });
+    m_etapes.Executer([&] { m_recettes.Fields(Description(champ).nom) = valeur; });
 }
 
 /// Writes the number of a text of the table that the column refers to. Without a number the column stays Null.
@@ -137,7 +137,7 @@ TextesNouveaux Creation::EcrireLignes() {
     m_etapes.Executer([&] {
         Recordset lignes = m_livre.OpenRecordset(QStringLiteral("SELECT * From Ingre"));
         for (const LigneSaisie &ligne : m_saisie.lignes | std::views::reverse) {
-            if (!ligne.vide()) {
+            if (!ligne.Vide()) {
                 EcrireLigne(lignes, ligne, nouveaux);
             }
         }

@@ -12,18 +12,22 @@ namespace store {
 struct LigneSaisie {
     QString quantite, mesure, ingredient;
 
-    bool vide() const { return quantite.isEmpty() && mesure.isEmpty() && ingredient.isEmpty(); }
+    bool Vide() const { return quantite.isEmpty() && mesure.isEmpty() && ingredient.isEmpty(); }
+
+    bool operator==(const LigneSaisie &) const = default;
 };
 
-/// The fields of a new recipe, as the window holds them in which it is made.
+/// The fields of a new recipe, as its window holds them.
 struct RecetteSaisie {
     QString titre;
     QString cout, difficulte, vin, dureeCuisson, personnes, plat, dureeReal;
     QString preparation, complements; ///< rich texts
     std::vector<LigneSaisie> lignes;
+
+    bool operator==(const RecetteSaisie &) const = default;
 };
 
-/// What one window of creation does otherwise than another.
+/// What differs between the windows in which recipes are created.
 struct ModeDeCreation {
     bool dureeSansBalises;   ///< each <B> and </B> of the preparation time becomes a blank
     bool vinSansApostrophes; ///< the apostrophes of the wine advice go; otherwise a new row has them doubled

@@ -12,9 +12,9 @@ constexpr std::size_t kLettres = 0x180; // the Latin letters of Western language
 /// A character of two bytes in UTF-8.
 using Paire = std::array<char, 2>;
 
-/// The upper case of each of the first characters beyond ASCII; zeros for those whose upper case has not two bytes, as
+/// The upper case of each of the first characters beyond ASCII; zeros for those whose upper case is not two bytes long, as
 /// that of ı.
-std::array<Paire, kLettres> calculerMajuscules() {
+std::array<Paire, kLettres> CalculerMajuscules() {
     std::array<Paire, kLettres> majuscules{};
     for (std::size_t lettre = 0x80; lettre < kLettres; ++lettre) {
         const QByteArray majuscule = QString(QChar(static_cast<char16_t>(lettre))).toUpper().toUtf8();
@@ -25,13 +25,13 @@ std::array<Paire, kLettres> calculerMajuscules() {
     return majuscules;
 }
 
-constexpr bool horsAscii(char octet) {
+constexpr bool HorsAscii(char octet) {
     return (static_cast<unsigned char>(octet) & 0x80U) != 0;
 }
 
 /// Copies a text with the letters of ASCII in upper case; true if it has others besides. Without a branch, so that the
 /// compiler can take many letters at a time.
-bool mettreAsciiEnMajuscules(QByteArrayView texte, std::string &majuscules) {
+bool MettreAsciiEnMajuscules(QByteArrayView texte, std::string &majuscules) {
     const auto taille = static_cast<std::size_t>(texte.size());
     majuscules.resize(taille);
     const char *source = texte.data();
@@ -43,14 +43,14 @@ bool mettreAsciiEnMajuscules(QByteArrayView texte, std::string &majuscules) {
         cible[i] = static_cast<char>(octet - (minuscule ? 'a' - 'A' : 0));
         tous |= octet;
     }
-    return horsAscii(static_cast<char>(tous));
+    return HorsAscii(static_cast<char>(tous));
 }
 
-/// Puts the letters of two bytes into upper case; false if there is one that the table does not tell.
-bool mettreAccentsEnMajuscules(std::string &texte) {
-    static const std::array<Paire, kLettres> majuscules = calculerMajuscules();
+/// Puts the letters of two bytes into upper case; false if there is one that is not in the table.
+bool MettreAccentsEnMajuscules(std::string &texte) {
+    static const std::array<Paire, kLettres> majuscules = CalculerMajuscules();
     for (std::size_t i = 0; i < texte.size(); ++i) {
-        if (!horsAscii(texte[i])) {
+        if (!HorsAscii(texte[i])) {
             continue;
         }
         // At the end of the text this reads the zero behind it, which continues nothing.
@@ -79,7 +79,7 @@ bool FiltreTexte::Garde(QByteArrayView texte) {
     if (m_cherche.empty()) {
         return m_enTete;
     }
-    if (mettreAsciiEnMajuscules(texte, m_majuscules) && !mettreAccentsEnMajuscules(m_majuscules)) {
+    if (MettreAsciiEnMajuscules(texte, m_majuscules) && !MettreAccentsEnMajuscules(m_majuscules)) {
         m_majuscules = QString::fromUtf8(texte).toUpper().toStdString();
     }
     return m_enTete ? m_majuscules.starts_with(m_cherche) : m_majuscules.find(m_cherche) != std::string::npos;

@@ -15,11 +15,11 @@ namespace store {
 
 namespace {
 
-QString connexion() {
+QString Connexion() {
     return QStringLiteral(";pwd =PoivreEtSel4");
 }
 
-QString schema() {
+QString SchemaEntier() {
     QStringList instructions;
     for (const Table *table : kTables) {
         instructions.append(CreationDeTable(*table));
@@ -46,7 +46,7 @@ platform::database::Database OuvrirLivre() {
 }
 
 platform::database::Database OuvrirLivre(const QString &chemin) {
-    auto livre = platform::database::OpenDatabase(chemin, true, false, connexion(), CollationFrancaise);
+    auto livre = platform::database::OpenDatabase(chemin, true, false, Connexion(), kCollationFrancaise);
     if (livre.UserVersion() != kVersionDuLivre) {
         MettreAJour(livre);
     }
@@ -55,7 +55,7 @@ platform::database::Database OuvrirLivre(const QString &chemin) {
 
 bool EstUnLivre(const QString &chemin) {
     try {
-        auto livre = platform::database::OpenDatabase(chemin, true, true, connexion(), CollationFrancaise);
+        auto livre = platform::database::OpenDatabase(chemin, true, true, Connexion(), kCollationFrancaise);
         return livre.UserVersion() <= kVersionDuLivre &&
                livre.OpenRecordset(QStringLiteral("SELECT Numero From Cocktails")).RecordCount() >= 0 &&
                livre.OpenRecordset(QStringLiteral("PRAGMA quick_check")).Fields(0).Text() == u"ok";
@@ -72,11 +72,11 @@ QString MentionDeLaCopie() {
 }
 
 void PreparerCle() {
-    platform::database::PrepareKey(CheminBase(), connexion());
+    platform::database::PrepareKey(CheminBase(), Connexion());
 }
 
 void CreerLivre(const QString &chemin) {
-    platform::database::CreateDatabase(chemin, connexion(), schema());
+    platform::database::CreateDatabase(chemin, Connexion(), SchemaEntier());
 }
 
 } // namespace store

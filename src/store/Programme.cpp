@@ -6,7 +6,7 @@ namespace store {
 
 namespace {
 
-QString &autreDossier() {
+QString &AutreDossier() {
     static QString dossier;
     return dossier;
 }
@@ -14,11 +14,11 @@ QString &autreDossier() {
 } // namespace
 
 QString DossierProgramme() {
-    return autreDossier().isEmpty() ? QCoreApplication::applicationDirPath() : autreDossier();
+    return AutreDossier().isEmpty() ? QCoreApplication::applicationDirPath() : AutreDossier();
 }
 
 void DefinirDossierProgramme(const QString &dossier) {
-    autreDossier() = dossier;
+    AutreDossier() = dossier;
 }
 
 QString CheminBase() {

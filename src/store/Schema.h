@@ -42,7 +42,7 @@ struct Table {
 namespace champs {
 inline constexpr std::array kCategorie{Champ{u"NCategorie", Sorte::Cle}, Champ{u"Categorie", Sorte::Texte}};
 inline constexpr std::array kDureeReal{Champ{u"NDureeReal", Sorte::Cle}, Champ{u"DureeReal", Sorte::Texte}};
-// The last three mean nothing.
+// The last three columns hold no information.
 inline constexpr std::array kVerre{
     Champ{u"NVerre", Sorte::Cle},   Champ{u"Verre", Sorte::Texte},  Champ{u"Verre2", Sorte::Texte},
     Champ{u"Verre3", Sorte::Texte}, Champ{u"Verre4", Sorte::Texte},

@@ -9,10 +9,10 @@
 
 namespace store {
 
-/// Runs statements one behind the other.
+/// Runs statements one after the other.
 class Etapes {
 public:
-    /// From here on a failing statement is passed over, and those behind it still run. A fault of the program is no failure.
+    /// From here on a failing statement is passed over, and those after it still run. A programming error is never passed over.
     void Tolerer() { m_tolerantes = true; }
 
     template <class Instruction>

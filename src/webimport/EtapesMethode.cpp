@@ -39,12 +39,12 @@ qsizetype EtapesMethode::Collecter(const LigneLue &explication, const Regle &reg
         if (regle.soignee && gras > 0) {
             texte.insert(gras - 1 + kFinDeGras.size(), kFinDeLigne);
         }
-        ajouter(std::move(texte));
+        Ajouter(std::move(texte));
     }
     return posEtape;
 }
 
-void EtapesMethode::ajouter(QString etape) {
+void EtapesMethode::Ajouter(QString etape) {
     m_reste -= etape.size() + kEntreEtapes.size() + kTiret.size();
     Remplacer(etape, {u"<BR>", u""});
     if (!m_texte.isEmpty()) {

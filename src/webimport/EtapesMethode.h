@@ -27,7 +27,7 @@ public:
     const QString &Texte() const { return m_texte; }
 
 private:
-    void ajouter(QString etape);
+    void Ajouter(QString etape);
 
     QString m_texte;
     qsizetype m_reste = kLongueurAuPlus;

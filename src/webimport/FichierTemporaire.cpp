@@ -19,7 +19,7 @@ constexpr char kTypeTexte = 8;
 constexpr int kPageDeCodes = 1252;
 constexpr int kCaracteres = 256;
 
-[[noreturn]] void echouer(const QFile &fichier) {
+[[noreturn]] void Echouer(const QFile &fichier) {
     throw ErreurExecution(platform::files::FileError(fichier.fileName(), errno).what());
 }
 
@@ -56,14 +56,14 @@ void EcrireTexte(const QString &chemin, const QString &texte) {
     QFile fichier(chemin);
     const QByteArray octets = EnregistrementDuTexte(texte);
     if (!fichier.open(QIODevice::ReadWrite) || fichier.write(octets) != octets.size() || !fichier.flush()) {
-        echouer(fichier);
+        Echouer(fichier);
     }
 }
 
 QString LireTexte(const QString &chemin) {
     QFile fichier(chemin);
     if (!fichier.open(QIODevice::ReadOnly)) {
-        echouer(fichier);
+        Echouer(fichier);
     }
     return TexteDuFichier(fichier.readAll());
 }

@@ -8,16 +8,16 @@ namespace webimport {
 
 namespace {
 
-LigneLue sansBlancsAutour(const LigneLue &ligne) {
+LigneLue SansBlancsAutour(const LigneLue &ligne) {
     const QStringView texte = Rogner(ligne.texte);
     return {texte, ligne.majuscules.sliced(texte.data() - ligne.texte.data(), texte.size())};
 }
 
-LigneLue aPartirDe(const LigneLue &ligne, qsizetype position) {
+LigneLue APartirDe(const LigneLue &ligne, qsizetype position) {
     return {Extrait(ligne.texte, position), Extrait(ligne.majuscules, position)};
 }
 
-LigneLue partie(const LigneLue &ligne, qsizetype position, qsizetype longueur) {
+LigneLue Partie(const LigneLue &ligne, qsizetype position, qsizetype longueur) {
     return {Extrait(ligne.texte, position, longueur), Extrait(ligne.majuscules, position, longueur)};
 }
 
@@ -56,14 +56,14 @@ LigneLue Section::Dans(const LigneLue &ligne) const {
     }
     const qsizetype contenu = p + m_debut.size();
     if (q == 0) {
-        return sansBlancsAutour(aPartirDe(ligne, contenu));
+        return SansBlancsAutour(APartirDe(ligne, contenu));
     }
     if (image) {
         // One character more is left out in front, the quote of the attribute. The length counts from the
         // opening marker "src=", whose four characters let the extension in.
-        return sansBlancsAutour(partie(ligne, contenu + 1, q - p - 1));
+        return SansBlancsAutour(Partie(ligne, contenu + 1, q - p - 1));
     }
-    return sansBlancsAutour(partie(ligne, contenu, q - contenu));
+    return SansBlancsAutour(Partie(ligne, contenu, q - contenu));
 }
 
 std::vector<Section> SectionsDe(std::span<const Marqueurs> marqueurs) {

@@ -62,8 +62,8 @@ private:
 
 std::vector<Section> SectionsDe(std::span<const Marqueurs> marqueurs);
 
-/// Fills a field from a line, unless it holds a text already: the first line that gives one wins. Tells
-/// whether the field holds a new text.
+/// Fills a field from a line, unless it holds a text already: the first line that gives one wins. True
+/// if the field holds a new text.
 bool LireSection(const LigneLue &ligne, const Section &section, QString &champ);
 
 /// The same on a line that was not read from a page.

@@ -12,14 +12,14 @@ namespace {
 constexpr QStringView kDebutGras = u"<B>";
 constexpr QStringView kFinGras = u"</B>";
 
-QTextCursor selection(QTextDocument &document, qsizetype debut, qsizetype longueur) {
+QTextCursor Selection(QTextDocument &document, qsizetype debut, qsizetype longueur) {
     QTextCursor curseur(&document);
     curseur.setPosition(int(debut));
     curseur.setPosition(int(debut + longueur), QTextCursor::KeepAnchor);
     return curseur;
 }
 
-void colorer(QTextCursor curseur, QRgb couleur, bool gras) {
+void Colorer(QTextCursor curseur, QRgb couleur, bool gras) {
     QTextCharFormat format;
     format.setForeground(QColor(couleur));
     if (gras) {
@@ -28,7 +28,7 @@ void colorer(QTextCursor curseur, QRgb couleur, bool gras) {
     curseur.mergeCharFormat(format);
 }
 
-void accentuer(QTextDocument &document, QStringView texte, QRgb couleur) {
+void Accentuer(QTextDocument &document, QStringView texte, QRgb couleur) {
     Occurrences debuts(texte, kDebutGras);
     Occurrences fins(texte, kFinGras);
     for (qsizetype p = debuts.Depuis(1); p > 0;) {
@@ -37,14 +37,14 @@ void accentuer(QTextDocument &document, QStringView texte, QRgb couleur) {
             return;
         }
         // From the opening tag on; the last character before the closing tag stays out.
-        colorer(selection(document, p - 1, q - p - 1), couleur, true);
+        Colorer(Selection(document, p - 1, q - p - 1), couleur, true);
         p = debuts.Depuis(q + 1);
     }
 }
 
 /// Whether all characters of a stretch look the same; else the stretch is no text of its own in rich text
 /// form.
-bool estUniforme(QTextDocument &document, qsizetype debut, qsizetype longueur) {
+bool EstUniforme(QTextDocument &document, qsizetype debut, qsizetype longueur) {
     QTextCursor curseur(&document);
     curseur.setPosition(int(debut + 1));
     const QTextCharFormat format = curseur.charFormat();
@@ -57,12 +57,12 @@ bool estUniforme(QTextDocument &document, qsizetype debut, qsizetype longueur) {
     return true;
 }
 
-void retirer(QTextDocument &document, QStringView balise) {
+void Retirer(QTextDocument &document, QStringView balise) {
     const QString texte = document.toPlainText();
     // From the last on, so that the positions before stay right.
     for (qsizetype i = texte.lastIndexOf(balise); i >= 0;) {
-        if (estUniforme(document, i, balise.size())) {
-            selection(document, i, balise.size()).removeSelectedText();
+        if (EstUniforme(document, i, balise.size())) {
+            Selection(document, i, balise.size()).removeSelectedText();
         }
         i = i > 0 ? texte.lastIndexOf(balise, i - 1) : -1;
     }
@@ -74,11 +74,11 @@ void MarquerTexte(QTextDocument &document, const CouleursTexte &couleurs) {
     const QString texte = document.toPlainText();
     QTextCursor ensemble(&document);
     ensemble.beginEditBlock();
-    colorer(selection(document, 0, texte.size()), couleurs.ordinaire, false);
+    Colorer(Selection(document, 0, texte.size()), couleurs.ordinaire, false);
     if (texte.contains(kDebutGras)) {
-        accentuer(document, texte, couleurs.accent);
-        retirer(document, kDebutGras);
-        retirer(document, kFinGras);
+        Accentuer(document, texte, couleurs.accent);
+        Retirer(document, kDebutGras);
+        Retirer(document, kFinGras);
     }
     ensemble.endEditBlock();
 }

@@ -13,11 +13,11 @@ namespace {
 constexpr QChar kBlancInsecable = u'\u00A0';
 constexpr QChar kBlancInsecableEtroit = u'\u202F';
 
-bool estBlanc(QChar c) {
+bool EstBlanc(QChar c) {
     return c == u' ' || c == kBlancInsecable || c == kBlancInsecableEtroit;
 }
 
-bool estChiffre(QChar c) {
+bool EstChiffre(QChar c) {
     return c >= u'0' && c <= u'9';
 }
 
@@ -27,13 +27,13 @@ public:
     Lecture(QStringView texte, const QLocale &pays)
         : m_reste(texte), m_decimale(pays.decimalPoint().front()), m_groupe(pays.groupSeparator().front()) {}
 
-    std::optional<double> nombre() {
-        sauter(estBlanc);
-        prendre([](QChar c) { return c == u'+' || c == u'-'; });
-        if (!mantisse() || !exposant()) {
+    std::optional<double> Nombre() {
+        Sauter(EstBlanc);
+        Prendre([](QChar c) { return c == u'+' || c == u'-'; });
+        if (!Mantisse() || !Exposant()) {
             return std::nullopt;
         }
-        sauter(estBlanc);
+        Sauter(EstBlanc);
         bool lu = false;
         const double valeur = m_lu.toDouble(&lu);
         return m_reste.isEmpty() && lu ? std::optional(valeur) : std::nullopt;
@@ -41,20 +41,20 @@ public:
 
 private:
     template <class Test>
-    bool voit(Test test) const {
+    bool Voit(Test test) const {
         return !m_reste.isEmpty() && test(m_reste.front());
     }
 
     template <class Test>
-    void sauter(Test test) {
-        while (voit(test)) {
+    void Sauter(Test test) {
+        while (Voit(test)) {
             m_reste = m_reste.sliced(1);
         }
     }
 
     template <class Test>
-    bool prendre(Test test) {
-        if (!voit(test)) {
+    bool Prendre(Test test) {
+        if (!Voit(test)) {
             return false;
         }
         m_lu += m_reste.front().toLatin1();
@@ -62,37 +62,37 @@ private:
         return true;
     }
 
-    bool chiffres() {
+    bool Chiffres() {
         bool lus = false;
-        while (prendre(estChiffre)) {
+        while (Prendre(EstChiffre)) {
             lus = true;
         }
         return lus;
     }
 
     /// Code page 1252 has but one of the no-break blanks by which countries separate groups.
-    bool estGroupe(QChar c) const { return c == m_groupe || (estBlanc(m_groupe) && c == kBlancInsecable); }
+    bool EstGroupe(QChar c) const { return c == m_groupe || (EstBlanc(m_groupe) && c == kBlancInsecable); }
 
-    bool mantisse() {
-        bool lus = chiffres();
-        while (lus && voit([this](QChar c) { return estGroupe(c); })) {
+    bool Mantisse() {
+        bool lus = Chiffres();
+        while (lus && Voit([this](QChar c) { return EstGroupe(c); })) {
             m_reste = m_reste.sliced(1);
-            chiffres();
+            Chiffres();
         }
-        if (voit([this](QChar c) { return c == m_decimale; })) {
+        if (Voit([this](QChar c) { return c == m_decimale; })) {
             m_reste = m_reste.sliced(1);
             m_lu += '.';
-            lus = chiffres() || lus;
+            lus = Chiffres() || lus;
         }
         return lus;
     }
 
-    bool exposant() {
-        if (!prendre([](QChar c) { return c == u'e' || c == u'E'; })) {
+    bool Exposant() {
+        if (!Prendre([](QChar c) { return c == u'e' || c == u'E'; })) {
             return true;
         }
-        prendre([](QChar c) { return c == u'+' || c == u'-'; });
-        return chiffres();
+        Prendre([](QChar c) { return c == u'+' || c == u'-'; });
+        return Chiffres();
     }
 
     QStringView m_reste;
@@ -104,11 +104,11 @@ private:
 } // namespace
 
 bool EstNumerique(QStringView texte, const QLocale &pays) {
-    return Lecture(texte, pays).nombre().has_value();
+    return Lecture(texte, pays).Nombre().has_value();
 }
 
 double LireNombre(QStringView texte, const QLocale &pays) {
-    const auto nombre = Lecture(texte, pays).nombre();
+    const auto nombre = Lecture(texte, pays).Nombre();
     if (!nombre) {
         throw IncompatibiliteDeType();
     }

@@ -18,7 +18,7 @@ struct SitePartenaire {
 
 /// What a page is read from.
 struct PageCapturee {
-    QString texte;   ///< the page in its legacy form, as read back from the temporary file
+    QString texte;   ///< the page as page-ancienne.js writes it, read back from the temporary file
     QString adresse; ///< the browser's address
     SitePartenaire site;
 };

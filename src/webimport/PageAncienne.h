@@ -4,7 +4,7 @@
 
 namespace webimport {
 
-/// Source of the script that gives a page in its legacy form. Its value is a function of the document element
+/// Source of the script that writes a page in the form that is read. Its value is a function of the document element
 /// that returns the text; the rules stand in the script.
 QString ScriptPageAncienne();
 

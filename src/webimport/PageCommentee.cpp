@@ -67,7 +67,7 @@ constexpr QStringView kCouleurSecondeLigne = u"663300";
 
 /// The two characters of a picture's name behind a word, in which the pages keep a number; null without the
 /// word.
-QStringView numeroDImage(QStringView texte, QStringView mot) {
+QStringView NumeroDImage(QStringView texte, QStringView mot) {
     const qsizetype position = Position(texte, mot);
     return position == 0 ? QStringView() : Extrait(texte, position + mot.size(), 2);
 }
@@ -80,41 +80,41 @@ public:
         while (m_page.LigneSuivante()) {
             afficherLigne(m_page.Ligne().texte.toString());
             // Several sections may lie on one line, and each step sees what those before it have read.
-            lireTitre();
+            LireTitre();
             m_page.LireImage(Image);
-            lireCout();
-            lireDifficulte();
-            lireDurees();
+            LireCout();
+            LireDifficulte();
+            LireDurees();
             m_page.LireVin(Vin);
-            lireTypeDePlat();
-            lirePersonnes();
-            lireIngredients();
-            lireMethode();
-            lireAstuces();
+            LireTypeDePlat();
+            LirePersonnes();
+            LireIngredients();
+            LireMethode();
+            LireAstuces();
         }
         return m_page.Terminer();
     }
 
 private:
-    void lireTitre();
-    void lireCout();
-    void lireDifficulte();
-    void lireDurees();
-    void lireTypeDePlat();
-    void lirePersonnes();
-    void lireIngredients();
-    void fermerIngredients();
-    void lireMethode();
-    void lireAstuces();
+    void LireTitre();
+    void LireCout();
+    void LireDifficulte();
+    void LireDurees();
+    void LireTypeDePlat();
+    void LirePersonnes();
+    void LireIngredients();
+    void FermerIngredients();
+    void LireMethode();
+    void LireAstuces();
 
-    ChampPage &liste(IndiceListe i) { return m_page.champs.Liste[i]; }
+    ChampPage &Liste(IndiceListe i) { return m_page.champs.Liste[i]; }
 
     Extraction m_page;
     Repasses m_repassesPreparation{kRemplacementsPreparation};
     Repasses m_repassesCuisson{kRemplacementsCuisson};
 };
 
-void LecteurCommente::lireTitre() {
+void LecteurCommente::LireTitre() {
     QString &titre = m_page.champs.TitreRecette.texte;
     const qsizetype saut = m_page.Lire(Titre, titre) ? Position(titre, u"<BR>") : 0;
     if (saut == 0) {
@@ -132,29 +132,29 @@ void LecteurCommente::lireTitre() {
     titre.truncate(saut - 1);
 }
 
-void LecteurCommente::lireCout() {
-    ChampPage &cout = liste(ListeCout);
+void LecteurCommente::LireCout() {
+    ChampPage &cout = Liste(ListeCout);
     const bool lu = m_page.Lire(Cout, cout.texte);
     cout.MontrerInfobulle();
     if (lu) {
         const auto *const numero =
-            std::find(kNumerosDeCout.begin(), kNumerosDeCout.end(), numeroDImage(cout.texte, u"prix-"));
+            std::find(kNumerosDeCout.begin(), kNumerosDeCout.end(), NumeroDImage(cout.texte, u"prix-"));
         if (numero != kNumerosDeCout.end()) {
             cout.texte = store::Cout[std::size_t(numero - kNumerosDeCout.begin()) + 1].toString();
         }
     }
 }
 
-void LecteurCommente::lireDifficulte() {
+void LecteurCommente::LireDifficulte() {
     static constexpr QStringView kMot = u"difficulte-";
-    ChampPage &difficulte = liste(ListeDifficulte);
+    ChampPage &difficulte = Liste(ListeDifficulte);
     const bool lue = m_page.Lire(Difficulte, difficulte.texte);
     if (difficulte.texte.isEmpty()) {
         return;
     }
     difficulte.MontrerInfobulle();
     if (lue && difficulte.texte.contains(kMot)) {
-        const double numero = LireNombre(numeroDImage(difficulte.texte, kMot));
+        const double numero = LireNombre(NumeroDImage(difficulte.texte, kMot));
         // The second class, "Très Facile", is one that pages do not know.
         for (std::size_t classe = 1; classe <= 4; ++classe) {
             if (numero == double(classe)) {
@@ -164,18 +164,18 @@ void LecteurCommente::lireDifficulte() {
     }
 }
 
-void LecteurCommente::lireDurees() {
+void LecteurCommente::LireDurees() {
     ChampPage &preparation = m_page.champs.DReal;
     m_repassesPreparation.Passer(preparation.texte, m_page.Lire(Preparation, preparation.texte));
     preparation.MontrerInfobulle();
-    ChampPage &cuisson = liste(ListeCuisson);
+    ChampPage &cuisson = Liste(ListeCuisson);
     m_repassesCuisson.Passer(cuisson.texte, m_page.Lire(Cuisson, cuisson.texte));
     cuisson.MontrerInfobulle();
 }
 
-void LecteurCommente::lireTypeDePlat() {
+void LecteurCommente::LireTypeDePlat() {
     static constexpr QStringView kMot = u"type-";
-    ChampPage &type = liste(ListeTypeDePlat);
+    ChampPage &type = Liste(ListeTypeDePlat);
     m_page.ChoisirCategorie();
     if (!type.texte.isEmpty()) {
         return;
@@ -183,7 +183,7 @@ void LecteurCommente::lireTypeDePlat() {
     m_page.Lire(TypeDePlat, type.texte);
     type.MontrerInfobulle();
     if (type.texte.contains(kMot)) {
-        const double numero = LireNombre(numeroDImage(type.texte, kMot));
+        const double numero = LireNombre(NumeroDImage(type.texte, kMot));
         for (std::size_t i = 0; i < kTypesDePlat.size(); ++i) {
             if (numero == double(i + 1)) {
                 type.texte = kTypesDePlat[i].toString();
@@ -192,15 +192,15 @@ void LecteurCommente::lireTypeDePlat() {
     }
 }
 
-void LecteurCommente::lirePersonnes() {
+void LecteurCommente::LirePersonnes() {
     if (m_page.LigneTient(m_page.SectionDe(Personnes).Debut())) {
-        ChampPage &personnes = liste(ListePersonnes);
+        ChampPage &personnes = Liste(ListePersonnes);
         m_page.Lire(Personnes, personnes.texte);
         personnes.MontrerInfobulle();
     }
 }
 
-void LecteurCommente::lireIngredients() {
+void LecteurCommente::LireIngredients() {
     // Drops the lines of the list's own tags, and any other in which the letters occur.
     if (m_page.dansIngredients && !m_page.LigneTient(u"DL") && !m_page.LigneTient(u"DD") &&
         !m_page.LigneTient(u"UL")) {
@@ -211,12 +211,12 @@ void LecteurCommente::lireIngredients() {
         m_page.dansIngredients = true;
     }
     if (m_page.LigneTient(m_page.SectionDe(Ingredients).Fin())) {
-        fermerIngredients();
+        FermerIngredients();
     }
 }
 
 /// What stands before the end tag on the closing line counts a second time when that line was collected.
-void LecteurCommente::fermerIngredients() {
+void LecteurCommente::FermerIngredients() {
     const QStringView ligne = m_page.Ligne().texte;
     for (const QStringView balise : {u"</DT>", u"</LI>"}) {
         const qsizetype position = Position(ligne, balise);
@@ -229,7 +229,7 @@ void LecteurCommente::fermerIngredients() {
     m_page.dansIngredients = false;
 }
 
-void LecteurCommente::lireMethode() {
+void LecteurCommente::LireMethode() {
     if (!m_page.LigneTient(m_page.SectionDe(Methode).Fin())) {
         return;
     }
@@ -247,7 +247,7 @@ void LecteurCommente::lireMethode() {
     methode.MontrerInfobulle();
 }
 
-void LecteurCommente::lireAstuces() {
+void LecteurCommente::LireAstuces() {
     QString &complements = m_page.champs.Saisie[SaisieComplements].texte;
     if (m_page.DansAstuces() && complements.isEmpty()) {
         complements = m_page.LireAstuce();

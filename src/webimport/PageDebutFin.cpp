@@ -63,7 +63,7 @@ constexpr QStringView kTiret = u"- ";
 constexpr std::size_t kImagesAuPlus = 4;
 
 /// How often a picture is repeated. One at the very first position does not count.
-std::size_t compterImages(QStringView texte, QStringView image) {
+std::size_t CompterImages(QStringView texte, QStringView image) {
     std::size_t nombre = 0;
     for (qsizetype p = Position(texte, image, 2); p > 0; p = Position(texte, image, p + 2)) {
         ++nombre;
@@ -79,18 +79,18 @@ public:
     ChampsPage Lire() {
         while (m_page.LigneSuivante()) {
             // Several sections may lie on one line, and each step sees what those before it have read.
-            lireTitre();
+            LireTitre();
             m_page.LireImage(Image);
-            lireNiveau(Cout, ListeCout, u"images/cout", std::span(store::Cout).subspan<1>());
-            lireNiveau(Difficulte, ListeDifficulte, u"images/diff",
+            LireNiveau(Cout, ListeCout, u"images/cout", std::span(store::Cout).subspan<1>());
+            LireNiveau(Difficulte, ListeDifficulte, u"images/diff",
                        std::span(store::Difficulte).subspan<2>());
-            lireDurees();
+            LireDurees();
             m_page.LireVin(Vin);
-            lireTypeDePlat();
-            lirePersonnes();
-            lireIngredients();
-            lireMethode();
-            lireAstuces();
+            LireTypeDePlat();
+            LirePersonnes();
+            LireIngredients();
+            LireMethode();
+            LireAstuces();
         }
         if (m_methodeLue) {
             ChampPage &methode = m_page.champs.Saisie[SaisieMethode];
@@ -101,19 +101,19 @@ public:
     }
 
 private:
-    void lireTitre();
-    void lireNiveau(std::size_t section, IndiceListe champ, QStringView image,
+    void LireTitre();
+    void LireNiveau(std::size_t section, IndiceListe champ, QStringView image,
                     std::span<const QStringView> mots);
-    void lireDurees();
-    void lireTypeDePlat();
-    void lirePersonnes();
-    void lireIngredients();
-    void collecterIngredients();
-    void lireMethode();
-    void lireMethodeSansBord();
-    void lireAstuces();
+    void LireDurees();
+    void LireTypeDePlat();
+    void LirePersonnes();
+    void LireIngredients();
+    void CollecterIngredients();
+    void LireMethode();
+    void LireMethodeSansBord();
+    void LireAstuces();
 
-    ChampPage &liste(IndiceListe i) { return m_page.champs.Liste[i]; }
+    ChampPage &Liste(IndiceListe i) { return m_page.champs.Liste[i]; }
 
     Extraction m_page;
     MemoireImport &m_memoire;
@@ -124,7 +124,7 @@ private:
     bool m_methodeLue = false;
 };
 
-void LecteurDebutFin::lireTitre() {
+void LecteurDebutFin::LireTitre() {
     QString &titre = m_page.champs.TitreRecette.texte;
     const qsizetype saut = m_page.Lire(Titre, titre) ? Position(titre, u"<BR>") : 0;
     if (saut == 0) {
@@ -144,45 +144,45 @@ void LecteurDebutFin::lireTitre() {
 }
 
 /// The level of cost or difficulty is the number of times that its picture is repeated.
-void LecteurDebutFin::lireNiveau(std::size_t section, IndiceListe champ, QStringView image,
+void LecteurDebutFin::LireNiveau(std::size_t section, IndiceListe champ, QStringView image,
                                  std::span<const QStringView> mots) {
-    ChampPage &niveau = liste(champ);
+    ChampPage &niveau = Liste(champ);
     const bool lu = m_page.Lire(section, niveau.texte);
     if (niveau.texte.isEmpty()) {
         return;
     }
     niveau.MontrerInfobulle();
-    const std::size_t nombre = lu ? compterImages(niveau.texte, image) : 0;
+    const std::size_t nombre = lu ? CompterImages(niveau.texte, image) : 0;
     if (nombre >= 1 && nombre <= kImagesAuPlus) {
         niveau.texte = mots[nombre - 1].toString();
     }
 }
 
-void LecteurDebutFin::lireDurees() {
+void LecteurDebutFin::LireDurees() {
     ChampPage &preparation = m_page.champs.DReal;
     const bool lue = m_page.Lire(Preparation, preparation.texte);
     if (!preparation.texte.isEmpty()) {
         m_repassesPreparation.Passer(preparation.texte, lue);
         preparation.MontrerInfobulle();
     }
-    ChampPage &cuisson = liste(ListeCuisson);
+    ChampPage &cuisson = Liste(ListeCuisson);
     m_repassesCuisson.Passer(cuisson.texte, m_page.Lire(Cuisson, cuisson.texte));
     cuisson.MontrerInfobulle();
 }
 
 /// This layout has no section for the dish type: unless the address has named it by then, the title fills it.
-void LecteurDebutFin::lireTypeDePlat() {
-    m_page.Lire(Titre, liste(ListeTypeDePlat).texte);
+void LecteurDebutFin::LireTypeDePlat() {
+    m_page.Lire(Titre, Liste(ListeTypeDePlat).texte);
     m_page.ChoisirCategorie();
 }
 
-void LecteurDebutFin::lirePersonnes() {
-    ChampPage &personnes = liste(ListePersonnes);
+void LecteurDebutFin::LirePersonnes() {
+    ChampPage &personnes = Liste(ListePersonnes);
     m_page.Lire(Personnes, personnes.texte);
     personnes.MontrerInfobulle();
 }
 
-void LecteurDebutFin::lireIngredients() {
+void LecteurDebutFin::LireIngredients() {
     const Section &section = m_page.SectionDe(Ingredients);
     const bool ouvre = m_page.LigneTient(section.Debut());
     // Before the collecting: what stands behind the marker belongs to it.
@@ -192,7 +192,7 @@ void LecteurDebutFin::lireIngredients() {
     if (m_page.dansIngredients &&
         std::none_of(kHorsIngredients.begin(), kHorsIngredients.end(),
                      [this](QStringView balise) { return m_page.LigneTient(balise); })) {
-        collecterIngredients();
+        CollecterIngredients();
     }
     // All on the line of the persons, with line breaks in between.
     if (ouvre && m_page.LigneTient(m_page.SectionDe(Personnes).Fin())) {
@@ -210,7 +210,7 @@ void LecteurDebutFin::lireIngredients() {
     }
 }
 
-void LecteurDebutFin::collecterIngredients() {
+void LecteurDebutFin::CollecterIngredients() {
     const QStringView ligne = m_page.Ligne().texte;
     TexteIngredients &texte = m_page.ingredients;
     for (const QStringView balise : {u"</LI>", u"</DT>"}) {
@@ -234,7 +234,7 @@ void LecteurDebutFin::collecterIngredients() {
     texte.Ajouter(reste);
 }
 
-void LecteurDebutFin::lireMethode() {
+void LecteurDebutFin::LireMethode() {
     const Section &section = m_page.SectionDe(Methode);
     const bool ouvre = m_page.Ligne().majuscules.contains(section.DebutEnMajuscules());
     const bool ferme = m_page.Ligne().majuscules.contains(section.FinEnMajuscules());
@@ -244,7 +244,7 @@ void LecteurDebutFin::lireMethode() {
     m_page.etapes.Collecter(m_page.AvantLaFin(Methode), {kImageGif, kFinImageGif, true});
     m_methodeLue = true;
     if (m_page.etapes.Texte().isEmpty() && m_memoire.methodeOuverte) {
-        lireMethodeSansBord();
+        LireMethodeSansBord();
     }
     if (ouvre || ferme) {
         m_memoire.methodeOuverte = !ferme;
@@ -252,7 +252,7 @@ void LecteurDebutFin::lireMethode() {
 }
 
 /// The other form of the steps, in which the text behind a line break in the last one is the tip.
-void LecteurDebutFin::lireMethodeSansBord() {
+void LecteurDebutFin::LireMethodeSansBord() {
     const LigneLue explication = m_page.AvantLaFin(Methode);
     const qsizetype posEtape = m_page.etapes.Collecter(explication, {kSansBord, kSansBord, false});
     if (posEtape == 1) {
@@ -267,7 +267,7 @@ void LecteurDebutFin::lireMethodeSansBord() {
     }
 }
 
-void LecteurDebutFin::lireAstuces() {
+void LecteurDebutFin::LireAstuces() {
     if (m_page.DansAstuces()) {
         m_page.champs.Saisie[SaisieComplements].texte = m_page.LireAstuce();
         m_page.QuitterAstuces();

@@ -33,7 +33,7 @@ struct Remplacement {
     QStringView par;
 };
 
-/// Replaces every occurrence, in time proportional to the text. Tells whether there was one.
+/// Replaces every occurrence, in time proportional to the text. True if there was one.
 bool Remplacer(QString &texte, const Remplacement &remplacement);
 
 /// Finds the occurrences of a text from positions that only grow. No character is searched twice, where a new
@@ -53,7 +53,7 @@ private:
 };
 
 /// Replacements that run on a field at every line of a page. Having found nothing they rest until the field
-/// is filled anew; so a long field costs the page's lines nothing.
+/// is filled again; so a long field costs the page's lines nothing.
 class Repasses {
 public:
     /// @param remplacements must outlive the object

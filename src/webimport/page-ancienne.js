@@ -1,5 +1,5 @@
 // The page in the form for which the pages of the partner's site are made, and in which their markers are searched:
-// that of an old browser control, as its innerHTML gives it for the document element. The value of this script is the
+// that of a classic browser control, as its innerHTML gives it for the document element. The value of this script is the
 // function; called with document.documentElement, in any world of the page, it returns the text and changes nothing.
 //
 // Rules

@@ -1,16 +1,14 @@
-// Kills a program that is changing a recipe, again and again, and looks after each kill whether the book opens and
-// holds every change whose button had changed. Usage: editions_tuees [number of changes, 500 by default]
+// Kills a program that changes a recipe at each of its waits for the disk, and looks after each kill whether the book
+// opens and holds the former value or the new one; the new one, once the window has gone on.
 
+#include "KilledAtWait.h"
 #include "LivreEssai.h"
 
 #include "browser/Fiche.h"
 #include "platform/richtext/RichText.h"
 
 #include <QApplication>
-#include <QProcess>
-#include <QRandomGenerator>
 
-#include <algorithm>
 #include <array>
 #include <cstdio>
 
@@ -57,98 +55,37 @@ QString stored(const Kind &kind) {
     return platform::richtext::plainText(LivreEssai::text(kind.query));
 }
 
-void say(const char *word, std::size_t kind, const QString &value) {
-    std::printf("%s %zu %s\n", word, kind, qPrintable(value));
-    std::fflush(stdout);
-}
-
-/// The program that is killed: changes the book of a folder for ever.
-[[noreturn]] void edit(const QString &folder, int firstTurn) {
-    store::DefinirDossierProgramme(folder);
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder + u"/reglages"_qs);
-    Frmmain frm;
-    openView(frm, 0);
-    for (int turn = firstTurn;; ++turn) {
-        const std::size_t kind = static_cast<std::size_t>(turn) % kKinds.size();
-        const QString value = u"essai-%1"_qs.arg(turn);
-        say("try", kind, value);
-        kKinds.at(kind).change(frm, value);
-        say("done", kind, value);
-    }
-}
-
-/// What the killed program has said of one kind of change: the last one done, and the one that it was at.
-struct Claim {
-    QString done, tried;
-};
-
-using Claims = std::array<Claim, kKinds.size()>;
-
-/// Lets the editor run for some time and kills it. Gives the number of changes done, -1 if it did not even try one.
-int killOnce(const QString &folder, int firstTurn, Claims &claims) {
-    QProcess editor;
-    editor.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    editor.start(QCoreApplication::applicationFilePath(), {u"--edit"_qs, folder, QString::number(firstTurn)});
-    editor.waitForReadyRead();
-    editor.waitForFinished(QRandomGenerator::global()->bounded(10, 300));
-    editor.kill();
-    editor.waitForFinished();
-    int done = -1;
-    for (const QByteArray &line : editor.readAllStandardOutput().split('\n')) {
-        const QList<QByteArray> words = line.split(' ');
-        if (words.size() < 3) {
-            continue;
-        }
-        done = std::max(done, 0);
-        Claim &claim = claims.at(words[1].toUInt());
-        claim.tried = QString::fromUtf8(words[2]);
-        if (words[0] == "done") {
-            claim.done = claim.tried;
-            ++done;
-        }
-    }
-    return done;
-}
-
-bool holds(const Kind &kind, const Claim &claim) {
-    const QString value = stored(kind);
-    if (value == claim.done || value == claim.tried) {
-        return true;
-    }
-    std::fprintf(stderr, "« %s » stored, « %s » shown\n", qPrintable(value), qPrintable(claim.done));
-    return false;
-}
-
 } // namespace
 
 int main(int argc, char *argv[]) {
-    QApplication application(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.value(1) == u"--edit") {
-        edit(arguments.value(2), arguments.value(3).toInt());
-    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     const LivreEssai book;
     LivreEssai::addTarte();
     LivreEssai::execute({u"INSERT INTO Ingre VALUES (1, 1, 1, 1)"_qs});
-    const int wanted = arguments.size() > 1 ? arguments[1].toInt() : 500;
-    int done = 0;
+    const QByteArray before = LivreEssai::bytes();
+    const QString fresh = u"essai"_qs;
     int kills = 0;
-    while (done < wanted) {
-        Claims claims;
-        for (std::size_t kind = 0; kind < kKinds.size(); ++kind) {
-            claims.at(kind).done = claims.at(kind).tried = stored(kKinds.at(kind));
-        }
-        const int round = killOnce(book.path({}), done + kills, claims);
-        if (round < 0) {
-            std::fputs("the editor did not start\n", stderr);
-            return EXIT_FAILURE;
-        }
-        done += round;
-        ++kills;
-        if (!std::equal(kKinds.begin(), kKinds.end(), claims.begin(), holds)) {
-            return EXIT_FAILURE;
+    for (const Kind &kind : kKinds) {
+        writeFile(store::CheminBase(), before);
+        const QString former = stored(kind);
+        bool ended = false;
+        for (int wait = 0; !ended; ++wait) {
+            ended = survives(before, [&] {
+                const QApplication application(argc, argv);
+                Frmmain frm;
+                openView(frm, 0);
+                waitsLeft() = wait;
+                kind.change(frm, fresh);
+                _exit(EXIT_SUCCESS);
+            });
+            const QString value = stored(kind);
+            if (value != fresh && (ended || value != former)) {
+                std::fprintf(stderr, "« %s » stored at wait %d\n", qPrintable(value), wait);
+                return EXIT_FAILURE;
+            }
+            kills += ended ? 0 : 1;
         }
     }
-    std::printf("%d changes, %d kills\n", done, kills);
-    return EXIT_SUCCESS;
+    std::printf("%d kills\n", kills);
+    return kills > int(2 * kKinds.size()) ? EXIT_SUCCESS : EXIT_FAILURE;
 }

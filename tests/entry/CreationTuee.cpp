@@ -1,48 +1,18 @@
 // Kills a process that saves a recipe at each of its waits for the disk, of which every commit has some, and looks
 // after each kill whether the book opens and what it holds is whole.
 
+#include "KilledAtWait.h"
 #include "Lignes.h"
 #include "LivreEssai.h"
 
 #include "store/CreationRecette.h"
 
 #include <algorithm>
-#include <csignal>
 #include <cstdio>
-#include <cstdlib>
-#include <sys/syscall.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace {
 
 constexpr int kCommits = 13;
-
-/// Waits for the disk that are left before the kill; none is counted below zero.
-int &waitsLeft() {
-    static int left = -1;
-    return left;
-}
-
-int waitFor(long call, int file) {
-    if (waitsLeft() >= 0 && waitsLeft()-- == 0) {
-        std::raise(SIGKILL);
-    }
-    return static_cast<int>(syscall(call, file));
-}
-
-} // namespace
-
-// The engine's calls come here, since a program's own functions go before those of the libraries.
-extern "C" int fdatasync(int file) {
-    return waitFor(SYS_fdatasync, file);
-}
-
-extern "C" int fsync(int file) {
-    return waitFor(SYS_fsync, file);
-}
-
-namespace {
 
 /// Every text is new, so each makes a row.
 void save() {
@@ -52,19 +22,6 @@ void save() {
     recipe.preparation = QString(10'000, u'p');
     recipe.lignes = {{u"1"_qs, u"l"_qs, u"Eau"_qs}, {u"2"_qs, u"g"_qs, u"Sel"_qs}};
     store::EnregistrerRecette(recipe, store::kSaisieManuelle, [](const QString &name) { return name; });
-}
-
-/// Saves in a process of its own, which dies at one of its waits; true when it came to the end before.
-bool saveAndDie(int wait) {
-    const pid_t child = fork();
-    if (child == 0) {
-        waitsLeft() = wait;
-        save();
-        _exit(EXIT_SUCCESS);
-    }
-    int state = 0;
-    waitpid(child, &state, 0);
-    return WIFEXITED(state);
 }
 
 /// The rows of all tables, those that others refer to first.
@@ -96,13 +53,6 @@ bool isWhole(const QList<QStringList> &book, const QList<QStringList> &complete)
     return true;
 }
 
-void setBook(const QByteArray &bytes) {
-    QFile::remove(store::CheminBase() + u"-journal"_qs);
-    QFile file(store::CheminBase());
-    file.open(QIODevice::WriteOnly);
-    file.write(bytes);
-}
-
 } // namespace
 
 int main() {
@@ -112,8 +62,10 @@ int main() {
     const QList<QStringList> complete = tables();
     int wait = 0;
     for (bool ended = false; !ended; ++wait) {
-        setBook(empty);
-        ended = saveAndDie(wait);
+        ended = survives(empty, [wait] {
+            waitsLeft() = wait;
+            save();
+        });
         const QList<QStringList> left = tables();
         if (!isWhole(left, complete) || (ended && left != complete)) {
             std::fprintf(stderr, "killed at wait %d\n", wait);

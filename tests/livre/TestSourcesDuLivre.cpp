@@ -49,7 +49,7 @@ private Q_SLOTS:
         const auto mistakes = std::to_array<Mistake>({
             {u"Personnes :"_s, u"Convives :"_s, u":4: unknown field \"Convives\""_s},
             {u"Personnes : "_s, u"Vin : "_s, u":8: the field \"Vin\" is there already"_s},
-            {u"Personnes : 6 personnes\n"_s, {}, u": the field \"Personnes\" is missing"_s},
+            {u"Personnes : 6 personnes\n"_s, {}, u":51: the field \"Personnes\" is missing"_s},
             {u"cl de | lait"_s, u"bols de | lait"_s, u":13: \"bols de\" is not in the vocabulary Mesure"_s},
             {u"Dessin : gratin-dauphinois"_s, u"Dessin : gratin"_s, u":9: no picture "_s},
             {u"**3 mm**"_s, u"**3 mm"_s, u":23: a * or ** of this paragraph is not closed"_s},

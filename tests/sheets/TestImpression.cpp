@@ -115,16 +115,16 @@ private Q_SLOTS:
         for (const Word &word : words) {
             read += word.text.startsWith(u"..") ? u"..."_qs : word.text;
         }
-        QStringList expected{u"Aïoli Coût Peu Cher Difficulté Facile Conseil en Vin Chinon Durée de Cuisson "
-                             "10 minutes Nombre de Personnes 4 personnes Type de Plat Entrée froide "
-                             "Ingrédients"_qs};
+        QString expected =
+            u"Aïoli Coût Peu Cher Difficulté Facile Conseil en Vin Chinon Durée de Cuisson "
+            "10 minutes Nombre de Personnes 4 personnes Type de Plat Entrée froide Ingrédients "_qs;
         for (int i = 8; i >= 1; --i) {
-            expected += u"125 grammes Ingrédient%1"_qs.arg(i);
+            expected += u"125 grammes Ingrédient%1 "_qs.arg(i);
         }
         expected +=
             u"... ... ... Préparation Piler l'ail, afin qu'il prenne. Durée de Réalisation 25 minutes "
-            "Compléments Servir très frais."_qs;
-        QCOMPARE(read.join(u' '), expected.join(u' '));
+            "Compléments Servir très frais.";
+        QCOMPARE(read, expected.split(u' '));
         for (const auto &[field, first] :
              {std::pair(Champ::Cout, u"Peu"_qs), std::pair(Champ::Mesure, u"grammes"_qs),
               std::pair(Champ::Prepa, u"Piler"_qs), std::pair(Champ::Deco, u"Servir"_qs)}) {

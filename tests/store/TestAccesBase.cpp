@@ -34,12 +34,8 @@ private Q_SLOTS:
     void choicesAreTrimmedTextsInOrderAndTheDots() {
         QCOMPARE(ChargerCombo(kIngredient), QStringList());
 
-        executer(u"INSERT INTO Ingredient VALUES (1, ' '), (2, NULL), (3, '')"_qs);
-        QCOMPARE(ChargerCombo(kIngredient), QStringList{LignePointillee.toString()});
-
-        executer(
-            u"INSERT INTO Ingredient VALUES (4, 'Sel '), (5, 'épice'), (6, '<B>Pâte :</B>'), (7, 'x<I>'),"
-            "(8, 'farine'), (9, '<b>eau')"_qs);
+        executer(u"INSERT INTO Ingredient VALUES (1, ' '), (2, NULL), (3, ''), (4, 'Sel '), (5, 'épice'), "
+                 "(6, '<B>Pâte :</B>'), (7, 'x<I>'), (8, 'farine'), (9, '<b>eau')"_qs);
         QCOMPARE(ChargerCombo(kIngredient), (QStringList{u"<b>eau"_qs, u"épice"_qs, u"farine"_qs, u"Sel"_qs,
                                                          LignePointillee.toString()}));
     }
@@ -72,13 +68,13 @@ private Q_SLOTS:
         executer(u"INSERT INTO Verre VALUES (4, 'quatre', 'a', 'b', NULL)"_qs);
         ModifierLibelle(kVerre, 4, u"l'hôte"_qs);
         QCOMPARE(rowsOf(u"SELECT * From Verre"_qs, 5), QStringList{u"4|l'hôte|a|b|-"_qs});
-        QVERIFY_EXCEPTION_THROWN(ModifierLibelle(kVerre, 5, u"x"_qs), DatabaseError);
+        QVERIFY_THROWS_EXCEPTION(DatabaseError, ModifierLibelle(kVerre, 5, u"x"_qs));
         OuvrirLivre();
     }
 
     void emptyValueBecomesABlankUnlessGuarded() {
         executer(u"INSERT INTO Cocktails (Numero, Photo, Cout) VALUES (3, 'a.jpg', 1)"_qs);
-        const auto photoEtCout = [] { return rowsOf(u"SELECT Photo, Cout From Cocktails"_qs, 2).join(u' '); };
+        const auto photoEtCout = [] { return rowsOf(u"SELECT Photo, Cout From Cocktails"_qs, 2).value(0); };
         ModifierSiRenseigne(3, ChampRecette::Photo, {});
         QCOMPARE(photoEtCout(), u"a.jpg|1"_qs);
         ModifierChamp(3, ChampRecette::Photo, QString());
@@ -89,17 +85,20 @@ private Q_SLOTS:
     void replacedLineComesFirst() {
         struct Cas {
             LigneIngre ancienne, nouvelle;
-            QString attendu;
+            QStringList attendu;
         };
 
+        const QString deux = u"7|20|2|2"_qs;
+        const QString trois = u"7|30|3|3"_qs;
+
         const auto cas = std::to_array<Cas>({
-            {{1, 1, 10}, {5, 1, 10}, u"7|10|5|1 7|30|3|3 7|20|2|2 7|20|2|2"_qs},
-            {{1, 1, 10}, {1, 1, 10}, u"7|10|1|1 7|30|3|3 7|20|2|2 7|20|2|2"_qs}, // moves up
+            {{1, 1, 10}, {5, 1, 10}, {u"7|10|5|1"_qs, trois, deux, deux}},
+            {{1, 1, 10}, {1, 1, 10}, {u"7|10|1|1"_qs, trois, deux, deux}}, // moves up
             // One of two equal lines goes, the other is enough.
-            {{2, 2, 20}, {2, 2, 20}, u"7|30|3|3 7|20|2|2 7|10|1|1"_qs},
-            {{1, 1, 10}, {3, 3, 30}, u"7|30|3|3 7|20|2|2 7|20|2|2"_qs}, // merged into another
+            {{2, 2, 20}, {2, 2, 20}, {trois, deux, u"7|10|1|1"_qs}},
+            {{1, 1, 10}, {3, 3, 30}, {trois, deux, deux}}, // merged into another
             // No such line: only added.
-            {{9, 9, 90}, {4, 4, 40}, u"7|40|4|4 7|30|3|3 7|20|2|2 7|20|2|2 7|10|1|1"_qs},
+            {{9, 9, 90}, {4, 4, 40}, {u"7|40|4|4"_qs, trois, deux, deux, u"7|10|1|1"_qs}},
         });
 
         for (const auto &[ancienne, nouvelle, attendu] : cas) {
@@ -107,8 +106,7 @@ private Q_SLOTS:
             executer(
                 u"INSERT INTO Ingre VALUES (7, 10, 1, 1), (7, 20, 2, 2), (7, 20, 2, 2), (7, 30, 3, 3), (8, 1, 1, 1)"_qs);
             RemplacerLigneIngre(7, ancienne, nouvelle);
-            QCOMPARE(rowsOf(u"SELECT * From Ingre where Numero = 7 order by Numero desc"_qs, 4).join(u' '),
-                     attendu);
+            QCOMPARE(rowsOf(u"SELECT * From Ingre where Numero = 7 order by Numero desc"_qs, 4), attendu);
         }
         QCOMPARE(rowsOf(u"SELECT * From Ingre where Numero = 8"_qs, 1).size(), 5);
     }
@@ -148,7 +146,7 @@ private Q_SLOTS:
         executer(u"INSERT INTO Ingredient VALUES (1, 'Sel'), (2, 'épice d''été'), (5, 'SEL'), (9, ' ')"_qs);
         for (const auto &[texte, numero, ajoutee] : cas) {
             QCOMPARE(RechercherNumero(texte, kIngredient).value_or(-5), numero);
-            QCOMPARE(rowsOf(u"SELECT * From Ingredient"_qs, 2).mid(4).join(u' '), ajoutee);
+            QCOMPARE(rowsOf(u"SELECT * From Ingredient"_qs, 2).value(4), ajoutee);
             SupprimerFiches(kIngredient, 10);
         }
     }

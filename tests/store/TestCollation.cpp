@@ -38,7 +38,9 @@ private Q_SLOTS:
             const QStringList ranks = texts.split(u'<');
             for (int i = 0; i < ranks.size(); ++i) {
                 for (int j = 0; j < ranks.size(); ++j) {
-                    checkAll(ranks[i].split(u'='), ranks[j].split(u'='), i - j);
+                    for (const QString &left : ranks[i].split(u'=')) {
+                        check(left.toStdString(), ranks[j].section(u'=', -1).toStdString(), i - j);
+                    }
                 }
             }
         }
@@ -63,14 +65,6 @@ private Q_SLOTS:
     }
 
 private:
-    static void checkAll(const QStringList &lefts, const QStringList &rights, int expected) {
-        for (const QString &left : lefts) {
-            for (const QString &right : rights) {
-                check(left.toStdString(), right.toStdString(), expected);
-            }
-        }
-    }
-
     static int sign(int number) { return (number > 0) - (number < 0); }
 
     static void check(const std::string &left, const std::string &right, int expected) {

@@ -115,7 +115,7 @@ private Q_SLOTS:
             livre.Execute(u"CREATE TABLE Quantite (NQuantite INTEGER PRIMARY KEY, Autre TEXT)"_qs);
             livre.SetUserVersion(version);
         }
-        QVERIFY_EXCEPTION_THROWN(OuvrirLivre(), DatabaseError);
+        QVERIFY_THROWS_EXCEPTION(DatabaseError, OuvrirLivre());
         auto livre = Brut();
         QCOMPARE(livre.UserVersion(), version);
         QCOMPARE(livre.OpenRecordset(u"SELECT name FROM sqlite_master WHERE name = 'Verre'"_qs).RecordCount(),

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QListView>
 #include <QTimer>
 #include <QWidget>
 
@@ -27,4 +30,16 @@ std::unique_ptr<QTimer> in(Function act) {
         auto *window = qobject_cast<Window *>(QApplication::activeModalWidget());
         return window != nullptr && act(*window);
     });
+}
+
+/// Gives a file dialog a file, or cancels it. By its field: selectFile() leaves that alone while it has the focus. In a
+/// window without the keyboard, a selected row goes before what the field holds.
+inline void chooseIn(QFileDialog &dialog, const QString &file) {
+    if (file.isEmpty()) {
+        dialog.reject();
+        return;
+    }
+    dialog.findChild<QListView *>(QStringLiteral("listView"))->clearSelection();
+    dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->setText(file);
+    static_cast<QDialog &>(dialog).accept();
 }

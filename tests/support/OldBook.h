@@ -6,6 +6,8 @@
 #include <QString>
 #include <QtEndian>
 
+#include <array>
+
 /// Writes a file in the format of Jet 4. Sources: the description of the format that comes with mdbtools
 /// (HACKING.md), and what its library reads; the rest of each page stays zero.
 class Jet4Writer {
@@ -29,18 +31,12 @@ public:
 
     template <typename Number>
     static QByteArray number(Number value) {
-        QByteArray bytes(sizeof value, '\0');
-        qToLittleEndian(value, bytes.data());
-        return bytes;
+        return {reinterpret_cast<const char *>(&value), sizeof value};
     }
 
     /// A text as UTF-16.
     static QByteArray wide(const QString &text) {
-        QByteArray bytes;
-        for (const QChar character : text) {
-            bytes += number(character.unicode());
-        }
-        return bytes;
+        return {reinterpret_cast<const char *>(text.utf16()), 2 * text.size()};
     }
 
     /// A text in the compact form: single bytes and pairs by turns, with a zero between them.
@@ -79,6 +75,16 @@ public:
         m_catalog.append({{number(page), number(kTable), number(0), wide(name)}});
     }
 
+    /// The tables of a book but these, without rows.
+    void rest(const QStringList &present) {
+        for (const char *name : {"Cocktails", "Ingre", "Categorie", "DureeReal", "Verre", "Realisation",
+                                 "VIN", "Ingredient", "Quantite", "Mesure"}) {
+            if (!present.contains(QString::fromLatin1(name), Qt::CaseInsensitive)) {
+                table(QString::fromLatin1(name), {{u"N"_qs, Long}}, {});
+            }
+        }
+    }
+
     QByteArray file() {
         constexpr int kCatalogPage = 2;
         define(kCatalogPage, {{u"Id"_qs, Long}, {u"Type"_qs, Int}, {u"Flags"_qs, Long}, {u"Name"_qs, Text}},
@@ -93,9 +99,10 @@ private:
     static constexpr quint16 kStruck = 0x8000;
     static constexpr quint16 kPointer = 0x4000;
 
+    /// 0 for what is of no fixed size.
     static int sizeOf(Type type) {
-        return QMap<Type, int>{
-            {Bool, 1}, {Byte, 1}, {Int, 2}, {Long, 4}, {Money, 8}, {Float, 4}, {Double, 8}}[type];
+        constexpr std::array sizes{0, 1, 1, 2, 4, 8, 4, 8};
+        return std::size_t(type) < sizes.size() ? sizes.at(std::size_t(type)) : 0;
     }
 
     static QByteArray memoHead(qsizetype length, quint32 place) {
@@ -151,22 +158,21 @@ private:
 
     void define(int page, const QList<Column> &columns, const QList<Row> &rows) {
         const QByteArray owner = number(page);
-        QList<quint32> bodies;
+        QByteArrayList heads; // what stands in the order of the rows: the row, or a pointer to it
         for (const Row &row : rows) {
-            const bool moved = row.place == Moved || row.place == MovedTwice;
-            bodies += moved ? add(owner, stored(columns, row.cells), kStruck) : 0;
+            heads += stored(columns, row.cells);
+            if (row.place == Moved || row.place == MovedTwice) {
+                heads.last() = number(add(owner, heads.last(), kStruck));
+            }
             if (row.place == MovedTwice) {
-                bodies.last() = add(owner, number(bodies.last()), kStruck | kPointer);
+                heads.last() = number(add(owner, heads.last(), kStruck | kPointer));
             }
         }
         quint32 count = 0;
         for (int i = 0; i < rows.size(); ++i) {
+            constexpr std::array<quint16, 4> kFlags{0, kStruck, kPointer, kPointer};
+            add(owner, heads[i], kFlags.at(rows[i].place));
             count += rows[i].place == Struck ? 0 : 1;
-            if (bodies[i] != 0) {
-                add(owner, number(bodies[i]), kPointer);
-            } else {
-                add(owner, stored(columns, rows[i].cells), rows[i].place == Struck ? kStruck : 0);
-            }
         }
         // All pages up to here: a map may name those of others too.
         const auto bits = m_pages.size();
@@ -214,7 +220,6 @@ inline QByteArray oldBook() {
     const auto recipe = [&](int number, const QByteArray &title, const QByteArray &method) {
         return QByteArrayList{W::number(number), title, method, null, null, null, null, null, null};
     };
-    const QByteArray yes = "y";
     book.table(
         u"COCKTAILS"_qs,
         {{u"numero"_qs, W::Long},
@@ -227,7 +232,7 @@ inline QByteArray oldBook() {
          {u"difficulte"_qs, W::Float},
          {u"Teneur"_qs, W::Double}},
         {{{W::number(7), W::compact(u"Œufs d'été à l'ail"_qs), W::memo(W::compact(u"Cuire."_qs)),
-           W::number(quint8(200)), W::number(qint16(-1)), yes, W::number(qint64(50'000)), W::number(3.0F),
+           W::number(quint8(200)), W::number(qint16(-1)), "yes", W::number(qint64(50'000)), W::number(3.0F),
            W::number(4e9)},
           W::MovedTwice},
          {recipe(9, W::wide(u"Struck"_qs), null), W::Struck},
@@ -239,9 +244,6 @@ inline QByteArray oldBook() {
                 {{W::number(7), W::number(1)}},
                 {{W::number(5), null}, W::Struck},
                 {{W::number(5), null}}});
-    for (const char *name :
-         {"Categorie", "DureeReal", "Verre", "Realisation", "VIN", "Ingredient", "Quantite", "Mesure"}) {
-        book.table(QString::fromLatin1(name), {{u"N"_qs + QString::fromLatin1(name), W::Long}}, {});
-    }
+    book.rest({u"COCKTAILS"_qs, u"Ingre"_qs});
     return book.file();
 }

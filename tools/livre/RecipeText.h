@@ -13,7 +13,7 @@ struct IngredientText {
     SourceText ingredient;
 };
 
-/// A recipe as its source file has it; main.cpp tells the format.
+/// A recipe as its source file has it; the format is described in main.cpp.
 struct RecipeText {
     SourceText title;
     SourceText cookingTime;

@@ -16,7 +16,6 @@
 #include <QClipboard>
 #include <QCoreApplication>
 #include <QFile>
-#include <QFileInfo>
 #include <QGuiApplication>
 
 #include <new>
@@ -107,13 +106,12 @@ void Refleter(Acquisition &fenetre, Miroir miroir) {
 }
 
 /// Where the file dialogs start: at the file last opened, at first in the folder of pictures.
-QString Depart(const Acquisition &fenetre) {
-    QString dernier = fenetre.PhotoScan.Tag();
+dialogs::Start Depart(const Acquisition &fenetre) {
+    const QString dernier = fenetre.PhotoScan.Tag();
     if (!dernier.trimmed().isEmpty()) {
-        return dernier;
+        return dialogs::Start::at(dernier);
     }
-    QString images = store::DossierProgramme() + QStringLiteral("/image");
-    return QFileInfo(images).isDir() ? images : store::DossierProgramme();
+    return {store::DossierProgramme() + QStringLiteral("/image")};
 }
 
 /// @throws PictureError when it can't
@@ -185,9 +183,9 @@ bool SauverImage(Acquisition &fenetre) {
         filtre = QStringLiteral("Format Bitmap (*.bmp)|*.bmp");
         propose.replace(propose.size() - 3, 3, QStringLiteral("bmp"));
     }
-    const QString nom =
-        dialogs::ShowSave(&fenetre, QStringLiteral("Enregistrer l'image"), filtre,
-                          propose.isEmpty() ? Depart(fenetre) : propose, QStringLiteral("bmp"));
+    const QString nom = dialogs::ShowSave(&fenetre, QStringLiteral("Enregistrer l'image"), filtre,
+                                          propose.isEmpty() ? Depart(fenetre) : dialogs::Start::at(propose),
+                                          QStringLiteral("bmp"));
     if (nom.isEmpty()) {
         return false;
     }

@@ -16,6 +16,9 @@
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
+#include <array>
+#include <numeric>
+
 namespace platform::controls {
 
 namespace {
@@ -23,6 +26,26 @@ namespace {
 constexpr int kMargin = 2;    // pixels that bring the text where a text box has it
 constexpr int kMostRows = 10; // of an opened list that are seen at once
 constexpr Twips kRowHeight{285};
+
+/// The widths of single letters, in pixels. Kerning only brings letters closer, so no text is wider than their sum.
+class LetterWidths {
+public:
+    explicit LetterWidths(const QFontMetrics &metrics) : m_widest(metrics.maxWidth()) {
+        for (std::size_t letter = 0; letter < m_widths.size(); ++letter) {
+            m_widths[letter] = metrics.horizontalAdvance(QChar(static_cast<char16_t>(letter)));
+        }
+    }
+
+    int sum(const QString &text) const {
+        return std::accumulate(text.begin(), text.end(), 0, [this](int width, QChar letter) {
+            return width + (letter.unicode() < m_widths.size() ? m_widths[letter.unicode()] : m_widest);
+        });
+    }
+
+private:
+    std::array<int, 256> m_widths{};
+    int m_widest;
+};
 
 } // namespace
 
@@ -72,13 +95,11 @@ void DropBox::Open(QWidget *covered) {
 
 void DropBox::offerTyped(const QString &written) {
     if (m_typedOnTop) {
-        m_rows.removeRows(0, 1);
+        m_rows.RemoveFirst();
         m_typedOnTop = false;
     }
-    if (m_offersTyped && !written.trimmed().isEmpty() &&
-        findText(written, Qt::MatchExactly | Qt::MatchCaseSensitive) < 0) {
-        m_rows.insertRows(0, 1);
-        m_rows.setData(m_rows.index(0), written);
+    if (m_offersTyped && !written.trimmed().isEmpty() && !m_rows.Texts().contains(written)) {
+        m_rows.InsertFirst(written);
         m_typedOnTop = true;
     }
 }
@@ -87,8 +108,9 @@ void DropBox::offerTyped(const QString &written) {
 void DropBox::openAtText() {
     const QString written = currentText();
     const QSignalBlocker quiet(this);
+    m_rows.SetTexts(m_rows.Texts()); // a list made before learns of rows that were read since
     offerTyped(written);
-    setCurrentIndex(findText(written, Qt::MatchExactly | Qt::MatchCaseSensitive));
+    setCurrentIndex(static_cast<int>(m_rows.Texts().indexOf(written)));
     setEditText(written);
 }
 
@@ -111,11 +133,11 @@ void DropBox::showPopup() {
 
 int DropBox::longestRow(int limit) const {
     const QFontMetrics metrics = view()->fontMetrics();
-    const int widestLetter = metrics.horizontalAdvance(QLatin1Char('W'));
+    const LetterWidths letters(metrics);
     int longest = 0;
-    for (const QString &row : m_rows.stringList()) {
-        // Of thousands of rows few can be longer than the longest so far, and only those are measured.
-        if (row.size() * widestLetter > longest && !isDotted(row)) {
+    for (const QString &row : m_rows.Texts()) {
+        // Setting a row is slow: of thousands only those are measured whose letters alone are wider.
+        if (letters.sum(row) > longest && !isDotted(row)) {
             longest = std::max(longest, metrics.horizontalAdvance(row.left(limit)));
         }
         if (longest >= limit) {
@@ -159,15 +181,23 @@ bool DropBox::eventFilter(QObject *watched, QEvent *event) {
 
 void DropBox::Clear() {
     const QSignalBlocker quiet(this);
-    m_rows.setStringList({});
+    m_rows.SetTexts({});
     m_typedOnTop = false;
     clearEditText();
+}
+
+void DropBox::Refresh() {
+    const QSignalBlocker quiet(this);
+    const QString written = currentText();
+    m_rows.Refresh();
+    m_typedOnTop = false;
+    setEditText(written);
 }
 
 void DropBox::AddItems(const QStringList &texts) {
     const QSignalBlocker quiet(this);
     const QString written = currentText();
-    m_rows.setStringList(m_rows.stringList() + texts);
+    m_rows.SetTexts(m_rows.Texts() + texts);
     // The toolkit would choose the first row of a list that was empty.
     setCurrentIndex(-1);
     setEditText(written);
@@ -177,6 +207,16 @@ void DropBox::paintEvent(QPaintEvent *event) {
     QComboBox::paintEvent(event);
     QPainter painter(this);
     paintFocusRing(painter, *this);
+}
+
+/// Escape closes the proposals before it may leave the window.
+bool DropBox::event(QEvent *event) {
+    if (event->type() == QEvent::ShortcutOverride && m_proposals != nullptr && m_proposals->isVisible() &&
+        static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
+        event->accept();
+        return true;
+    }
+    return QComboBox::event(event);
 }
 
 void DropBox::keyPressEvent(QKeyEvent *event) {

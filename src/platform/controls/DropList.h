@@ -1,10 +1,10 @@
 #pragma once
 
+#include "ChoiceRows.h"
 #include "Placed.h"
 
 #include <QComboBox>
 #include <QPointer>
-#include <QStringListModel>
 
 namespace platform::controls {
 
@@ -23,6 +23,12 @@ public:
     void Clear();
     /// Appends rows; none of them is chosen by that.
     void AddItems(const QStringList &texts);
+
+    /// Has the rows read from a source at each Refresh, but not before they are asked for.
+    void SetSource(const ChoiceRows::Source &source) { m_rows.SetSource(source); }
+
+    /// Takes the rows anew from the source; the text stays.
+    void Refresh();
 
     int Count() const { return count(); }
 
@@ -60,6 +66,7 @@ Q_SIGNALS:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
@@ -73,7 +80,7 @@ private:
     void keepListInPanel();
     int longestRow(int limit) const;
 
-    QStringListModel m_rows;
+    ChoiceRows m_rows;
     RowDelegate *m_delegate = nullptr;  // once the list was opened
     QPointer<ProposalList> m_proposals; // belongs to the window
     QPointer<QWidget> m_covered;

@@ -51,7 +51,7 @@ public:
     /// Ground of the panel; transparent by default.
     void SetBackColor(const QColor &colour);
 
-    /// Paints the whole rectangle, corners too, so that painting it anew never paints what lies beneath.
+    /// Paints the whole rectangle, corners too, so that repainting it never paints what lies beneath.
     void SetSquare();
 
     /// Lets the keyboard reach the panel: Enter and the space bar click it, the menu key clicks it with the right button.

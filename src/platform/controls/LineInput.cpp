@@ -45,6 +45,7 @@ LineInput::LineInput(QLineEdit &box) : QValidator(&box), m_box(box), m_before(bo
 /// The toolkit asks at each change. A box counts as modified from an act of the user on until code sets its text.
 QValidator::State LineInput::validate(QString &text, int &caret) const {
     static const QRegularExpression lineEnd(QStringLiteral("\\r\\n|[\\n\\r\\x{2028}\\x{2029}]"));
+    static const QRegularExpression lastEnds(QStringLiteral("[\\n\\r\\x{2028}\\x{2029}]+$"));
     if (m_box.isModified() && text.contains(lineEnd)) {
         const qsizetype start = common(text.cbegin(), text.cend(), m_before.cbegin(), m_before.cend());
         const qsizetype most = std::min(text.size(), m_before.size()) - start;
@@ -52,6 +53,9 @@ QValidator::State LineInput::validate(QString &text, int &caret) const {
             std::min(most, common(text.crbegin(), text.crend(), m_before.crbegin(), m_before.crend()));
         QString brought = text.sliced(start, text.size() - start - behind);
         const qsizetype length = brought.size();
+        if (behind == 0) {
+            brought.remove(lastEnds);
+        }
         brought.replace(lineEnd, QStringLiteral(" "));
         text.replace(start, length, brought);
         caret -= static_cast<int>(length - brought.size());

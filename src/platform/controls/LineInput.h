@@ -7,8 +7,9 @@ class QLineEdit;
 
 namespace platform::controls {
 
-/// What the user brings into a box of one line, by whatever means, stays on one line: line ends become blanks, and
-/// files are refused. Texts set by code stay as they are. Belongs to the box.
+/// What the user brings into a box of one line, by whatever means, stays on one line: line ends become blanks, those that
+/// would end the text go, and files are refused. A copied line brings its end along, and a blank there would make another
+/// value of it. Texts set by code stay as they are. Belongs to the box.
 class LineInput : public QValidator {
 public:
     explicit LineInput(QLineEdit &box);

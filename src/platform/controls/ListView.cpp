@@ -37,6 +37,20 @@ constexpr bool isAct(QEvent::Type type) {
            type == QEvent::KeyPress || type == QEvent::FocusIn || type == QEvent::FocusOut;
 }
 
+/// The text without accents and capitals, ligatures as two letters.
+QString plainLetters(const QString &text) {
+    QString letters;
+    letters.reserve(text.size());
+    for (const QChar letter : text.normalized(QString::NormalizationForm_KD).toCaseFolded()) {
+        if (letter == u'œ' || letter == u'æ') {
+            letters += letter == u'œ' ? u"oe" : u"ae";
+        } else if (letter.category() != QChar::Mark_NonSpacing) {
+            letters += letter;
+        }
+    }
+    return letters;
+}
+
 constexpr bool movesInList(int key) {
     return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown ||
            key == Qt::Key_Home || key == Qt::Key_End;
@@ -137,7 +151,35 @@ void ListBox::keyPressEvent(QKeyEvent *event) {
         Q_EMIT DblClick();
         return;
     }
+    if (event->key() == Qt::Key_Space && isBeingTyped()) {
+        keyboardSearch(event->text());
+        return;
+    }
     QListView::keyPressEvent(event);
+}
+
+bool ListBox::isBeingTyped() const {
+    return m_sinceTyped.isValid() && !m_sinceTyped.hasExpired(QApplication::keyboardInputInterval());
+}
+
+void ListBox::keyboardSearch(const QString &typed) {
+    m_typed = isBeingTyped() ? m_typed + plainLetters(typed) : plainLetters(typed);
+    m_sinceTyped.start();
+    if (m_typed.isEmpty()) {
+        return;
+    }
+    // One letter, typed again and again, goes on to the next row; a longer beginning may stay where it is.
+    const bool sameLetter = m_typed.count(m_typed.front()) == m_typed.size();
+    const QString wanted = sameLetter ? m_typed.left(1) : m_typed;
+    const int first = SelectedIndex() - (sameLetter ? 0 : 1);
+    for (int i = 0; i < Count(); ++i) {
+        // A letter may be written as two characters, so twice as many are looked at.
+        const int row = (std::max(first, 0) + i) % Count();
+        if (plainLetters(m_model.text(row).left(2 * wanted.size())).startsWith(wanted)) {
+            Select(row + 1);
+            return;
+        }
+    }
 }
 
 void ListBox::keyReleaseEvent(QKeyEvent *event) {

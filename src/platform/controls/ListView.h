@@ -3,6 +3,7 @@
 #include "ListModel.h"
 #include "Placed.h"
 
+#include <QElapsedTimer>
 #include <QListView>
 #include <QTimer>
 #include <optional>
@@ -81,6 +82,9 @@ public:
     /// What an empty list says in its empty space; nothing by default.
     void SetEmptyText(const QString &text);
 
+    /// Goes to the next row that begins with what is typed without a long pause, whatever the case and the accents.
+    void keyboardSearch(const QString &typed) override;
+
     /// Automatic: a click on the selected row edits its text in place, a moment later, unless anything is pressed or
     /// takes the keyboard meanwhile. Manual: only StartLabelEdit does.
     void SetLabelEdit(LabelEditMode mode);
@@ -117,12 +121,15 @@ protected:
 
 private:
     int checked(int index) const;
+    bool isBeingTyped() const;
     void dropLabelEdit();
     void sayWhetherEmpty();
 
     ListModel m_model;
     int m_indexAtPress = 0; // row selected when a key or a mouse button went down
     QString m_emptyText;
+    QString m_typed; // of the row searched by typing
+    QElapsedTimer m_sinceTyped;
     QTimer m_labelEdit; // runs from a click that is to edit the selected row
 };
 

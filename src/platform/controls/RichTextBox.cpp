@@ -164,7 +164,7 @@ void RichTextEdit::keepColour() {
     }
 }
 
-/// The document tells of acts that change nothing, too: the content itself decides.
+/// The document also reports acts that change nothing: the content itself decides.
 void RichTextEdit::followContent() {
     if (m_loading || m_onlyBeginning) {
         return;

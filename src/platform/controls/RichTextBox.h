@@ -9,7 +9,7 @@ namespace platform::controls {
 
 /// A box of formatted text on a dark ground, edited in place: Ctrl+B, I and U set bold, italic and underline, and
 /// what is pasted or dropped keeps only what the box can show. Positions count characters from 0. What the
-/// programme does to the content with the signals of the box blocked is none of the user's changes, and cannot be
+/// program does to the content with the signals of the box blocked is none of the user's changes, and cannot be
 /// undone. Of a text of more than a million characters it shows the beginning, read-only and with a notice, and keeps
 /// the whole.
 class RichTextEdit : public QTextEdit {
@@ -48,7 +48,7 @@ public:
 Q_SIGNALS:
     /// The content has become another one by an act of the user: its characters or their formats.
     void Change();
-    /// The user goes to the box. The return of the keyboard to its window or from a menu is no such thing.
+    /// The user goes to the box. The return of the keyboard to its window or from a menu does not count.
     void Entered();
     /// A mouse button was let go.
     void Clicked();

@@ -5,9 +5,11 @@
 #include <QAbstractScrollArea>
 #include <QLinearGradient>
 #include <QPainter>
+#include <QPalette>
 #include <QScrollBar>
 #include <QtMath>
 #include <array>
+#include <initializer_list>
 
 namespace platform::controls {
 
@@ -76,6 +78,44 @@ void fillWithLines(QPainter &painter, const QRectF &block, const QColor &top, co
 }
 
 } // namespace
+
+QPalette programPalette() {
+    struct Colour {
+        QPalette::ColorRole role;
+        QColor active, disabled;
+    };
+
+    const QColor window(239, 239, 239);
+    const QColor faded(150, 150, 150);
+    QPalette colours;
+    for (const auto &[role, active, disabled] : std::initializer_list<Colour>{
+             {QPalette::Window, window, window},
+             {QPalette::WindowText, Qt::black, faded},
+             {QPalette::Base, Qt::white, window},
+             {QPalette::AlternateBase, QColor(247, 247, 247), QColor(247, 247, 247)},
+             {QPalette::Text, Qt::black, faded},
+             {QPalette::PlaceholderText, QColor(0, 0, 0, 128), QColor(0, 0, 0, 128)},
+             {QPalette::Button, window, window},
+             {QPalette::ButtonText, Qt::black, faded},
+             {QPalette::BrightText, Qt::white, Qt::white},
+             {QPalette::Light, Qt::white, Qt::white},
+             {QPalette::Midlight, QColor(202, 202, 202), QColor(202, 202, 202)},
+             {QPalette::Mid, QColor(184, 184, 184), QColor(184, 184, 184)},
+             {QPalette::Dark, QColor(159, 159, 159), QColor(190, 190, 190)},
+             {QPalette::Shadow, QColor(118, 118, 118), QColor(177, 177, 177)},
+             {QPalette::Highlight, QColor(48, 140, 198), QColor(145, 145, 145)},
+             {QPalette::HighlightedText, Qt::white, Qt::white},
+             {QPalette::Link, Qt::blue, Qt::blue},
+             {QPalette::LinkVisited, QColor(255, 0, 255), QColor(255, 0, 255)},
+             {QPalette::ToolTipBase, QColor(255, 255, 220), QColor(255, 255, 220)},
+             {QPalette::ToolTipText, Qt::black, Qt::black},
+         }) {
+        colours.setColor(QPalette::Active, role, active);
+        colours.setColor(QPalette::Inactive, role, active);
+        colours.setColor(QPalette::Disabled, role, disabled);
+    }
+    return colours;
+}
 
 void paintBlock(QPainter &painter, const QRectF &block, double radius, const QColor &top,
                 const QColor &bottom, const QColor &edge) {

@@ -4,6 +4,7 @@
 
 class QAbstractScrollArea;
 class QPainter;
+class QPalette;
 class QRectF;
 class QWidget;
 
@@ -30,6 +31,10 @@ inline constexpr QColor kPaper(240, 245, 252);       ///< what is typed on
 inline constexpr QColor kPaleGround(214, 225, 242);  ///< lines of text that can be pressed, a title
 inline constexpr QColor kLightGround(190, 206, 232); ///< frames of photos, bands
 inline constexpr QColor kListGround(148, 173, 214);  ///< lists, the page of a recipe
+
+/// The colours of all that the toolkit paints, dialogs too. They are light and depend on no desktop: every colour that a
+/// window sets for itself is chosen to stand beside them.
+QPalette programPalette();
 
 /// Fills a rounded rectangle with a vertical gradient and outlines it; no outline with an invalid edge
 /// colour.

@@ -40,7 +40,7 @@ void LineBox::focusInEvent(QFocusEvent *event) {
 
 void LineBox::mousePressEvent(QMouseEvent *event) {
     QLineEdit::mousePressEvent(event);
-    // The press that brings the keyboard has told of it already, and what was opened then may have taken it.
+    // The press that brings the keyboard has been reported already, and what was opened then may have taken it.
     if (hasFocus()) {
         Q_EMIT Entered();
     }

@@ -6,7 +6,8 @@
 
 namespace platform::controls {
 
-/// A box of one line of plain text, on which what the user brings stays one line. textChanged(QString) tells of every change, by the user or by code.
+/// A box of one line of plain text, in which what the user brings stays on one line. textChanged(QString) reports every
+/// change, by the user or by code.
 class LineBox : public QLineEdit {
     Q_OBJECT
 
@@ -19,7 +20,7 @@ public:
 
 Q_SIGNALS:
     /// The user goes to the box: it takes the keyboard, or it has it and is pressed or gets Up or Down. The return of
-    /// the keyboard to its window or from a menu is no such thing.
+    /// the keyboard to its window or from a menu does not count.
     void Entered();
 
 protected:

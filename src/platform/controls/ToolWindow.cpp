@@ -1,5 +1,6 @@
 #include "ToolWindow.h"
 
+#include "Keys.h"
 #include "WhenPressed.h"
 
 #include "platform/images/ResourcePicture.h"
@@ -48,6 +49,12 @@ ToolWindow::ToolWindow(const QString &name, Extent size)
         Quit.Release();
         Q_EMIT CloseRequested();
     });
+    onKey(*this, Qt::Key_Escape, [this] {
+        if (MayEscape()) {
+            Quit.SetValue(true);
+        }
+    });
+    tellKey(Quit, Qt::Key_Escape);
 }
 
 void ToolWindow::NameQuit(const QString &name) {

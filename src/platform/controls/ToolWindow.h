@@ -10,7 +10,7 @@ namespace platform::controls {
 void setBandPictures(RibbonButton &button, const QString &drawing);
 
 /// A skinned window with the two buttons of its title band, Mini and Quit, at its upper right corner. A press of Quit
-/// asks to close, as closing from outside does.
+/// asks to close, as closing from outside does, and so does Escape.
 class ToolWindow : public SkinnedWindow {
     Q_OBJECT
 
@@ -22,6 +22,10 @@ public:
 
     /// Says where Quit leads, on the screen and to screen readers.
     void NameQuit(const QString &name);
+
+protected:
+    /// Whether Escape may leave the window, which it does by pressing Quit; it may ask the user.
+    virtual bool MayEscape() { return true; }
 
 Q_SIGNALS:
     void MinimiseRequested();

@@ -28,7 +28,7 @@ public:
     /// @param values one for each column; an invalid QVariant writes Null
     void row(const QVariantList &values);
 
-    /// Ends the transaction. Nothing can be appended any more.
+    /// Ends the transaction. Nothing can be appended after it.
     void commit();
 
 private:

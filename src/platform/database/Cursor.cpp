@@ -131,7 +131,7 @@ void Cursor::requireTable() const {
     }
 }
 
-/// Puts m_source on a row of the table; false when it is not there any more.
+/// Puts m_source on a row of the table; false when it is gone.
 bool Cursor::readRow(qint64 rowid) {
     dropRow();
     m_source.bind(1, rowid);

@@ -3,7 +3,7 @@
 #include <QtEndian>
 
 // The compression function itself is four times as fast here as PKCS5_PBKDF2_HMAC_SHA1, which sets up a
-// digest context in each round: 10 ms against 40 ms, and the start of the program waits for it.
+// digest context in each round: 10 ms against 40 ms, for which the start of the program waits.
 #define OPENSSL_SUPPRESS_DEPRECATED
 #include <openssl/sha.h>
 

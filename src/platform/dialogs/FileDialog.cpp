@@ -1,5 +1,6 @@
 #include "FileDialog.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
@@ -42,30 +43,44 @@ public:
     }
 };
 
-QString choose(QFileDialog &dialog, const QString &filter, const QString &start) {
+QString nearestFolder(const QString &wanted) {
+    QFileInfo folder(wanted);
+    while (!folder.isDir() && !folder.isRoot() && folder.isAbsolute()) {
+        folder.setFile(folder.path());
+    }
+    return folder.isDir() ? folder.filePath() : QDir::homePath();
+}
+
+QString choose(QFileDialog &dialog, const QString &filter, const Start &start) {
     constexpr QSize kSize(720, 480); // pixels; on the smallest screen it leaves the window in sight
     dialog.resize(kSize);
     dialog.setViewMode(QFileDialog::List);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setNameFilters(nameFilters(filter));
-    if (const QFileInfo place(start); place.isDir()) {
-        dialog.setDirectory(start);
-    } else {
-        dialog.setDirectory(place.path());
-        dialog.selectFile(place.fileName());
+    dialog.setDirectory(nearestFolder(start.folder));
+    if (!start.name.isEmpty()) {
+        dialog.selectFile(start.name);
     }
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    // Asked afterwards, a dialog that has just read its folder answers with the file that it began with.
+    QString chosen;
+    QObject::connect(&dialog, &QFileDialog::fileSelected, [&chosen](const QString &file) { chosen = file; });
+    return dialog.exec() == QDialog::Accepted ? chosen : QString();
 }
 
 } // namespace
 
-QString ShowOpen(QWidget *parent, const QString &title, const QString &filter, const QString &start) {
+Start Start::at(const QString &path) {
+    const QFileInfo file(path);
+    return {file.path(), file.fileName()};
+}
+
+QString ShowOpen(QWidget *parent, const QString &title, const QString &filter, const Start &start) {
     QFileDialog dialog(parent, title);
     dialog.setFileMode(QFileDialog::ExistingFile);
     return choose(dialog, filter, start);
 }
 
-QString ShowSave(QWidget *parent, const QString &title, const QString &filter, const QString &start,
+QString ShowSave(QWidget *parent, const QString &title, const QString &filter, const Start &start,
                  const QString &suffix) {
     SaveDialog dialog(parent, title);
     dialog.setAcceptMode(QFileDialog::AcceptSave);

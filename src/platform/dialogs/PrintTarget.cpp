@@ -96,7 +96,7 @@ protected:
         adapt();
     }
 
-    /// The dialog of the properties is made anew after each choice.
+    /// The dialog of the properties is made again after each choice.
     void childEvent(QChildEvent *event) override {
         if (event->added()) {
             event->child()->installEventFilter(this);
@@ -189,8 +189,9 @@ QString PrintTarget::Print(QWidget *parent, const QString &title, const Pages &p
         printPages(title, pages);
         return {};
     }
-    QString path = ShowSave(parent, QStringLiteral("Imprimer dans un fichier PDF"),
-                            QStringLiteral("Fichiers PDF|*.pdf"), proposedFile(title), QStringLiteral("pdf"));
+    QString path =
+        ShowSave(parent, QStringLiteral("Imprimer dans un fichier PDF"), QStringLiteral("Fichiers PDF|*.pdf"),
+                 {folder(), fileNameOf(title)}, QStringLiteral("pdf"));
     if (!path.isEmpty()) {
         writePdf(path, title, pages);
         m_folder = QFileInfo(path).absolutePath();
@@ -198,14 +199,9 @@ QString PrintTarget::Print(QWidget *parent, const QString &title, const Pages &p
     return path;
 }
 
-QString PrintTarget::proposedFile(const QString &title) {
-    if (m_folder.isEmpty()) {
-        m_folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-        if (!QFileInfo(m_folder).isDir()) {
-            m_folder = QStandardPaths::writableLocation(QStandardPaths::HomeLocation);
-        }
-    }
-    return m_folder + QLatin1Char('/') + fileNameOf(title);
+QString PrintTarget::folder() const {
+    return m_folder.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+                              : m_folder;
 }
 
 void PrintTarget::printPages(const QString &title, const Pages &pages) {

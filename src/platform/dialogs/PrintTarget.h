@@ -39,7 +39,8 @@ public:
 
 private:
     QPrinter &printer();
-    QString proposedFile(const QString &title);
+    /// Where the next file is proposed.
+    QString folder() const;
     void printPages(const QString &title, const Pages &pages);
     void writePdf(const QString &path, const QString &title, const Pages &pages);
 

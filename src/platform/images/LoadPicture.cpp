@@ -60,7 +60,7 @@ QString PicturePatterns() {
 
 QImage LoadPicture(const QString &path) {
     if (!QFileInfo(path).isFile()) {
-        // Reading a pipe or a device could wait for ever.
+        // Reading a pipe or a device could block forever.
         throw PictureError("Ce fichier n'est pas une image : " + path.toStdString());
     }
     if (const QByteArray content = metafileContent(path); !content.isEmpty()) {

@@ -4,7 +4,7 @@
 
 /// What the reading program writes to its standard output, and readJet() reads.
 ///
-/// A sequence of records: one byte that tells which, four bytes with the size of what follows, the content.
+/// A sequence of records: one byte for its kind, four bytes with the size of what follows, the content.
 /// Numbers are in the byte order of the machine, since both ends run on it. A text is four bytes with its size
 /// in bytes and then its UTF-8.
 ///

@@ -21,7 +21,7 @@ public:
 
     bool ended() const { return m_ended; }
 
-    /// The text of a failure that the program told; empty when it told none.
+    /// The text of the failure that the program reported; empty when it reported none.
     const QString &failure() const { return m_failure; }
 
     qint64 rows() const { return m_rows; }

@@ -13,7 +13,7 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// Whether a file that begins so is a Windows metafile, with or without the header that tells its size.
+/// Whether a file that begins so is a Windows metafile, with or without the header that gives its size.
 bool isMetafile(const QByteArray &start);
 
 /// Draws a metafile in its natural size at 96 dots per inch, on white; one that is larger than 2,048 pixels in a

@@ -94,7 +94,7 @@ QString withoutComments(QStringView source) {
         source = end < 0 ? QStringView() : source.mid(end + 2);
     }
     result += source;
-    // Style elements may hide their rules from programs of old.
+    // Style elements may stand in comment marks, which hide their rules from programs that do not know them.
     return result.remove(QStringLiteral("<!--")).remove(QStringLiteral("-->"));
 }
 

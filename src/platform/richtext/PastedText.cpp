@@ -20,7 +20,7 @@ namespace {
 
 constexpr double kLeastContrast = 3; // of WCAG 2.1, success criterion 1.4.11
 
-/// The last is also a type of text that came before RTF, which is why the content is looked at.
+/// The last is also the type of another kind of text, which is why the content is looked at.
 constexpr std::array kRtfTypes{u"text/rtf", u"application/rtf", u"text/richtext"};
 
 /// Relative luminance of WCAG 2.1, 0 to 1.

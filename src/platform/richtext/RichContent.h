@@ -107,7 +107,7 @@ public:
 
     bool hasParagraphs() const { return !m_content.paragraphs.empty(); }
 
-    /// True when something had to be left out: nothing that comes can be taken any more.
+    /// True when something had to be left out: nothing more is taken.
     bool isFull() const { return !m_content.isWhole; }
 
     RichContent take() { return std::move(m_content); }

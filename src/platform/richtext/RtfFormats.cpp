@@ -13,7 +13,7 @@ void RtfFormats::apply(const Keyword &keyword, std::optional<int> parameter, con
     }
 }
 
-/// Tells whether the word was one for characters.
+/// True if the word was one for characters.
 bool RtfFormats::applyToCharacters(const Keyword &keyword, std::optional<int> parameter,
                                    const ColourTable &colours) {
     const int number = parameter.value_or(0);

@@ -51,7 +51,7 @@ private:
     void endText();
     int codePage();
 
-    // Each does what a control word asks for, and tells whether the word was one of its own.
+    // Each does what a control word asks for; true if the word was one of its own.
     bool applyToText(const Keyword &keyword, Parameter parameter);
     bool applyToTables(const Keyword &keyword, Parameter parameter);
 
@@ -75,7 +75,7 @@ private:
     int m_defaultFont = 0;
     Parameter m_codePage;                        ///< of the current font once looked up
     ListKind m_numbering = ListKind::None;       ///< of the \pn group being read
-    ListKind m_listOfParagraph = ListKind::None; ///< told by the bullet or number written out before it
+    ListKind m_listOfParagraph = ListKind::None; ///< known from the bullet or number written out before it
     QString m_marker;
 };
 

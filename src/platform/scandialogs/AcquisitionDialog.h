@@ -16,7 +16,7 @@ namespace platform::scandialogs {
 class PreviewArea;
 
 /// The usual options of one device, its preview, and the scan. It is accepted with a picture only; a failure is
-/// told in the dialog and leaves it open. Nothing here waits for the device.
+/// reported in the dialog and leaves it open. Nothing here waits for the device.
 class AcquisitionDialog : public QDialog {
     Q_OBJECT
 

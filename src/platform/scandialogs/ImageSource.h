@@ -26,7 +26,7 @@ public:
     int SelectImageSource(QWidget *parent);
 
     /// Lets the user set up the chosen device and scan, in a modal dialog, and leaves the picture on the
-    /// clipboard. 0 when there is none: nothing chosen, cancelled, or failed, which the dialog has told.
+    /// clipboard. 0 when there is none: nothing chosen, cancelled, or failed, which the dialog has reported.
     int AcquireToClipboard(QWidget *parent);
 
 private:

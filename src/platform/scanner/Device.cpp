@@ -19,7 +19,7 @@ namespace {
 
 constexpr std::array kUsualResolutions{75.0, 100.0, 150.0, 200.0, 300.0, 400.0, 600.0, 1200.0};
 constexpr std::size_t kBuffer = 65'536;
-// A driver waits until it has something to give. Some that have lost their device give nothing, for ever.
+// A driver waits until it has something to give. Some that have lost their device never give anything.
 constexpr int kEmptyReads = 1000;
 constexpr std::chrono::milliseconds kPause{10}; // after each
 

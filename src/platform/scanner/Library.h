@@ -15,7 +15,7 @@ public:
     Library(const Library &) = delete;
     Library &operator=(const Library &) = delete;
 
-    /// Looks for the devices anew, which may take seconds.
+    /// Looks for the devices again, which may take seconds.
     /// @throws ScannerError
     QList<DeviceInfo> devices() const;
 };

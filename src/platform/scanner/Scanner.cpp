@@ -136,7 +136,7 @@ QFuture<QImage> Scanner::scan(const QString &device, const ScanSettings &setting
         Device opened(device);
         opened.apply(settings);
         const QImage picture = opened.scan([&](std::optional<double> part) {
-            // Told again, it would wake the dialog for every piece that is read.
+            // Reported again, it would wake the dialog for every piece that is read.
             if (const int most = part ? 100 : 0; promise.future().progressMaximum() != most) {
                 promise.setProgressRange(0, most);
             }

@@ -21,7 +21,7 @@ public:
     Scanner(const Scanner &) = delete;
     Scanner &operator=(const Scanner &) = delete;
 
-    /// Looks for the devices anew.
+    /// Looks for the devices again.
     QFuture<QList<DeviceInfo>> devices();
 
     QFuture<ScanOptions> options(const QString &device);

@@ -9,7 +9,7 @@
 
 namespace platform::scanner {
 
-/// The status of an error for want of SANE; SANE's own are not negative.
+/// The status of an error when SANE is not installed; SANE's own are not negative.
 inline constexpr int kNotInstalled = -1;
 
 /// What a scanner or its driver refused. what() is the English text of SANE for it.

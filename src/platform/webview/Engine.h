@@ -13,7 +13,7 @@ class QWidget;
 
 namespace platform::webview {
 
-/// What a view tells the window that shows it, on the thread of the interface. None of them may throw.
+/// What a view reports to the window that shows it, on the thread of the interface. None of them may throw.
 struct Events {
     std::function<void()> began;                          ///< another page is on its way
     std::function<void()> complete;                       ///< a page is there, or will not come
@@ -45,7 +45,7 @@ public:
 
     /// Runs a script beside those of the page, which can neither see nor change it.
     /// @param result gets the script's text, later, or at once where the page has died; nothing when it gave none. Never
-    /// called where the page keeps itself busy for ever
+    /// called where the page keeps itself busy forever
     virtual void runScript(const QString &source, Result result) = 0;
 };
 

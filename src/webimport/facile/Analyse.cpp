@@ -89,8 +89,8 @@ void Montrer(Facile &fenetre, const ChampsPage &champs) {
     fenetre.NomPhoto.SetText(champs.NomPhoto);
     fenetre.NomPhoto.setCursorPosition(0);
     MontrerLignes(fenetre, champs.Lignes);
-    Montrer(fenetre.Saisie(0), champs.Saisie[SaisieMethode], CouleursMethode);
-    Montrer(fenetre.Saisie(1), champs.Saisie[SaisieComplements], CouleursComplements);
+    Montrer(fenetre.Saisie(0), champs.Saisie[SaisieMethode], kCouleursMethode);
+    Montrer(fenetre.Saisie(1), champs.Saisie[SaisieComplements], kCouleursComplements);
 }
 
 /// The page as it comes back from the temporary file, in whose characters the site is written.
@@ -102,7 +102,7 @@ PageCapturee PasserParLeFichier(const Facile &fenetre, const QString &texte) {
                      .hote = store::PartnerSiteHost.toString()}};
 }
 
-/// @param texte the page before it went through the file, by which its layout is told
+/// @param texte the page before it went through the file, which decides its layout
 ChampsPage Extraire(Facile &fenetre, const PageCapturee &page, const QString &texte) {
     if (EstPageDebutFin(texte)) {
         return ExtrairePageDebutFin(page, fenetre.Memoire);

@@ -5,6 +5,7 @@
 
 #include "browser/Frmmain.h"
 #include "browser/Vues.h"
+#include "entry/ChampsDeCreation.h"
 #include "pictures/AjusterPhoto.h"
 #include "platform/controls/Fonts.h"
 #include "platform/controls/WhenPressed.h"
@@ -208,8 +209,8 @@ void Facile::PeindreFiche() {
     CadrePhoto.SetBackColor(kLightGround);
     Photo.hide();
     Scroll(1).SetBackColor(kLightGround);
-    Saisie(0).SetDefaultColor(QColor(CouleursMethode.ordinaire));
-    Saisie(1).SetDefaultColor(QColor(CouleursComplements.ordinaire));
+    Saisie(0).SetDefaultColor(QColor(kCouleursMethode.ordinaire));
+    Saisie(1).SetDefaultColor(QColor(kCouleursComplements.ordinaire));
     for (DropList *liste : {&LQte, &LQte2, &LIngre}) {
         liste->hide();
     }
@@ -336,6 +337,7 @@ void Facile::MontrerAnalyse(bool visible) {
 }
 
 void Facile::MontrerFiche() {
+    m_lue = entry::LireChamps(*this);
     Navigateur->widget().hide();
     Fond.show();
     TitreRecette.setFocus();
@@ -352,6 +354,10 @@ void Facile::PresserRevenir() {
     ViderTextes();
     MontrerNavigateur();
     MontrerAnalyse(true);
+}
+
+bool Facile::MayEscape() {
+    return Fond.isHidden() || entry::LireChamps(*this) == m_lue || entry::ConfirmerAbandon(*this);
 }
 
 void Facile::Quitter() {

@@ -9,6 +9,7 @@
 #include "platform/controls/ScrollPanel.h"
 #include "platform/controls/TextBox.h"
 #include "platform/controls/ToolWindow.h"
+#include "store/CreationRecette.h"
 #include "webimport/Page.h"
 
 #include <memory>
@@ -100,6 +101,9 @@ public:
     void MontrerFiche();
     void MontrerNavigateur();
 
+protected:
+    bool MayEscape() override;
+
 private:
     void Peindre();
     void PeindreFiche();
@@ -112,8 +116,9 @@ private:
     void PresserRevenir();
     void Quitter();
 
-    QString m_etat; ///< of the page, which the link under the pointer hides meanwhile
-    int m_page = 0; ///< counts the pages, so that a late answer is not taken for the next one's
+    QString m_etat;             ///< of the page, which the link under the pointer hides meanwhile
+    store::RecetteSaisie m_lue; ///< from the page, before it is corrected
+    int m_page = 0;             ///< counts the pages, so that a late answer is not taken for the next one's
 
 public:
     /// WebBrowser1. Last, because its end still calls its events.

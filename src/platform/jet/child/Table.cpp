@@ -140,7 +140,7 @@ void Table::forEachRow(const std::function<void(const std::vector<Value> &)> &ta
 }
 
 /// Where a row lives, in the page that is read last.
-/// @param place as the row head tells, with its flags
+/// @param place as the row head gives it, with its flags
 RowPlace Table::follow(RowPlace place) {
     for (int moves = 0; (place.start & kMovedRow) != 0; ++moves) {
         const auto start = std::size_t(place.start & kRowOffsetMask);

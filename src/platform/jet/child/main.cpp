@@ -1,7 +1,7 @@
 // lecteur-jet FILE TABLE...: writes the rows of tables of a Jet 3 or Jet 4 file to the standard output, in the form
 // that JetStream.h describes.
 //
-// The library breaks down on damaged files. Hence a process of its own, which takes neither the memory nor the time
+// The library crashes on damaged files. So it works in a process of its own, which takes neither the memory nor the time
 // of the program that waits for it.
 
 #include "Book.h"

@@ -17,7 +17,7 @@ namespace platform::webview {
 
 // Pages are drawn by the processor. Drawing by the graphics card would ask for a context shared by all windows, made
 // before the first of them, in every run; and pages of recipes are no film. The browser looks at such a context without
-// asking whether there is one: the one it gets was never created, and tells that it is of no use.
+// asking whether there is one: the one it gets was never created, and says that it is of no use.
 EngineWeb::EngineWeb() {
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     if (QOpenGLContext::globalShareContext() == nullptr) {

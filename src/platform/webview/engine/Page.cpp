@@ -44,13 +44,13 @@ void Page::restrict() {
     for (const auto attribute : kRefused) {
         settings()->setAttribute(attribute, false);
     }
-    // Also tells whether one may go back to a page of the net that was reached from a file.
+    // Also decides whether one may go back to a page of the net that was reached from a file.
     settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, true);
     settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
 }
 
 bool Page::acceptNavigationRequest(const QUrl &url, NavigationType /*type*/, bool isMainFrame) {
-    // Frames are often made of a text or left blank; what they may not show, the browser's own rules tell.
+    // Frames are often made of a text or left blank; what they may not show is decided by the browser's own rules.
     return isPlaceToGo(url, m_folder) || (!isMainFrame && !url.isLocalFile());
 }
 

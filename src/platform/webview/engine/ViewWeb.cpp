@@ -30,7 +30,7 @@ ViewWeb::ViewWeb(QWidget &parent, const QString &folder, Events events)
 }
 
 ViewWeb::~ViewWeb() {
-    // The end of a page tells of loads broken off, to a window that may be half gone.
+    // The end of a page reports aborted loads, to a window that may be half gone.
     disconnect(&m_page, nullptr, this, nullptr);
     delete m_control;
 }
