@@ -1,20 +1,26 @@
 #include "EnregistrerPhoto.h"
 
+#include "platform/files/WholeFile.h"
+#include "store/CopieFichier.h"
 #include "store/Programme.h"
 
+#include <QBuffer>
 #include <QFileInfo>
 #include <QImageWriter>
 #include <QPainter>
-#include <QTemporaryFile>
-
-#include <filesystem>
-#include <unistd.h>
 
 namespace pictures {
 
 namespace {
 
 constexpr int kQualite = 90;
+
+/// Short, since the photo's own name may have the greatest length already.
+const QString kBrouillon = QStringLiteral(".photo-");
+
+QString DossierDesPhotos() {
+    return store::DossierProgramme() + QStringLiteral("/photos/");
+}
 
 /// A JPEG has no transparency: without this, transparent becomes black.
 QImage SurBlanc(const QImage &image) {
@@ -51,30 +57,24 @@ QString EnregistrerPhoto(const QImage &image, const QString &nom) {
     if (image.isNull() || !EstNomDeFichier(nom)) {
         throw PhotoError(nom + QStringLiteral(" : cette photo ne peut pas être enregistrée."));
     }
-    const QString dossier = store::DossierProgramme() + QStringLiteral("/photos/");
-    // The name of QSaveFile's own draft is longer than the file's, which may have the greatest length already.
-    QTemporaryFile brouillon(dossier + QStringLiteral(".photo-XXXXXX"));
-    if (!brouillon.open()) {
-        throw PhotoError(brouillon.fileName() + QStringLiteral(" : ") + brouillon.errorString());
-    }
-    QImageWriter ecriture(&brouillon, "jpg");
+    QByteArray octets;
+    QBuffer memoire(&octets);
+    QImageWriter ecriture(&memoire, "jpg");
     ecriture.setQuality(kQualite);
     if (!ecriture.write(SurBlanc(image))) {
-        throw PhotoError(nom + QStringLiteral(" : ") + ecriture.errorString());
+        throw PhotoError(nom + QStringLiteral(" : cette photo ne peut pas être enregistrée."));
     }
-    if (!brouillon.flush() || fdatasync(brouillon.handle()) != 0) {
-        throw PhotoError(nom + QStringLiteral(" : ") + brouillon.errorString());
-    }
-    brouillon.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
-    QString libre = NomLibre(dossier, nom);
-    std::error_code echec;
-    std::filesystem::rename(brouillon.fileName().toStdU16String(), QString(dossier + libre).toStdU16String(),
-                            echec);
-    if (echec) {
-        throw PhotoError(nom + QStringLiteral(" : ") + QString::fromLocal8Bit(echec.message().c_str()));
-    }
-    brouillon.setAutoRemove(false);
+    const QString dossier = DossierDesPhotos();
+    platform::files::WholeFile fichier(dossier, kBrouillon);
+    fichier.setRights(fichier.rights() & store::DroitsDuLivre());
+    fichier.write(octets);
+    const QString libre = NomLibre(dossier, nom);
+    fichier.commit(dossier + libre);
     return libre;
+}
+
+void OterBrouillonsDePhotos() {
+    platform::files::removeDrafts(DossierDesPhotos(), kBrouillon);
 }
 
 } // namespace pictures

@@ -1,11 +1,15 @@
 #include "FichierBmp.h"
 
+#include "platform/files/FileError.h"
 #include "platform/images/LoadPicture.h"
 #include "store/Programme.h"
 
+#include <QBuffer>
 #include <QFileInfo>
 #include <QImageWriter>
 #include <QSaveFile>
+
+#include <cerrno>
 
 namespace pictures {
 
@@ -33,15 +37,14 @@ void EcrireBmp(const Surface &surface, const QString &chemin) {
     QSaveFile fichier(chemin);
     // Where the folder takes no second file, the file itself is written.
     fichier.setDirectWriteFallback(true);
-    if (!fichier.open(QIODevice::WriteOnly)) {
-        Refuser(chemin, fichier.errorString());
+    QByteArray octets;
+    QBuffer memoire(&octets);
+    if (!QImageWriter(&memoire, "BMP").write(surface.picture())) {
+        Refuser(chemin, QStringLiteral("cette image ne peut pas être enregistrée"));
     }
-    QImageWriter bmp(&fichier, "BMP");
-    if (!bmp.write(surface.picture())) {
-        Refuser(chemin, fichier.error() == QFileDevice::NoError ? bmp.errorString() : fichier.errorString());
-    }
-    if (!fichier.commit()) {
-        Refuser(chemin, fichier.errorString());
+    if (!fichier.open(QIODevice::WriteOnly) || fichier.write(octets) != octets.size() || !fichier.flush() ||
+        !fichier.commit()) {
+        Refuser(chemin, platform::files::reasonOf(errno));
     }
 }
 

@@ -9,13 +9,16 @@
 #include "Sauvegarde.h"
 
 #include "browser/Vues.h"
+#include "pictures/EnregistrerPhoto.h"
 #include "platform/controls/Fonts.h"
 #include "platform/controls/Skin.h"
 #include "platform/dialogs/French.h"
 #include "platform/dialogs/MessageBox.h"
+#include "platform/files/FileError.h"
 #include "platform/images/LoadPicture.h"
 #include "platform/images/ResourcePicture.h"
 #include "platform/settings/Conversion.h"
+#include "store/CopieFichier.h"
 #include "store/Livre.h"
 #include "store/Programme.h"
 #include "store/Reglages.h"
@@ -24,7 +27,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QFile>
 #include <QIcon>
 #include <QProxyStyle>
 #include <QScreen>
@@ -32,7 +34,8 @@
 #include <QToolTip>
 #include <algorithm>
 #include <cstdlib>
-#include <stdexcept>
+#include <filesystem>
+#include <system_error>
 
 namespace shell {
 
@@ -225,6 +228,8 @@ void ChargerFrmmain(Fenetres &fenetres, const platform::desktop::SingleInstance 
     VerifierEcran();
     VerifierInstance(instance);
     webimport::facile::OterFichiersDePassage();
+    store::OterRestes();
+    pictures::OterBrouillonsDePhotos();
     frm.PreparerListes();
     frm.SetCouleurSelection(Qt::blue);
     LireFondEcran();
@@ -237,7 +242,7 @@ void ChargerFrmmain(Fenetres &fenetres, const platform::desktop::SingleInstance 
     frm.Scroll(0).SetBackColor(kListGround);
     frm.Liste.SetBackColor(kListGround);
     frm.LFilms.SetBackColor(kListGround);
-    ReprendreAncienLivre(frm);
+    PreparerLivre(frm);
     ChargerPremiereListe(frm);
     frm.show();
     frm.Liste.setFocus();
@@ -248,9 +253,11 @@ void Quitter(browser::Frmmain &frm) {
                       QStringLiteral("Voulez vous quitter ") + Titre() + QStringLiteral(" ?"))) {
         return;
     }
-    QFile brouillon(store::DossierProgramme() + QStringLiteral("/temp.bmp"));
-    if (brouillon.exists() && !brouillon.remove()) {
-        throw std::runtime_error(brouillon.errorString().toStdString());
+    const QString brouillon = store::DossierProgramme() + QStringLiteral("/temp.bmp");
+    std::error_code echec;
+    std::filesystem::remove(brouillon.toStdU16String(), echec);
+    if (echec) {
+        throw platform::files::FileError(brouillon, echec.value());
     }
     throw FinDuProgramme{};
 }

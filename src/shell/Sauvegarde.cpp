@@ -7,13 +7,17 @@
 #include "platform/database/DatabaseError.h"
 #include "platform/dialogs/FileDialog.h"
 #include "platform/dialogs/MessageBox.h"
+#include "platform/jet/JetReader.h"
 #include "platform/settings/Conversion.h"
 #include "store/AncienLivre.h"
 #include "store/CopieFichier.h"
+#include "store/Livre.h"
 #include "store/Programme.h"
 
+#include <QDateTime>
 #include <QDir>
-#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
 #include <QStandardPaths>
 
 #include <stdexcept>
@@ -37,28 +41,49 @@ bool NomDuLivre(const QString &chemin) {
 }
 
 /// Makes a new book of an old one, in the place of the present book, of which a copy is kept.
-void Convertir(const browser::Frmmain &frm, const QString &ancien, const QString &copie) {
+void Convertir(const browser::Frmmain &frm, const QString &ancien) {
     Progression progression(frm, QStringLiteral("Conversion de l'ancien livre ..."));
     store::ConvertirAncienLivre(
         ancien, store::CheminNouveauLivre(),
         [&progression](qint64 faites, qint64 total) { progression.Montrer(faites, total); });
-    store::RemplacerLivre(copie);
+    store::RemplacerLivre();
 }
 
-/// Where an old book is kept whose place a new one takes: db-ancien.mdb, or db-ancien-2.mdb beside an earlier one.
-QString CheminAncienLivre() {
-    const QString debut = store::DossierProgramme() + QStringLiteral("/db-ancien");
-    const QString fin = QStringLiteral(".mdb");
-    QString chemin = debut + fin;
-    for (int n = 2; QFile::exists(chemin); ++n) {
-        chemin = debut + u'-' + QString::number(n) + fin;
+/// Offers the newest copy in the place of a book that does not open.
+/// @return whether the user took it
+bool ReprendreCopie(const QString &raison) {
+    const QString copie = store::CopieAReprendre();
+    if (copie.isEmpty()) {
+        return false;
     }
-    return chemin;
+    const QFileInfo fichier(copie);
+    const QString date =
+        QLocale(QLocale::French).toString(fichier.lastModified(), QStringLiteral("d MMMM yyyy, HH:mm"));
+    if (!dialogs::Ask(
+            nullptr, store::TitreProgramme.toString(),
+            QStringLiteral("Le livre de recettes ne s'ouvre pas.\r\r%1\r\rVoulez-vous reprendre la copie "
+                           "« %2 » du %3 ? Le fichier qui ne s'ouvre pas sera gardé à côté.")
+                .arg(raison, fichier.fileName(), date))) {
+        return false;
+    }
+    store::CopierFichier(copie, store::CheminNouveauLivre());
+    store::RemplacerLivre();
+    return true;
+}
+
+/// Why the book does not open; empty where it does, or where another program holds it.
+QString RaisonDuRefus() {
+    try {
+        store::OuvrirLivre(store::CheminBase());
+        return {};
+    } catch (const platform::database::DatabaseError &echec) {
+        return echec.isInUse() ? QString() : QString::fromUtf8(echec.what());
+    }
 }
 
 void RestaurerAncienLivre(browser::Frmmain &frm, const QString &fichier) {
     try {
-        Convertir(frm, fichier, store::CheminAvantRestauration());
+        Convertir(frm, fichier);
     } catch (const std::runtime_error &echec) { // of the old file, of the new book or of its place
         dialogs::Message(&frm, store::TitreProgramme.toString(), QString::fromUtf8(echec.what()),
                          dialogs::Icon::Exclamation);
@@ -68,7 +93,7 @@ void RestaurerAncienLivre(browser::Frmmain &frm, const QString &fichier) {
 void RestaurerCopie(const QString &fichier) {
     try {
         store::CopierFichier(fichier, store::CheminNouveauLivre());
-        store::RemplacerLivre(store::CheminAvantRestauration());
+        store::RemplacerLivre();
     } catch (const store::CopieError &) {
         // The book is the former one, as the lists show.
     }
@@ -120,9 +145,17 @@ void RestaurerBase(browser::Frmmain &frm) {
     }
 }
 
-void ReprendreAncienLivre(const browser::Frmmain &frm) {
+void PreparerLivre(const browser::Frmmain &frm) {
     if (store::EstAncienLivre(store::CheminBase())) {
-        Convertir(frm, store::CheminBase(), CheminAncienLivre());
+        try {
+            Convertir(frm, store::CheminBase());
+        } catch (const platform::jet::JetError &echec) {
+            if (const QString raison = QString::fromUtf8(echec.what()); !ReprendreCopie(raison)) {
+                throw platform::jet::JetError(raison + store::MentionDeLaCopie());
+            }
+        }
+    } else if (const QString raison = RaisonDuRefus(); !raison.isEmpty()) {
+        ReprendreCopie(raison); // otherwise the first list fails
     }
 }
 

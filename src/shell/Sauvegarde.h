@@ -13,8 +13,9 @@ void SauvegarderBase(browser::Frmmain &frm);
 /// again. A file that cannot be copied is passed over in silence; one that cannot be converted is reported.
 void RestaurerBase(browser::Frmmain &frm);
 
-/// Converts the book of the program if it is a Jet file, which is kept as db-ancien.mdb, or under the next number
-/// where there is one already. Throws what the conversion throws; the book is untouched then.
-void ReprendreAncienLivre(const browser::Frmmain &frm);
+/// Makes the book of the program ready for the first list: converts it where it is one of old, which is kept as
+/// db-ancien.mdb, and offers the newest copy in the place of one that does not open. Throws what the conversion and the
+/// replacing throw; the book is untouched then. One that does not open and stays is left to the first query.
+void PreparerLivre(const browser::Frmmain &frm);
 
 } // namespace shell

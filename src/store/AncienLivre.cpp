@@ -1,5 +1,6 @@
 #include "AncienLivre.h"
 
+#include "CopieFichier.h"
 #include "Livre.h"
 #include "Programme.h"
 #include "Schema.h"
@@ -52,7 +53,7 @@ public:
             throw platform::jet::JetError(u"Une table que personne n'attend : " + nom);
         }
         m_table = *trouvee;
-        m_recettes = m_recettes || m_table == &kCocktails;
+        m_lues.insert(m_table);
 
         QStringList noms;
         m_places.clear();
@@ -88,9 +89,16 @@ public:
     }
 
     void Terminer() {
-        if (!m_recettes) {
+        if (!m_lues.contains(&kCocktails)) {
             throw platform::jet::JetError(QStringLiteral(
                 "Ce fichier n'est pas un livre de recettes : il n'a pas de table « Cocktails »."));
+        }
+        // A book of old has them all: one that is not found is lost in a damaged catalogue.
+        for (const Table *table : kTables) {
+            if (!m_lues.contains(table)) {
+                throw platform::jet::JetError(u"Le fichier est endommagé : la table « " + table->nom +
+                                              u" » est introuvable.");
+            }
         }
         TerminerTable();
         m_insertion.commit();
@@ -122,7 +130,7 @@ private:
     QList<qsizetype> m_places;
     QSet<qlonglong> m_numeros;
     QList<QVariantList> m_sansNumero;
-    bool m_recettes = false;
+    QSet<const Table *> m_lues;
 };
 
 void Remplir(const QString &source, const QString &destination, const ProgressionConversion &progression) {
@@ -146,9 +154,13 @@ void ConvertirAncienLivre(const QString &source, const QString &destination,
                           const ProgressionConversion &progression) {
     CreerLivre(destination);
     try {
+        if (const auto droits = platform::files::rightsOf(CheminBase())) {
+            platform::files::setRights(destination, *droits & DroitsDuLivre());
+        }
         Remplir(source, destination, progression);
     } catch (...) {
         QFile::remove(destination);
+        QFile::remove(destination + QStringLiteral("-journal"));
         throw;
     }
 }

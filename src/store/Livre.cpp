@@ -37,14 +37,11 @@ platform::database::Database OuvrirLivre() {
     try {
         return OuvrirLivre(CheminBase());
     } catch (const platform::database::DatabaseError &echec) {
-        const QString copie = CheminAvantRestauration();
-        if (!QFile::exists(copie)) {
+        const QString copie = MentionDeLaCopie();
+        if (copie.isEmpty() || echec.isInUse()) {
             throw;
         }
-        throw platform::database::DatabaseError(
-            QString::fromUtf8(echec.what()) +
-            QStringLiteral("\rLe livre d'avant la dernière restauration est dans ") + copie +
-            QLatin1Char('.'));
+        throw platform::database::DatabaseError(QString::fromUtf8(echec.what()) + copie);
     }
 }
 
@@ -54,6 +51,24 @@ platform::database::Database OuvrirLivre(const QString &chemin) {
         MettreAJour(livre);
     }
     return livre;
+}
+
+bool EstUnLivre(const QString &chemin) {
+    try {
+        auto livre = platform::database::OpenDatabase(chemin, true, true, Connexion(), kCollationFrancaise);
+        return livre.UserVersion() <= kVersionDuLivre &&
+               livre.OpenRecordset(QStringLiteral("SELECT Numero From Cocktails")).RecordCount() >= 0 &&
+               livre.OpenRecordset(QStringLiteral("PRAGMA quick_check")).Fields(0).Text() == u"ok";
+    } catch (const platform::database::DatabaseError &) {
+        return false;
+    }
+}
+
+QString MentionDeLaCopie() {
+    const QString copie = CheminAvantRestauration();
+    return QFile::exists(copie)
+               ? QStringLiteral("\rLe livre d'avant la dernière restauration est dans ") + copie + u'.'
+               : QString();
 }
 
 void PreparerCle() {

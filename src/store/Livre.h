@@ -17,6 +17,12 @@ platform::database::Database OuvrirLivre();
 /// @throws platform::database::DatabaseError
 platform::database::Database OuvrirLivre(const QString &chemin);
 
+/// Whether a file is a sound book that this program can read. It is not changed.
+bool EstUnLivre(const QString &chemin);
+
+/// What an error says of a book that does not open: where the one before the last restore is kept. Empty without one.
+QString MentionDeLaCopie();
+
 /// Begins to derive the key of the book on another thread, beside the start of the program. Never fails.
 void PreparerCle();
 

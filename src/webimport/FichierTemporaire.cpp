@@ -3,11 +3,13 @@
 #include "ErreurExecution.h"
 
 #include "platform/codepages/CodePages.h"
+#include "platform/files/FileError.h"
 
 #include <QFile>
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 
 namespace webimport {
 
@@ -18,7 +20,7 @@ constexpr int kPageDeCodes = 1252;
 constexpr int kCaracteres = 256;
 
 [[noreturn]] void Echouer(const QFile &fichier) {
-    throw ErreurExecution(fichier.fileName().toStdString() + " : " + fichier.errorString().toStdString());
+    throw ErreurExecution(platform::files::FileError(fichier.fileName(), errno).what());
 }
 
 } // namespace

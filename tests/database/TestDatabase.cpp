@@ -101,11 +101,13 @@ private Q_SLOTS:
         QTest::addColumn<QString>("connect");
         QTest::addColumn<QString>("text");
 
-        const QString foreign = u"file is encrypted or is not a database"_s;
+        const QString foreign = u"Le fichier n'est pas un livre de recettes, ou il est endommagé. "
+                                "(livre.mdb : file is encrypted or is not a database)"_s;
         QTest::newRow("wrong password") << 8192 << -1 << u";pwd =Sésame"_s << foreign;
         QTest::newRow("empty, taken for a new book") << 0 << -1 << connectString() << foreign;
         QTest::newRow("cut between pages")
-            << 4096 << -1 << connectString() << u"database disk image is malformed"_s;
+            << 4096 << -1 << connectString()
+            << u"Le livre est endommagé. (livre.mdb : database disk image is malformed)"_s;
         QTest::newRow("a damaged first page") << 8192 << 100 << connectString() << foreign;
     }
 
@@ -146,7 +148,7 @@ private Q_SLOTS:
                 open();
                 return 0;
             } catch (const DatabaseError &error) {
-                return std::string_view(error.what()) == "database is locked" ? 1 : 2;
+                return error.isInUse() ? 1 : 2;
             }
         };
         Database database = open();

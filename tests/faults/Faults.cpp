@@ -102,14 +102,13 @@ ssize_t pwrite64(int file, const void *bytes, size_t size, off64_t place) {
     return act(Call::Write, [&] { return next(file, bytes, partOf(size), place); });
 }
 
-int fsync(int file) {
-    static auto *const next = real<decltype(fsync)>("fsync");
-    return act(Call::Change, [&] { return next(file); });
+// A process that ends loses nothing of what it has written: the real ones would take nearly all the time of the test.
+int fsync(int) {
+    return act(Call::Change, [] { return 0; });
 }
 
-int fdatasync(int file) {
-    static auto *const next = real<decltype(fdatasync)>("fdatasync");
-    return act(Call::Change, [&] { return next(file); });
+int fdatasync(int) {
+    return act(Call::Change, [] { return 0; });
 }
 
 int ftruncate(int file, off_t size) noexcept {

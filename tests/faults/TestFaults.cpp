@@ -93,12 +93,12 @@ const Operation kOperations[] = {
     {"restore",
      [] {
          CopierFichier(here(u"copie.mdb"_s), CheminNouveauLivre());
-         RemplacerLivre(CheminAvantRestauration());
+         RemplacerLivre();
      }},
     {"conversion",
      [] {
          ConvertirAncienLivre(here(u"vieux.mdb"_s), CheminNouveauLivre());
-         RemplacerLivre(CheminAvantRestauration());
+         RemplacerLivre();
      }},
 };
 
@@ -193,6 +193,28 @@ private:
         return {};
     }
 
+    QStringList files() const {
+        QStringList all = QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden);
+        return all + QDir(here(u"photos"_s)).entryList(QDir::Files | QDir::Hidden);
+    }
+
+    /// Copies that are not whole, and what the next start does not remove.
+    QString judgeFiles(const QStringList &expected) const {
+        OuvrirLivre();
+        OterRestes();
+        pictures::OterBrouillonsDePhotos();
+        QStringList wrong = files();
+        wrong.removeIf([&](const QString &name) { return expected.contains(name); });
+        const QByteArrayList whole{contentOf(m_model.filePath(u"db.mdb"_s)),
+                                   contentOf(m_model.filePath(u"copie.mdb"_s))};
+        for (const QString &copy : {here(u"copie.mdb"_s), CheminAvantRestauration()}) {
+            if (QFile::exists(copy) && !whole.contains(contentOf(copy))) {
+                wrong += copy;
+            }
+        }
+        return wrong.join(u' ');
+    }
+
 private Q_SLOTS:
 
     void initTestCase() {
@@ -227,6 +249,7 @@ private Q_SLOTS:
         const auto [calls, done] = run(operation, {"", Kind::None, 0, 1}, 0);
         QVERIFY(done);
         const Rows after = rowsOf(CheminBase());
+        const QStringList expected = files();
         QStringList failures;
         int points = 0;
         for (const Way &way : kWays) {
@@ -234,7 +257,8 @@ private Q_SLOTS:
                 refresh();
                 const bool succeeded = run(operation, way, at).second;
                 ++points;
-                const QString wrong = judge(before, after, succeeded, operation.goesOn);
+                const QString wrong =
+                    judge(before, after, succeeded, operation.goesOn) + judgeFiles(expected);
                 if (!wrong.isEmpty()) {
                     failures +=
                         QString::fromUtf8(way.name) + u" at "_s + QString::number(at) + u": "_s + wrong;

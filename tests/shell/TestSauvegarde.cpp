@@ -27,6 +27,14 @@ std::unique_ptr<QTimer> accepting(QString &said) {
     });
 }
 
+std::unique_ptr<QTimer> answering(Qt::Key button, QString &question) {
+    return in<QMessageBox>([button, &question](QMessageBox &box) {
+        question = box.text();
+        QTest::keyClick(&box, button);
+        return true;
+    });
+}
+
 } // namespace
 
 class TestSauvegarde : public QObject {
@@ -160,6 +168,33 @@ private Q_SLOTS:
         writeFile(store::CheminBase(), damaged);
         QVERIFY_THROWS_EXCEPTION(platform::jet::JetError, m_test->start());
         QCOMPARE(LivreEssai::bytes(), damaged);
+    }
+
+    void keptCopyIsOfferedForABookThatDoesNotOpen() {
+        for (const QByteArray &unreadable :
+             QByteArrayList{"Monsieur,", QByteArray(4, '\1') + "Standard Jet DB"}) {
+            init();
+            QVERIFY(QFile::rename(store::CheminBase(), store::CheminAvantRestauration()));
+            writeFile(store::CheminBase(), unreadable);
+            {
+                QString question;
+                const auto no = answering(Qt::Key_Escape, question);
+                QVERIFY_THROWS_EXCEPTION(std::runtime_error, m_test->start());
+                QVERIFY(question.contains(u"db-avant-restauration.mdb"));
+            }
+            QCOMPARE(LivreEssai::bytes(), unreadable);
+
+            m_test->windows.reset();
+            m_test->windows = std::make_unique<shell::Fenetres>();
+            LivreEssai::setSetting(u"Tris"_qs, u"0"_qs); // a start that fails leaves none
+            QString question;
+            const auto yes = answering(Qt::Key_Return, question);
+            m_test->start();
+            QCOMPARE(m_test->main().LTDroit.Caption(), u"Tarte"_qs);
+            QCOMPARE(
+                contentOf(path(unreadable.startsWith('M') ? u"db-illisible.mdb"_qs : u"db-ancien.mdb"_qs)),
+                unreadable);
+        }
     }
 
 private:

@@ -68,13 +68,13 @@ private Q_SLOTS:
     void replacedBookIsKept() {
         CopierFichier(path(u"copie.mdb"_qs), CheminNouveauLivre());
         writeFile(CheminBase() + u"-journal"_qs, "of a change that is done");
-        RemplacerLivre(CheminAvantRestauration());
+        RemplacerLivre();
         QCOMPARE(recipeOf(CheminBase()), u"Soupe"_qs);
         QCOMPARE(recipeOf(CheminAvantRestauration()), u"Tarte"_qs);
         QCOMPARE(files(), QStringList({u"copie.mdb"_qs, u"db-avant-restauration.mdb"_qs, u"db.mdb"_qs}));
         // What was kept goes back, and changes places with the book.
         CopierFichier(CheminAvantRestauration(), CheminNouveauLivre());
-        RemplacerLivre(CheminAvantRestauration());
+        RemplacerLivre();
         QCOMPARE(recipeOf(CheminBase()), u"Tarte"_qs);
         QCOMPARE(recipeOf(CheminAvantRestauration()), u"Soupe"_qs);
     }
@@ -88,7 +88,7 @@ private Q_SLOTS:
         QVERIFY(!EstLeLivre(path(u"copie.mdb"_qs)));
         QVERIFY_THROWS_EXCEPTION(CopieError, CopierLivre(real));
         CopierFichier(path(u"copie.mdb"_qs), CheminNouveauLivre());
-        RemplacerLivre(CheminAvantRestauration());
+        RemplacerLivre();
         QVERIFY(QFileInfo(CheminBase()).isSymLink());
         QCOMPARE(recipeOf(real), u"Soupe"_qs);
     }
@@ -103,7 +103,7 @@ private Q_SLOTS:
             QVERIFY_THROWS_EXCEPTION(CopieError, CopierLivre(path(u"absente.mdb"_qs)));
             // The new book still has its place, the copy of the former one no more.
             CopierFichier(path(u"petit.mdb"_qs), CheminNouveauLivre());
-            QVERIFY_THROWS_EXCEPTION(CopieError, RemplacerLivre(CheminAvantRestauration()));
+            QVERIFY_THROWS_EXCEPTION(CopieError, RemplacerLivre());
         }
         QCOMPARE(contentOf(CheminBase()), before);
         QCOMPARE(recipeOf(path(u"copie.mdb"_qs)), u"Soupe"_qs);
@@ -115,7 +115,7 @@ private Q_SLOTS:
         CopierFichier(path(u"copie.mdb"_qs), CheminNouveauLivre());
         QVERIFY(QFile::setPermissions(CheminBase(), QFile::ReadOwner | QFile::ReadOther));
         QVERIFY(QFile::setPermissions(m_folder->path(), QFile::Permissions(0x7777)));
-        asPlainUser([] { QVERIFY_THROWS_EXCEPTION(CopieError, RemplacerLivre(CheminAvantRestauration())); });
+        asPlainUser([] { QVERIFY_THROWS_EXCEPTION(CopieError, RemplacerLivre()); });
         QVERIFY(QFile::setPermissions(m_folder->path(), QFile::Permissions(0x5555)));
         asPlainUser([this] {
             QVERIFY_THROWS_EXCEPTION(CopieError, CopierFichier(path(u"copie.mdb"_qs), CheminNouveauLivre()));
@@ -123,6 +123,45 @@ private Q_SLOTS:
         QVERIFY(QFile::setPermissions(m_folder->path(), QFile::Permissions(0x7777)));
         QCOMPARE(contentOf(CheminBase()), before);
         QCOMPARE(files(), QStringList({u"copie.mdb"_qs, u"db.mdb"_qs}));
+    }
+
+    void wrongFilesNeverTakeThePlaceOfTheKeptBook() {
+        const auto restore = [this](const QString &name) {
+            CopierFichier(path(name), CheminNouveauLivre());
+            RemplacerLivre();
+        };
+        writeFile(path(u"facture.mdb"_qs), "Monsieur,");
+        writeFile(path(u"lettre.mdb"_qs), "Madame,");
+        for (const char *name : {"facture.mdb", "lettre.mdb", "facture.mdb", "copie.mdb"}) {
+            restore(QString::fromLatin1(name));
+            QCOMPARE(recipeOf(CheminAvantRestauration()), u"Tarte"_qs);
+            QCOMPARE(CopieAReprendre(), CheminAvantRestauration());
+        }
+        QCOMPARE(contentOf(path(u"db-illisible.mdb"_qs)), QByteArray("Monsieur,"));
+        QCOMPARE(contentOf(path(u"db-illisible-2.mdb"_qs)), QByteArray("Madame,"));
+        QVERIFY(!QFile::exists(path(u"db-illisible-3.mdb"_qs)));
+        // A book that another program holds is neither.
+        const auto held = OuvrirLivre();
+        QVERIFY_THROWS_EXCEPTION(CopieError, restore(u"copie.mdb"_qs));
+        writeFile(CheminAvantRestauration(), "Monsieur,");
+        QCOMPARE(CopieAReprendre(), QString());
+    }
+
+    void rightsAreThoseOfTheBook() {
+        constexpr auto kShared = 0660U;
+        constexpr auto kOwn = 0600U;
+        platform::files::setRights(CheminBase(), kShared);
+        platform::files::setRights(path(u"copie.mdb"_qs), 0666);
+        writeFile(path(u"mienne.mdb"_qs), {});
+        platform::files::setRights(path(u"mienne.mdb"_qs), kOwn);
+        CopierLivre(path(u"neuve.mdb"_qs));
+        CopierLivre(path(u"mienne.mdb"_qs));
+        CopierFichier(path(u"copie.mdb"_qs), CheminNouveauLivre());
+        RemplacerLivre();
+        for (const QString &name : {u"neuve.mdb"_qs, u"db.mdb"_qs, u"db-avant-restauration.mdb"_qs}) {
+            QCOMPARE(platform::files::rightsOf(path(name)), kShared);
+        }
+        QCOMPARE(platform::files::rightsOf(path(u"mienne.mdb"_qs)), kOwn);
     }
 
     void killedAtAnyMomentLeavesAWholeBook() {
@@ -135,7 +174,7 @@ private Q_SLOTS:
             if (child == 0) {
                 for (;;) {
                     CopierFichier(path(u"copie.mdb"_qs), CheminNouveauLivre());
-                    RemplacerLivre(CheminAvantRestauration());
+                    RemplacerLivre();
                 }
             }
             QTest::qSleep(3 + 2 * round);
@@ -153,7 +192,7 @@ private Q_SLOTS:
     void errorNamesTheCopyThatIsKept() {
         writeFile(path(u"mauvais.mdb"_qs), contentOf(CheminBase()).left(20'000));
         CopierFichier(path(u"mauvais.mdb"_qs), CheminNouveauLivre());
-        RemplacerLivre(CheminAvantRestauration());
+        RemplacerLivre();
         try {
             OuvrirLivre();
             QFAIL("a damaged book was opened");

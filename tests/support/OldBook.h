@@ -75,6 +75,16 @@ public:
         m_catalog.append({{number(page), number(kTable), number(0), wide(name)}});
     }
 
+    /// The tables of a book but these, without rows.
+    void rest(const QStringList &present) {
+        for (const char *name : {"Cocktails", "Ingre", "Categorie", "DureeReal", "Verre", "Realisation",
+                                 "VIN", "Ingredient", "Quantite", "Mesure"}) {
+            if (!present.contains(QString::fromLatin1(name), Qt::CaseInsensitive)) {
+                table(QString::fromLatin1(name), {{u"N"_qs, Long}}, {});
+            }
+        }
+    }
+
     QByteArray file() {
         constexpr int kCatalogPage = 2;
         define(kCatalogPage, {{u"Id"_qs, Long}, {u"Type"_qs, Int}, {u"Flags"_qs, Long}, {u"Name"_qs, Text}},
@@ -234,5 +244,6 @@ inline QByteArray oldBook() {
                 {{W::number(7), W::number(1)}},
                 {{W::number(5), null}, W::Struck},
                 {{W::number(5), null}}});
+    book.rest({u"COCKTAILS"_qs, u"Ingre"_qs});
     return book.file();
 }

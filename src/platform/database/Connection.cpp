@@ -17,6 +17,15 @@ int compareTexts(void *compare, int leftSize, const void *left, int rightSize, c
 
 } // namespace
 
+DatabaseError engineError(sqlite3 *db) {
+    const int code = sqlite3_extended_errcode(db);
+    const int cause = code & 0xff;
+    const char *file = sqlite3_db_filename(db, "main");
+    return DatabaseError(
+        EngineFailure{code, sqlite3_errmsg(db), QString::fromUtf8(file),
+                      cause == SQLITE_IOERR || cause == SQLITE_CANTOPEN ? sqlite3_system_errno(db) : 0});
+}
+
 void SqliteCloser::operator()(sqlite3 *db) const {
     sqlite3_close(db);
 }
@@ -36,7 +45,8 @@ SqliteHandle openFile(const QString &name, int flags) {
     const int result = sqlite3_open_v2(name.toUtf8().constData(), &db, flags | SQLITE_OPEN_NOMUTEX, nullptr);
     SqliteHandle handle(db);
     if (result != SQLITE_OK) {
-        throw DatabaseError(db ? sqlite3_errmsg(db) : sqlite3_errstr(result));
+        throw DatabaseError(
+            EngineFailure{result, sqlite3_errstr(result), name, db ? sqlite3_system_errno(db) : 0});
     }
     return handle;
 }
@@ -44,17 +54,18 @@ SqliteHandle openFile(const QString &name, int flags) {
 namespace {
 
 /// The first bytes of an open file. @throws DatabaseError when it is shorter
-QByteArray saltOf(sqlite3 *db) {
+QByteArray saltOf(sqlite3 *db, const QString &name) {
     // Through the engine's own handle: opening and closing the file aside would drop the locks that another
     // connection of this process holds.
     sqlite3_file *file = nullptr;
     sqlite3_file_control(db, "main", SQLITE_FCNTL_FILE_POINTER, static_cast<void *>(&file));
     if (!file || !file->pMethods) {
-        throw DatabaseError(sqlite3_errstr(SQLITE_CANTOPEN));
+        throw DatabaseError(EngineFailure{SQLITE_CANTOPEN, sqlite3_errstr(SQLITE_CANTOPEN), name});
     }
     QByteArray salt(kSaltSize, Qt::Uninitialized);
-    if (file->pMethods->xRead(file, salt.data(), kSaltSize, 0) != SQLITE_OK) {
-        throw DatabaseError(sqlite3_errstr(SQLITE_NOTADB));
+    if (const int result = file->pMethods->xRead(file, salt.data(), kSaltSize, 0); result != SQLITE_OK) {
+        const int code = result == SQLITE_IOERR_SHORT_READ ? SQLITE_NOTADB : result;
+        throw DatabaseError(EngineFailure{code, sqlite3_errstr(code), name});
     }
     return salt;
 }
@@ -69,7 +80,7 @@ void useKey(sqlite3 *db, const QByteArray &passphrase, const QByteArray &salt) {
 
 void runScript(sqlite3 *db, const char *sql) {
     if (sqlite3_exec(db, sql, nullptr, nullptr, nullptr) != SQLITE_OK) {
-        throw DatabaseError(sqlite3_errmsg(db));
+        throw engineError(db);
     }
 }
 
@@ -78,7 +89,7 @@ Connection::Connection(const QString &name, const Options &options)
       m_collation(options.collation),
       m_journalled(options.exclusive && !options.readOnly) {
     sqlite3 *db = m_db.get();
-    if (const QByteArray salt = saltOf(db); !options.passphrase.isEmpty()) {
+    if (const QByteArray salt = saltOf(db, name); !options.passphrase.isEmpty()) {
         useKey(db, options.passphrase, salt);
     }
     sqlite3_create_collation(db, "NOCASE", SQLITE_UTF8, &m_collation, compareTexts);
@@ -114,8 +125,8 @@ void Connection::close() {
             sqlite3_exec(m_db.get(), "ROLLBACK", nullptr, nullptr, nullptr);
         }
         sqlite3_exec(m_db.get(),
-                     "BEGIN EXCLUSIVE; COMMIT; PRAGMA locking_mode = NORMAL; PRAGMA journal_mode = DELETE", nullptr,
-                     nullptr, nullptr);
+                     "BEGIN EXCLUSIVE; COMMIT; PRAGMA locking_mode = NORMAL; PRAGMA journal_mode = DELETE",
+                     nullptr, nullptr, nullptr);
     }
     m_db.reset();
 }
@@ -125,7 +136,7 @@ void Connection::failClosed() {
 }
 
 void Connection::fail() const {
-    throw DatabaseError(sqlite3_errmsg(handle()));
+    throw engineError(handle());
 }
 
 } // namespace platform::database

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Collation.h"
+#include "DatabaseError.h"
 
 #include <QByteArray>
 #include <QString>
@@ -21,9 +22,12 @@ using SqliteHandle = std::unique_ptr<sqlite3, SqliteCloser>;
 /// The passphrase in a connect string ";pwd =passphrase"; empty when it has none.
 QByteArray passphraseOf(const QString &connect);
 
+/// The failure of the last call.
+DatabaseError engineError(sqlite3 *db);
+
 /// Opens a file without reading it.
 /// @param flags of sqlite3_open_v2
-/// @throws DatabaseError with the engine's text
+/// @throws DatabaseError of the engine
 SqliteHandle openFile(const QString &name, int flags);
 
 /// Gives a connection its raw key and the page size, before anything else is asked of it.
@@ -31,7 +35,7 @@ SqliteHandle openFile(const QString &name, int flags);
 void useKey(sqlite3 *db, const QByteArray &passphrase, const QByteArray &salt);
 
 /// Runs statements whose rows do not matter.
-/// @throws DatabaseError with the engine's text
+/// @throws DatabaseError of the engine
 void runScript(sqlite3 *db, const char *sql);
 
 /// An open file, shared by a Database and the cursors made from it, which end with it.
@@ -63,7 +67,7 @@ public:
 
     const Collation &collation() const { return m_collation; }
 
-    /// Throws the engine's text of the last failure.
+    /// Throws engineError().
     [[noreturn]] void fail() const;
 
 private:

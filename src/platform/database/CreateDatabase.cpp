@@ -37,6 +37,7 @@ void CreateDatabase(const QString &name, const QString &connect, const QString &
         fillFile(name, passphraseOf(connect), schema);
     } catch (...) {
         QFile::remove(name);
+        QFile::remove(name + QStringLiteral("-journal"));
         throw;
     }
 }
