@@ -22,11 +22,12 @@ namespace {
 using browser::Outil;
 using platform::controls::ToolWindow;
 
-/// Makes a window that is given the main one.
+/// Makes a window that is given the main one. No function template: built with sanitizers, the check below could not tell
+/// at compile time that it has an address.
 template <class Fenetre>
-std::unique_ptr<ToolWindow> Faire(Fenetres &fenetres) {
+constexpr auto kFaire = [](Fenetres &fenetres) -> std::unique_ptr<ToolWindow> {
     return std::make_unique<Fenetre>(fenetres.Principale);
-}
+};
 
 std::unique_ptr<ToolWindow> FaireAccueil(Fenetres & /*fenetres*/) {
     return std::make_unique<Splash>();
@@ -56,7 +57,7 @@ void ChargerFiche(ToolWindow &fenetre) {
 // screen: the last press of Recherche brings back nothing, that of Sauvegarde the search.
 constexpr std::array kCommandes{
     Commande{.outil = Outil::CreationManuelle,
-             .faire = Faire<entry::Manuelle>,
+             .faire = kFaire<entry::Manuelle>,
              .aide = u"aide/ajouter.htm",
              .mode = ModeCreation,
              .ephemere = true},
@@ -66,13 +67,13 @@ constexpr std::array kCommandes{
              .aide = u"aide/ajouter.htm",
              .mode = ModeCreation},
     Commande{.outil = Outil::Fiches,
-             .faire = Faire<sheets::FicheAlbum>,
+             .faire = kFaire<sheets::FicheAlbum>,
              .preparer = ChargerFiche,
              .aide = u"aide/fiches.htm"},
     Commande{
         .outil = Outil::Acquisition, .faire = FaireAtelier, .aide = u"aide/images.htm", .ephemere = true},
     Commande{.outil = Outil::Recherche,
-             .faire = Faire<search::FrmFind>,
+             .faire = kFaire<search::FrmFind>,
              .aide = u"aide/rechercher.htm",
              .retour = Outil::Sauvegarde},
     Commande{.outil = Outil::Sauvegarde,
@@ -96,7 +97,8 @@ constexpr std::size_t Place(Outil outil) {
     return static_cast<std::size_t>(outil);
 }
 
-/// Whether each tool has its row, in order, does one thing, has its page of the help if it is a window, and no two windows come back for the same value.
+/// Whether each tool has its row, in order, does one thing, has its page of the help if it is a window, and no two windows
+/// come back for the same value.
 constexpr bool SontToutes() {
     std::array<int, browser::kNombreOutils> retours{};
     for (std::size_t i = 0; i < kCommandes.size(); ++i) {
