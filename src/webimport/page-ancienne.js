@@ -4,8 +4,8 @@
 //
 // Rules
 //  1. Names of elements in upper case, of attributes in lower case, attributes in the order of the source.
-//  2. A value of letters, digits and - _ . : # % has no quotes, any other and the empty one has; an address
-//     in src or href always has. Addresses are those written in the page, not resolved.
+//  2. A value of letters, digits and - _ . : # % stands without quotes, any other and the empty one within
+//     them, and so does each address in src or href. Addresses are those written in the page, not resolved.
 //  3. In texts &, <, > and the no-break blank are escaped, in values &, the quote and the no-break blank;
 //     every other character is itself, whatever the source wrote for it.
 //  4. Comments stay as they are, and so does the content of the elements that hold no markup, scripts and
